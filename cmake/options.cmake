@@ -1,0 +1,32 @@
+# What every target of the project is compiled with, as one interface target,
+# and the one way to add a layer or a test program.
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(orvane_options INTERFACE)
+target_compile_options(orvane_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+if(ORVANE_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# orvane_couche(name SOURCES ... DEPENDS ...): one static library for a folder.
+# Its include directory is that folder alone, so a header of a layer that is
+# not linked is not found.
+function(orvane_couche nom)
+  cmake_parse_arguments(A "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_library(orvane_${nom} STATIC ${A_SOURCES})
+  target_include_directories(orvane_${nom} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(orvane_${nom} PUBLIC ${A_DEPENDS} PRIVATE orvane_options)
+endfunction()
+
+# orvane_test(name SOURCES ... DEPENDS ...): a GoogleTest program, each test known to ctest.
+function(orvane_test nom)
+  cmake_parse_arguments(A "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(test_${nom} ${A_SOURCES})
+  target_link_libraries(test_${nom} PRIVATE ${A_DEPENDS} orvane_options GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(test_${nom} TEST_PREFIX ${nom}. DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
