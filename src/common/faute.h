@@ -9,8 +9,8 @@ namespace common {
 /// file and line, what is wrong and what the limit is. Handlers let it pass; the
 /// one place that calls them shows the report and ends the program with status 1.
 class Faute : public std::runtime_error {
-public:
-  explicit Faute(const std::string& rapport) : std::runtime_error(rapport) {}
+  public:
+    explicit Faute(const std::string& rapport) : std::runtime_error(rapport) {}
 };
 
 }  // namespace common

@@ -17,36 +17,36 @@ namespace common {
 
 /// A file open for reading.
 class Flux {
-public:
-  Flux() = default;
-  Flux(const Flux&) = delete;
-  Flux& operator=(const Flux&) = delete;
-  virtual ~Flux() = default;
-  /// Fills `tampon` from the file; `lus` is how many bytes came, 0 at the end.
-  [[nodiscard]] virtual std::error_code lire(std::span<char> tampon, std::size_t& lus) = 0;
+  public:
+    Flux() = default;
+    Flux(const Flux&) = delete;
+    Flux& operator=(const Flux&) = delete;
+    virtual ~Flux() = default;
+    /// Fills `tampon` from the file; `lus` is how many bytes came, 0 at the end.
+    [[nodiscard]] virtual std::error_code lire(std::span<char> tampon, std::size_t& lus) = 0;
 };
 
 /// What programs ask of a disk. Every operation says its failure; none leaves half a change.
 class Disque {
-public:
-  Disque() = default;
-  Disque(const Disque&) = delete;
-  Disque& operator=(const Disque&) = delete;
-  virtual ~Disque() = default;
+  public:
+    Disque() = default;
+    Disque(const Disque&) = delete;
+    Disque& operator=(const Disque&) = delete;
+    virtual ~Disque() = default;
 
-  [[nodiscard]] virtual std::error_code ouvrir(std::string_view chemin,
-                                               std::unique_ptr<Flux>& flux) = 0;
-  /// Appends bytes in one write; makes the file if it is missing. If the file ends in mid-line
-  /// the appended bytes start a line of their own. On failure the file is as it was.
-  [[nodiscard]] virtual std::error_code ajouter(std::string_view chemin,
-                                                std::string_view octets) = 0;
-  /// Puts a whole new file in the place of the old one in one step.
-  [[nodiscard]] virtual std::error_code remplacer(std::string_view chemin,
+    [[nodiscard]] virtual std::error_code ouvrir(std::string_view chemin,
+                                                 std::unique_ptr<Flux>& flux) = 0;
+    /// Appends bytes in one write; makes the file if it is missing. If the file ends in mid-line
+    /// the appended bytes start a line of their own. On failure the file is as it was.
+    [[nodiscard]] virtual std::error_code ajouter(std::string_view chemin,
                                                   std::string_view octets) = 0;
-  [[nodiscard]] virtual std::error_code creerdossier(std::string_view chemin) = 0;
-  [[nodiscard]] virtual std::error_code supprimer(std::string_view chemin) = 0;
-  [[nodiscard]] virtual bool existe(std::string_view chemin) = 0;
-  [[nodiscard]] virtual bool estdossier(std::string_view chemin) = 0;
+    /// Puts a whole new file in the place of the old one in one step.
+    [[nodiscard]] virtual std::error_code remplacer(std::string_view chemin,
+                                                    std::string_view octets) = 0;
+    [[nodiscard]] virtual std::error_code creerdossier(std::string_view chemin) = 0;
+    [[nodiscard]] virtual std::error_code supprimer(std::string_view chemin) = 0;
+    [[nodiscard]] virtual bool existe(std::string_view chemin) = 0;
+    [[nodiscard]] virtual bool estdossier(std::string_view chemin) = 0;
 };
 
 /// The system's reason for a failure, in French.
@@ -56,44 +56,44 @@ public:
 /// Windows-1252. A last line without a line end is a line. Memory: one buffer, grown only for a
 /// line that is longer. Throws `Faute` ("<action> : <path>...") if the file cannot be read.
 class Lignes {
-public:
-  Lignes(Disque& disque, std::string_view chemin, std::string_view action);
-  /// The next line, valid until the next call; false at the end of the file.
-  [[nodiscard]] bool suivante(std::string_view& ligne);
-  /// Number of the line last given, from 1.
-  [[nodiscard]] std::size_t numero() const { return numero_; }
+  public:
+    Lignes(Disque& disque, std::string_view chemin, std::string_view action);
+    /// The next line, valid until the next call; false at the end of the file.
+    [[nodiscard]] bool suivante(std::string_view& ligne);
+    /// Number of the line last given, from 1.
+    [[nodiscard]] std::size_t numero() const { return numero_; }
 
-private:
-  bool remplir();
+  private:
+    bool remplir();
 
-  std::string chemin_;
-  std::string action_;
-  std::unique_ptr<Flux> flux_;
-  std::vector<char> tampon_;
-  std::size_t debut_ = 0;
-  std::size_t fin_ = 0;
-  std::size_t numero_ = 0;
-  bool fini_ = false;
+    std::string chemin_;
+    std::string action_;
+    std::unique_ptr<Flux> flux_;
+    std::vector<char> tampon_;
+    std::size_t debut_ = 0;
+    std::size_t fin_ = 0;
+    std::size_t numero_ = 0;
+    bool fini_ = false;
 };
 
 /// Items of a text file, one pass, as bytes of Windows-1252: blanks at the start are skipped; an
 /// item that begins with a double quote runs to the next one, over line ends too, and blanks and
 /// one comma or line end behind it are consumed; any other item ends at a comma or a line end.
 class Items {
-public:
-  Items(Disque& disque, std::string_view chemin, std::string_view action);
-  /// The next item (`lireitem`), valid until the next call; false at the end of the file.
-  [[nodiscard]] bool lireitem(std::string_view& item);
-  /// Number of the line on which the item last given begins, from 1.
-  [[nodiscard]] std::size_t numero() const { return lignes_.numero(); }
+  public:
+    Items(Disque& disque, std::string_view chemin, std::string_view action);
+    /// The next item (`lireitem`), valid until the next call; false at the end of the file.
+    [[nodiscard]] bool lireitem(std::string_view& item);
+    /// Number of the line on which the item last given begins, from 1.
+    [[nodiscard]] std::size_t numero() const { return lignes_.numero(); }
 
-private:
-  bool lireguillemets(std::string_view& item);
+  private:
+    bool lireguillemets(std::string_view& item);
 
-  Lignes lignes_;
-  std::string_view reste_;
-  std::string item_;
-  bool ouverte_ = false;
+    Lignes lignes_;
+    std::string_view reste_;
+    std::string item_;
+    bool ouverte_ = false;
 };
 
 /// The whole file as bytes. Throws `Faute`.

@@ -7,34 +7,34 @@ namespace common {
 
 /// A source of uniform numbers.
 class Hasard {
-public:
-  Hasard() = default;
-  Hasard(const Hasard&) = delete;
-  Hasard& operator=(const Hasard&) = delete;
-  virtual ~Hasard() = default;
-  /// Seeds the source from the clock (seconds since midnight).
-  virtual void amorcer(std::int32_t secondes) = 0;
-  /// A uniform number in [0,1).
-  [[nodiscard]] virtual double tirer() = 0;
+  public:
+    Hasard() = default;
+    Hasard(const Hasard&) = delete;
+    Hasard& operator=(const Hasard&) = delete;
+    virtual ~Hasard() = default;
+    /// Seeds the source from the clock (seconds since midnight).
+    virtual void amorcer(std::int32_t secondes) = 0;
+    /// A uniform number in [0,1).
+    [[nodiscard]] virtual double tirer() = 0;
 };
 
 /// The source that players get. A seed of the clock is mixed with a count of the seedings, so that
 /// two draws within one second differ.
 class HasardReel : public Hasard {
-public:
-  void amorcer(std::int32_t secondes) override {
-    ++amorces_;
-    std::seed_seq graine{static_cast<std::uint32_t>(secondes), amorces_};
-    moteur_.seed(graine);
-  }
-  [[nodiscard]] double tirer() override {
-    constexpr double unite = 1.0 / 9007199254740992.0;  // 2^-53
-    return static_cast<double>(moteur_() >> 11U) * unite;
-  }
+  public:
+    void amorcer(std::int32_t secondes) override {
+        ++amorces_;
+        std::seed_seq graine{static_cast<std::uint32_t>(secondes), amorces_};
+        moteur_.seed(graine);
+    }
+    [[nodiscard]] double tirer() override {
+        constexpr double unite = 1.0 / 9007199254740992.0;  // 2^-53
+        return static_cast<double>(moteur_() >> 11U) * unite;
+    }
 
-private:
-  std::mt19937_64 moteur_;
-  std::uint32_t amorces_ = 0;
+  private:
+    std::mt19937_64 moteur_;
+    std::uint32_t amorces_ = 0;
 };
 
 }  // namespace common

@@ -7,20 +7,20 @@ namespace common {
 
 /// A moment of the system's clock, local time.
 struct Instant {
-  int annee = 2000;
-  int mois = 1;  ///< 1 to 12
-  int jour = 1;  ///< 1 to 31
-  int heure = 0;
-  int minute = 0;
-  int seconde = 0;
+    int annee = 2000;
+    int mois = 1;  ///< 1 to 12
+    int jour = 1;  ///< 1 to 31
+    int heure = 0;
+    int minute = 0;
+    int seconde = 0;
 
-  /// dd/mm/yyyy
-  [[nodiscard]] std::string date() const;
-  /// HH:MM:SS
-  [[nodiscard]] std::string heuredujour() const;
-  [[nodiscard]] std::int32_t secondesdepuisminuit() const {
-    return heure * 3600 + minute * 60 + seconde;
-  }
+    /// dd/mm/yyyy
+    [[nodiscard]] std::string date() const;
+    /// HH:MM:SS
+    [[nodiscard]] std::string heuredujour() const;
+    [[nodiscard]] std::int32_t secondesdepuisminuit() const {
+        return heure * 3600 + minute * 60 + seconde;
+    }
 };
 
 }  // namespace common

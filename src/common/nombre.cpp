@@ -10,99 +10,112 @@
 namespace common {
 namespace {
 
-bool chiffre(char c) { return c >= '0' && c <= '9'; }
+bool chiffre(char c) {
+    return c >= '0' && c <= '9';
+}
 
 /// Length of the number at the start of `texte` (sign included), 0 if there is no digit.
 std::size_t longueurnombre(std::string_view texte) {
-  std::size_t i = 0;
-  bool vu = false;
-  bool point = false;
-  if (i < texte.size() && (texte[i] == '+' || texte[i] == '-')) ++i;
-  for (; i < texte.size(); ++i) {
-    if (chiffre(texte[i])) vu = true;
-    else if (texte[i] == '.' && !point) point = true;
-    else break;
-  }
-  return vu ? i : 0;
+    std::size_t i = 0;
+    bool vu = false;
+    bool point = false;
+    if (i < texte.size() && (texte[i] == '+' || texte[i] == '-'))
+        ++i;
+    for (; i < texte.size(); ++i) {
+        if (chiffre(texte[i]))
+            vu = true;
+        else if (texte[i] == '.' && !point)
+            point = true;
+        else
+            break;
+    }
+    return vu ? i : 0;
 }
 
 std::int16_t verifie(double entier, std::string_view quoi) {
-  constexpr double bas = std::numeric_limits<std::int16_t>::min();
-  constexpr double haut = std::numeric_limits<std::int16_t>::max();
-  if (!(entier >= bas && entier <= haut)) {
-    throw Faute(std::string(quoi) + " : la valeur " + textenombre(entier) +
-                " sort des limites admises (de -32768 à 32767).");
-  }
-  return static_cast<std::int16_t>(entier);
+    constexpr double bas = std::numeric_limits<std::int16_t>::min();
+    constexpr double haut = std::numeric_limits<std::int16_t>::max();
+    if (!(entier >= bas && entier <= haut)) {
+        throw Faute(std::string(quoi) + " : la valeur " + textenombre(entier) +
+                    " sort des limites admises (de -32768 à 32767).");
+    }
+    return static_cast<std::int16_t>(entier);
 }
 
 }  // namespace
 
 double valeur(std::string_view texte) {
-  const auto depart = texte.find_first_not_of(" \t");
-  if (depart == std::string_view::npos) return 0;
-  texte.remove_prefix(depart);
-  auto nombre = texte.substr(0, longueurnombre(texte));
-  if (nombre.empty()) return 0;
-  if (nombre.front() == '+') nombre.remove_prefix(1);
-  double resultat = 0;
-  const auto lu = std::from_chars(nombre.data(), nombre.data() + nombre.size(), resultat,
-                                  std::chars_format::fixed);
-  if (lu.ec == std::errc::result_out_of_range) {
-    const auto entiere = nombre.substr(0, nombre.find('.'));
-    if (entiere.find_first_not_of("-0") == std::string_view::npos) return 0;  // too small
-    constexpr double infini = std::numeric_limits<double>::infinity();
-    return nombre.front() == '-' ? -infini : infini;
-  }
-  return resultat;
+    const auto depart = texte.find_first_not_of(" \t");
+    if (depart == std::string_view::npos)
+        return 0;
+    texte.remove_prefix(depart);
+    auto nombre = texte.substr(0, longueurnombre(texte));
+    if (nombre.empty())
+        return 0;
+    if (nombre.front() == '+')
+        nombre.remove_prefix(1);
+    double resultat = 0;
+    const auto lu = std::from_chars(nombre.data(), nombre.data() + nombre.size(), resultat,
+                                    std::chars_format::fixed);
+    if (lu.ec == std::errc::result_out_of_range) {
+        const auto entiere = nombre.substr(0, nombre.find('.'));
+        if (entiere.find_first_not_of("-0") == std::string_view::npos)
+            return 0;  // too small
+        constexpr double infini = std::numeric_limits<double>::infinity();
+        return nombre.front() == '-' ? -infini : infini;
+    }
+    return resultat;
 }
 
 std::int16_t entier16(double nombre, std::string_view quoi) {
-  return verifie(std::nearbyint(nombre), quoi);  // the default rounding mode takes ties to even
+    return verifie(std::nearbyint(nombre), quoi);  // the default rounding mode takes ties to even
 }
 
 std::int16_t entier16(std::int64_t nombre, std::string_view quoi) {
-  return verifie(static_cast<double>(nombre), quoi);
+    return verifie(static_cast<double>(nombre), quoi);
 }
 
 std::string CalcDuree(std::int16_t secondes) {
-  if (secondes < 0) return "00:00";
-  return deuxchiffres(secondes / 60) + ":" + deuxchiffres(secondes % 60);
+    if (secondes < 0)
+        return "00:00";
+    return deuxchiffres(secondes / 60) + ":" + deuxchiffres(secondes % 60);
 }
 
 std::string textenombre(double nombre) {
-  std::array<char, 64> tampon{};  // to_chars, unlike printf, knows no locale
-  const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre,
-                                   std::chars_format::general, 15);
-  return {tampon.data(), ecrit.ptr};
+    std::array<char, 64> tampon{};  // to_chars, unlike printf, knows no locale
+    const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre,
+                                     std::chars_format::general, 15);
+    return {tampon.data(), ecrit.ptr};
 }
 
 std::string decimales(double nombre, int nombrededecimales) {
-  // 60 digits hold the exact value of any number whose tie could matter here.
-  std::array<char, 400> tampon{};
-  const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(),
-                                   std::fabs(nombre), std::chars_format::fixed, 60);
-  std::string texte(tampon.data(), ecrit.ptr);
-  const auto coupe = texte.find('.') + static_cast<std::size_t>(nombrededecimales) + 1;
-  const bool plus = texte[coupe] >= '5';
-  texte.resize(coupe);
-  for (auto i = texte.size(); plus && i > 0;) {
-    auto& c = texte[--i];
-    if (c == '.') continue;
-    if (c != '9') {
-      ++c;
-      break;
+    // 60 digits hold the exact value of any number whose tie could matter here.
+    std::array<char, 400> tampon{};
+    const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(),
+                                     std::fabs(nombre), std::chars_format::fixed, 60);
+    std::string texte(tampon.data(), ecrit.ptr);
+    const auto coupe = texte.find('.') + static_cast<std::size_t>(nombrededecimales) + 1;
+    const bool plus = texte[coupe] >= '5';
+    texte.resize(coupe);
+    for (auto i = texte.size(); plus && i > 0;) {
+        auto& c = texte[--i];
+        if (c == '.')
+            continue;
+        if (c != '9') {
+            ++c;
+            break;
+        }
+        c = '0';
+        if (i == 0)
+            texte.insert(0, "1");
     }
-    c = '0';
-    if (i == 0) texte.insert(0, "1");
-  }
-  const bool nul = texte.find_first_not_of("0.") == std::string::npos;
-  return nombre < 0 && !nul ? "-" + texte : texte;
+    const bool nul = texte.find_first_not_of("0.") == std::string::npos;
+    return nombre < 0 && !nul ? "-" + texte : texte;
 }
 
 std::string deuxchiffres(std::int64_t nombre) {
-  const auto texte = std::to_string(nombre);
-  return texte.size() < 2 ? "0" + texte : texte;
+    const auto texte = std::to_string(nombre);
+    return texte.size() < 2 ? "0" + texte : texte;
 }
 
 }  // namespace common

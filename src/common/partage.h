@@ -9,32 +9,32 @@ namespace common {
 
 /// Public variables of `Form3` (the menu).
 struct VariablesForm3 {
-  std::string util;           ///< user name, and the name of the user's folder
-  std::string toue;           ///< kind of run: "T" whole, "E" sample, "R" revision, "" a part
-  std::string typ;            ///< "rallong" or empty
-  std::string nombase;        ///< title of the list
-  bool persomulti = false;    ///< the personal list has several solutions
-  std::string couleurdufond = "Par défaut";  ///< name of the background colour
-  std::string versionlocale;
-  std::string dateversion;
+    std::string util;         ///< user name, and the name of the user's folder
+    std::string toue;         ///< kind of run: "T" whole, "E" sample, "R" revision, "" a part
+    std::string typ;          ///< "rallong" or empty
+    std::string nombase;      ///< title of the list
+    bool persomulti = false;  ///< the personal list has several solutions
+    std::string couleurdufond = "Par défaut";  ///< name of the background colour
+    std::string versionlocale;
+    std::string dateversion;
 };
 
 /// Public variables of `Dialog2` (the options).
 struct VariablesDialog2 {
-  std::int16_t seuilch = 0;        ///< percent from which a result is green
-  std::int16_t seuilcb = 0;        ///< percent under which a result is red
-  std::int16_t tempsparmot = 0;    ///< seconds a word
-  std::int16_t nbechantillon = 0;  ///< series of 30 racks in a sample
-  std::int16_t son = 0;
-  std::int16_t saisieassistee = 0;
-  std::int16_t nbechuni = 0;  ///< sample sizes, in racks, by number of solutions
-  std::int16_t nbechduo = 0;
-  std::int16_t nbechtri = 0;
-  std::int16_t nbechqua = 0;
-  std::int16_t nbechqui = 0;
+    std::int16_t seuilch = 0;        ///< percent from which a result is green
+    std::int16_t seuilcb = 0;        ///< percent under which a result is red
+    std::int16_t tempsparmot = 0;    ///< seconds a word
+    std::int16_t nbechantillon = 0;  ///< series of 30 racks in a sample
+    std::int16_t son = 0;
+    std::int16_t saisieassistee = 0;
+    std::int16_t nbechuni = 0;  ///< sample sizes, in racks, by number of solutions
+    std::int16_t nbechduo = 0;
+    std::int16_t nbechtri = 0;
+    std::int16_t nbechqua = 0;
+    std::int16_t nbechqui = 0;
 
-  /// Sets the five sample sizes for a number of series. Throws `Faute` past 16 bits.
-  void affecterechantillons(std::int16_t nbser);
+    /// Sets the five sample sizes for a number of series. Throws `Faute` past 16 bits.
+    void affecterechantillons(std::int16_t nbser);
 };
 
 }  // namespace common

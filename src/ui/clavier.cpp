@@ -1,0 +1,163 @@
+// The keys of a form: preview, default button, Tab, and the editing of text boxes.
+
+#include <algorithm>
+
+#include "formulaire.h"
+#include "texte.h"
+
+namespace ui {
+namespace {
+
+bool editable(const Controle& controle) {
+    return controle.genre() == Genre::Boite || controle.genre() == Genre::Liste;
+}
+
+}  // namespace
+
+void Formulaire::enfoncer(Touche touche, std::optional<char32_t> caractere) {
+    declencher(toucheenfoncee, touche);
+    if (touche.avalee)
+        return;
+    if (touche.code == touches::tab) {
+        tabuler(touche.maj);
+        return;
+    }
+    auto* controle = focus_;
+    if (controle == nullptr || touchedebouton(*controle, touche))
+        return;
+    declencher(controle->toucheenfoncee, touche);
+    if (touche.avalee || focus_ != controle || !editable(*controle))
+        return;
+    editer(*controle, touche);
+    if (caractere && !touche.ctrl)
+        taper(*controle, *caractere);
+}
+
+/// Enter clicks the button that has the focus, or from elsewhere the default button; the blank
+/// clicks a button or a check box.
+bool Formulaire::touchedebouton(Controle& controle, const Touche& touche) {
+    const bool bouton = controle.genre() == Genre::Bouton;
+    Controle* cible = nullptr;
+    if (touche.code == touches::entree && !controle.multiligne)
+        cible = bouton ? &controle : defaut_;
+    if (touche.code == touches::espace && (bouton || controle.genre() == Genre::Case))
+        cible = &controle;
+    if (cible == nullptr || !accessible(*cible))
+        return false;
+    if (cible == &controle)
+        cliquer(controle);
+    else
+        declencher(cible->clic);
+    return true;
+}
+
+void Formulaire::relacher(int code) {
+    if (focus_ != nullptr)
+        declencher(focus_->toucherelachee, code);
+}
+
+/// Keys that move the caret, select or erase.
+void Formulaire::editer(Controle& controle, const Touche& touche) {
+    const auto bout = common::longueur(controle.texte());
+    const auto place = controle.curseur();
+    const auto deplacer = [&](std::size_t curseur) {
+        controle.selectionner(touche.maj ? controle.ancre() : curseur, curseur);
+    };
+    switch (touche.code) {
+        case touches::gauche:
+            deplacer(place > 0 ? place - 1 : 0);
+            break;
+        case touches::droite:
+            deplacer(std::min(place + 1, bout));
+            break;
+        case touches::origine:
+            deplacer(0);
+            break;
+        case touches::fin:
+            deplacer(bout);
+            break;
+        case 'A':
+            if (touche.ctrl)
+                controle.toutselectionner();
+            break;
+        case touches::suppr:
+            if (!controle.verrou())
+                controle.effacer(false);
+            break;
+        case touches::retour: {
+            if (controle.verrou())
+                break;
+            int code = touches::retour;
+            declencher(controle.caractere, code);
+            if (code == touches::retour)
+                controle.effacer(true);
+            break;
+        }
+        default:
+            break;
+    }
+}
+
+/// A typed character: the handler may change or drop it. One that the Western code page lacks is
+/// refused, as no file could hold it.
+void Formulaire::taper(Controle& controle, char32_t caractere) {
+    if (controle.verrou())
+        return;
+    const auto numero = common::code1252(caractere);
+    if (!numero) {
+        plateforme_.bip();
+        return;
+    }
+    int code = *numero;
+    declencher(controle.caractere, code);
+    constexpr int premiervisible = 32;
+    const bool saut = controle.multiligne && code == touches::entree;
+    if (saut)
+        controle.inserer("\n");
+    else if (code >= premiervisible && code <= 0xFF)
+        controle.inserer(common::utf8(common::caractere1252(static_cast<unsigned char>(code))));
+}
+
+void Formulaire::tabuler(bool enarriere) {
+    if (ordre_.empty())
+        return;
+    const auto* repere = focus_ != nullptr ? focus_ : repere_;
+    const auto place = std::find(ordre_.begin(), ordre_.end(), repere);
+    const auto n = ordre_.size();
+    // From outside the order, Tab enters at its start and Shift+Tab at its end.
+    auto i = static_cast<std::size_t>(place - ordre_.begin());
+    if (place == ordre_.end())
+        i = enarriere ? 0 : n - 1;
+    for (std::size_t pas = 0; pas < n; ++pas) {
+        i = enarriere ? (i + n - 1) % n : (i + 1) % n;
+        if (!accessible(*ordre_[i]))
+            continue;
+        donnerfocus(*ordre_[i]);
+        return;
+    }
+}
+
+void Formulaire::coller(std::string_view texteacoller) {
+    auto* controle = focus_;
+    if (controle == nullptr || !editable(*controle) || controle->verrou() ||
+        !controle->pressepapiers)
+        return;
+    for (const auto& lettre : common::caracteres(texteacoller)) {
+        if (focus_ != controle)
+            return;
+        taper(*controle, common::premier(lettre));
+    }
+}
+
+std::string Formulaire::couper() {
+    auto* controle = focus_;
+    if (controle == nullptr || !editable(*controle) || controle->verrou() ||
+        !controle->pressepapiers || controle->selection() == 0)
+        return {};
+    auto coupe = controle->texteselectionne();
+    controle->effacer(false);
+    declencher(controle->toucherelachee, touches::suppr);
+    return coupe;
+}
+
+}  // namespace ui

@@ -1,0 +1,117 @@
+#include "controle.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "formulaire.h"
+#include "texte.h"
+
+namespace ui {
+
+std::string Couleur::nom() const {
+    if (*this == fenetre())
+        return "systeme:fenetre";
+    if (*this == bouton())
+        return "systeme:bouton";
+    constexpr std::string_view chiffres = "0123456789ABCDEF";
+    std::string texte = "#";
+    for (int decalage = 20; decalage >= 0; decalage -= 4)
+        texte += chiffres[(rvb() >> static_cast<unsigned>(decalage)) & 0xFU];
+    return texte;
+}
+
+Controle::Controle(Formulaire& formulaire, Genre genre, std::string nom, int index)
+    : formulaire_(formulaire), nom_(std::move(nom)), index_(index), genre_(genre) {
+    focalisable = genre == Genre::Boite || genre == Genre::Bouton || genre == Genre::Case ||
+                  genre == Genre::Liste;
+    if (genre == Genre::Boite || genre == Genre::Liste)
+        fond = Couleur::fenetre();
+}
+
+std::string Controle::nomcomplet() const {
+    return index_ < 0 ? nom_ : nom_ + "(" + std::to_string(index_) + ")";
+}
+
+void Controle::placer(const Cadrage& cadre) {
+    gauche = cadre.gauche;
+    haut = cadre.haut;
+    largeur = cadre.largeur;
+    hauteur = cadre.hauteur;
+}
+
+void Controle::modifie(Champ champ) {
+    if (champ == Champ::Texte) {
+        textechange();
+        return;
+    }
+    notifier(champ);
+    const bool parti =
+        (champ == Champ::Visible && !visible()) || (champ == Champ::Actif && !actif());
+    if (parti)
+        formulaire_.perdrefocus(*this);
+}
+
+/// The caret follows a text that the program shortens to its end; otherwise it stays.
+void Controle::textechange() {
+    const auto ancienne = longueur_;
+    longueur_ = common::longueur(texte());
+    if (!std::exchange(saisie_, false)) {
+        curseur_ = longueur_ < ancienne ? longueur_ : std::min(curseur_, longueur_);
+        ancre_ = curseur_;
+    }
+    notifier(Champ::Texte);
+    declencher(change);
+}
+
+std::size_t Controle::selection() const {
+    return std::max(curseur_, ancre_) - std::min(curseur_, ancre_);
+}
+
+std::string Controle::texteselectionne() const {
+    return common::milieu(texte(), std::min(curseur_, ancre_) + 1, selection());
+}
+
+void Controle::selectionner(std::size_t ancre, std::size_t curseur) {
+    const auto nouvelleancre = std::min(ancre, longueur_);
+    const auto nouveaucurseur = std::min(curseur, longueur_);
+    if (nouvelleancre == ancre_ && nouveaucurseur == curseur_)
+        return;
+    ancre_ = nouvelleancre;
+    curseur_ = nouveaucurseur;
+    notifier(Champ::Selection);
+}
+
+void Controle::toutselectionner() {
+    selectionner(0, longueur_);
+}
+
+void Controle::inserer(std::string_view caracteres) {
+    const auto place = std::min(curseur_, ancre_);
+    ecrire(common::debut(texte(), place) + std::string(caracteres) +
+               common::milieu(texte(), place + selection() + 1),
+           place + common::longueur(caracteres));
+}
+
+void Controle::effacer(bool avant) {
+    if (selection() == 0) {
+        if (avant ? curseur_ == 0 : curseur_ == longueur_)
+            return;
+        const auto place = avant ? curseur_ - 1 : curseur_;
+        ecrire(common::debut(texte(), place) + common::milieu(texte(), place + 2), place);
+        return;
+    }
+    inserer({});
+}
+
+void Controle::ecrire(std::string nouveau, std::size_t curseur) {
+    curseur_ = curseur;
+    ancre_ = curseur;
+    if (nouveau == texte()) {
+        notifier(Champ::Selection);
+        return;
+    }
+    saisie_ = true;  // the caret is set already
+    texte = std::move(nouveau);
+}
+
+}  // namespace ui

@@ -1,0 +1,70 @@
+#include "plateforme.h"
+
+#include <exception>
+#include <utility>
+
+#include "faute.h"
+
+namespace ui {
+
+void Plateforme::message(std::string_view texte, Icone icone) {
+    static_cast<void>(demander(texte, icone, false));
+    verifierfin();
+}
+
+bool Plateforme::question(std::string_view texte) {
+    const auto reponse = demander(texte, Icone::Question, true);
+    verifierfin();
+    return reponse == Reponse::Oui;
+}
+
+void Plateforme::jouerson(std::string_view fichier) {
+    jouer(fichier);
+    verifierfin();
+}
+
+void Plateforme::laissercourir() {
+    pomper();
+    verifierfin();
+}
+
+/// An event that ran inside this one may have ended the program.
+void Plateforme::verifierfin() const {
+    if (fini_)
+        throw Fin{statut_};
+}
+
+void Plateforme::finir(int statut) {
+    if (fini_)
+        return;
+    fini_ = true;
+    statut_ = statut;
+}
+
+void Plateforme::executer(const std::function<void()>& evenement) {
+    if (fini_)
+        return;
+    ++profondeur_;
+    std::string rapport;
+    try {
+        evenement();
+    } catch (const Fin& fin) {
+        finir(fin.statut);
+    } catch (const common::Faute& faute) {
+        rapport = faute.what();
+        finir(1);
+    } catch (const std::exception& imprevu) {
+        rapport = std::string("Erreur imprévue : ") + imprevu.what();
+        finir(1);
+    }
+    if (!rapport.empty())
+        rapporter(rapport);
+    if (fini_)
+        arreter(statut_);
+    if (--profondeur_ > 0)
+        return;
+    for (const auto& suite : std::exchange(suites_, {}))
+        suite();
+}
+
+}  // namespace ui

@@ -1,0 +1,91 @@
+#pragma once
+
+// Everything that is not a rule comes in from here: clock, chance, disk, sound,
+// shell, download, message boxes, "let pending events run", and the way in
+// which a form gets its window.
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fichier.h"
+#include "hasard.h"
+#include "horloge.h"
+
+namespace ui {
+
+class Formulaire;
+
+enum class Icone : std::uint8_t { Aucune, Information, Exclamation, Question };
+enum class Reponse : std::uint8_t { Ok, Oui, Non };
+
+/// The program ends at once, normally; thrown by `terminer`, caught by `executer`.
+struct Fin {
+    int statut = 0;
+};
+
+class Plateforme {
+  public:
+    Plateforme() = default;
+    Plateforme(const Plateforme&) = delete;
+    Plateforme& operator=(const Plateforme&) = delete;
+    virtual ~Plateforme() = default;
+
+    virtual common::Disque& disque() = 0;
+    virtual common::Hasard& hasard() = 0;
+    [[nodiscard]] virtual common::Instant maintenant() = 0;
+
+    /// The system beep.
+    virtual void bip() = 0;
+    /// Opens an address or a file with its default handler; a failure is ignored.
+    virtual void ouvrir(std::string_view cible) = 0;
+    /// Downloads an address, never from a cache, to a file that takes its name only when whole.
+    /// False if that failed; the file is then what it was.
+    [[nodiscard]] virtual bool telecharger(std::string_view adresse, std::string_view chemin) = 0;
+
+    /// A message box with an OK button; returns when it is answered.
+    void message(std::string_view texte, Icone icone = Icone::Aucune);
+    /// A question with Yes and No buttons; true for Yes.
+    [[nodiscard]] bool question(std::string_view texte);
+    /// Plays a wave file of the working folder to its end. A machine that cannot play stays silent.
+    void jouerson(std::string_view fichier);
+    /// Lets pending events run.
+    void laissercourir();
+
+    /// A form has just been made: the platform gives it a window and drives its timers.
+    virtual void accueillir(Formulaire& formulaire) = 0;
+
+    /// The one place that calls handlers: runs an event, and turns a fault into its report and the
+    /// end of the program. Does nothing once the program has ended. Events may nest.
+    void executer(const std::function<void()>& evenement);
+    /// Runs `suite` when the outermost event is through.
+    void apres(std::function<void()> suite) { suites_.push_back(std::move(suite)); }
+    /// Ends the program at once.
+    [[noreturn]] static void terminer(int statut = 0) { throw Fin{statut}; }
+
+    [[nodiscard]] bool fini() const { return fini_; }
+    /// Exit status, once the program has ended.
+    [[nodiscard]] int statut() const { return statut_; }
+
+  protected:
+    [[nodiscard]] virtual Reponse demander(std::string_view texte, Icone icone, bool ouinon) = 0;
+    virtual void jouer(std::string_view fichier) = 0;
+    virtual void pomper() = 0;
+    /// Shows the report of a fault.
+    virtual void rapporter(std::string_view rapport) = 0;
+    /// Leaves the event loop.
+    virtual void arreter(int statut) = 0;
+
+  private:
+    void finir(int statut);
+    void verifierfin() const;
+
+    std::vector<std::function<void()>> suites_;
+    int profondeur_ = 0;
+    int statut_ = 0;
+    bool fini_ = false;
+};
+
+}  // namespace ui
