@@ -1,0 +1,122 @@
+#include <array>
+#include <string_view>
+
+#include "image.h"
+#include "octets.h"
+
+namespace assets {
+
+namespace {
+
+std::array<std::uint32_t, 256> tablecrc() {
+    std::array<std::uint32_t, 256> table{};
+    for (std::uint32_t i = 0; i < table.size(); ++i) {
+        table[i] = i;
+        for (int bit = 0; bit < 8; ++bit) {
+            table[i] = (table[i] & 1U) != 0 ? table[i] >> 1U ^ 0xEDB88320U : table[i] >> 1U;
+        }
+    }
+    return table;
+}
+
+std::uint32_t crc(std::string_view octets) {
+    static const auto table = tablecrc();
+    std::uint32_t reste = 0xFFFFFFFFU;
+    for (const char c : octets) {
+        reste = table[(reste ^ static_cast<std::uint8_t>(c)) & 0xFFU] ^ reste >> 8U;
+    }
+    return ~reste;
+}
+
+std::uint32_t adler(std::string_view octets) {
+    constexpr std::uint32_t premier = 65521;
+    std::uint32_t a = 1;
+    std::uint32_t b = 0;
+    for (const char c : octets) {
+        a = (a + static_cast<std::uint8_t>(c)) % premier;
+        b = (b + a) % premier;
+    }
+    return b << 16U | a;
+}
+
+void bloc(std::string& fichier, std::string_view nom, std::string_view contenu) {
+    grosboutien(fichier, static_cast<std::uint32_t>(contenu.size()));
+    const std::string corps = std::string(nom) + std::string(contenu);
+    fichier += corps;
+    grosboutien(fichier, crc(corps));
+}
+
+// The zlib form of the bytes, stored as they are: the pictures are few and small.
+std::string zlib(std::string_view octets) {
+    constexpr std::size_t limite = 65535;
+    std::string flux = "\x78\x01";
+    const std::uint32_t somme = adler(octets);
+    do {
+        const std::string_view morceau = octets.substr(0, limite);
+        octets.remove_prefix(morceau.size());
+        const auto taille = static_cast<std::uint32_t>(morceau.size());
+        flux += octets.empty() ? '\1' : '\0';
+        petitboutien(flux, taille, 2);
+        petitboutien(flux, ~taille & 0xFFFFU, 2);
+        flux += morceau;
+    } while (!octets.empty());
+    grosboutien(flux, somme);
+    return flux;
+}
+
+}  // namespace
+
+std::string bmp(const Image& image) {
+    constexpr std::uint32_t entete = 14;
+    constexpr std::uint32_t description = 108;
+    const auto taille = static_cast<std::uint32_t>(image.pixels.size());
+    std::string fichier = "BM";
+    petitboutien(fichier, entete + description + taille, 4);
+    petitboutien(fichier, 0, 4);
+    petitboutien(fichier, entete + description, 4);
+    petitboutien(fichier, description, 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(image.largeur), 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(image.hauteur), 4);
+    petitboutien(fichier, 1, 2);   // planes
+    petitboutien(fichier, 32, 2);  // bits a pixel
+    petitboutien(fichier, 3, 4);   // the channels stand where the masks below say
+    petitboutien(fichier, taille, 4);
+    for (const std::uint32_t valeur : {3780U, 3780U, 0U, 0U}) {  // pixels a metre, no palette
+        petitboutien(fichier, valeur, 4);
+    }
+    for (const std::uint32_t masque : {0xFF0000U, 0xFF00U, 0xFFU, 0xFF000000U}) {
+        petitboutien(fichier, masque, 4);
+    }
+    petitboutien(fichier, 0x73524742, 4);  // sRGB
+    fichier.append(48, '\0');              // end points and gammas, unused with sRGB
+    const std::size_t rangee = static_cast<std::size_t>(image.largeur) * 4;
+    for (std::size_t debut = image.pixels.size(); debut > 0; debut -= rangee) {
+        for (std::size_t i = debut - rangee; i < debut; i += 4) {
+            for (const int canal : {2, 1, 0, 3}) {
+                fichier += static_cast<char>(image.pixels[i + static_cast<std::size_t>(canal)]);
+            }
+        }
+    }
+    return fichier;
+}
+
+std::string png(const Image& image) {
+    std::string format;
+    grosboutien(format, static_cast<std::uint32_t>(image.largeur));
+    grosboutien(format, static_cast<std::uint32_t>(image.hauteur));
+    format += std::string("\x08\x06\x00\x00\x00", 5);  // 8 bits, with opacity, not interlaced
+    std::string lignes;
+    const std::size_t rangee = static_cast<std::size_t>(image.largeur) * 4;
+    for (std::size_t debut = 0; debut < image.pixels.size(); debut += rangee) {
+        lignes += '\0';  // unfiltered row
+        lignes.append(image.pixels.begin() + static_cast<std::ptrdiff_t>(debut),
+                      image.pixels.begin() + static_cast<std::ptrdiff_t>(debut + rangee));
+    }
+    std::string fichier = "\x89PNG\r\n\x1a\n";
+    bloc(fichier, "IHDR", format);
+    bloc(fichier, "IDAT", zlib(lignes));
+    bloc(fichier, "IEND", {});
+    return fichier;
+}
+
+}  // namespace assets

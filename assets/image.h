@@ -1,0 +1,29 @@
+#pragma once
+
+// Pictures in memory, and their two forms on disk.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "trait.h"
+
+namespace assets {
+
+/// Pixels row by row from the top, four bytes each: red, green, blue, opacity (not premultiplied).
+struct Image {
+    int largeur = 0;
+    int hauteur = 0;
+    std::vector<std::uint8_t> pixels;
+};
+
+/// The drawing stretched to `largeur` by `hauteur` pixels, smooth at its edges.
+[[nodiscard]] Image peindre(const Dessin& dessin, int largeur, int hauteur);
+
+/// A bitmap file of 32 bits a pixel with opacity (version 4 header, rows from the foot).
+[[nodiscard]] std::string bmp(const Image& image);
+
+/// A PNG file of 32 bits a pixel.
+[[nodiscard]] std::string png(const Image& image);
+
+}  // namespace assets

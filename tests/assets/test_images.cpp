@@ -1,0 +1,151 @@
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <numeric>
+
+#include <gtest/gtest.h>
+
+#include "dessins.h"
+#include "image.h"
+
+namespace assets {
+namespace {
+
+std::uint32_t petit(const std::string& octets, std::size_t place, int nombre) {
+    std::uint32_t valeur = 0;
+    for (int i = nombre - 1; i >= 0; --i)
+        valeur =
+            valeur << 8U | static_cast<std::uint8_t>(octets[place + static_cast<std::size_t>(i)]);
+    return valeur;
+}
+
+std::uint32_t gros(const std::string& octets, std::size_t place) {
+    std::uint32_t valeur = 0;
+    for (std::size_t i = 0; i < 4; ++i)
+        valeur = valeur << 8U | static_cast<std::uint8_t>(octets[place + i]);
+    return valeur;
+}
+
+const std::map<std::string, Tableau>& parnom() {
+    static const auto table = [] {
+        std::map<std::string, Tableau> noms;
+        for (Tableau& tableau : tableaux()) {
+            const std::string nom = tableau.nom;
+            noms.emplace(nom, std::move(tableau));
+        }
+        return noms;
+    }();
+    return table;
+}
+
+struct Mesure {
+    std::string nom;
+    std::uint32_t largeur;
+    std::uint32_t hauteur;
+};
+
+void PrintTo(const Mesure& mesure, std::ostream* flux) {
+    *flux << mesure.nom;
+}
+
+class Bitmap : public testing::TestWithParam<Mesure> {};
+
+TEST_P(Bitmap, MeasuresWhatItsNameSaysAndItsTwinsMore) {
+    for (const std::uint32_t finesse : {1U, 2U, 4U}) {
+        const std::string suffixe = finesse > 1 ? "@" + std::to_string(finesse) + "x" : "";
+        const auto trouve = parnom().find(GetParam().nom + suffixe + ".bmp");
+        ASSERT_NE(trouve, parnom().end()) << suffixe;
+        const std::string octets = fichier(trouve->second);
+        EXPECT_EQ(octets.substr(0, 2), "BM");
+        EXPECT_EQ(petit(octets, 2, 4), octets.size());
+        EXPECT_EQ(petit(octets, 18, 4), GetParam().largeur * finesse);
+        EXPECT_EQ(petit(octets, 22, 4), GetParam().hauteur * finesse);
+        EXPECT_EQ(petit(octets, 28, 2), 32U);
+        EXPECT_EQ(octets.size() - petit(octets, 10, 4),
+                  std::size_t{4} * GetParam().largeur * GetParam().hauteur * finesse * finesse);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Images, Bitmap,
+                         testing::Values(Mesure{"ods5_28x28", 28, 28}, Mesure{"ods6_28x28", 28, 28},
+                                         Mesure{"ods7_28x28", 28, 28}, Mesure{"ppi_28x28", 28, 28},
+                                         Mesure{"vbt_28x28", 28, 28}, Mesure{"inv_28x28", 28, 28},
+                                         Mesure{"ppi_14x28", 14, 28}, Mesure{"vbt_14x28", 14, 28},
+                                         Mesure{"inv_14x28", 14, 28}, Mesure{"vb_30x30", 30, 30},
+                                         Mesure{"jkq_30x30", 30, 30}),
+                         [](const auto& cas) { return cas.param.nom; });
+
+TEST(Bmp, HoldsBlueGreenRedOpacityFromTheFoot) {
+    const Image image{1, 2, {1, 2, 3, 4, 5, 6, 7, 8}};
+    const std::string octets = bmp(image);
+    EXPECT_EQ(octets.substr(petit(octets, 10, 4)), "\7\6\5\10\3\2\1\4");
+}
+
+TEST(Png, HoldsItsRowsUnfilteredAndStored) {
+    const Image image{1, 2, {1, 2, 3, 4, 5, 6, 7, 8}};
+    const std::string octets = png(image);
+    EXPECT_EQ(octets.substr(0, 8), "\x89PNG\r\n\x1a\n");
+    EXPECT_EQ(gros(octets, 8), 13U);
+    EXPECT_EQ(gros(octets, 16), 1U);
+    EXPECT_EQ(gros(octets, 20), 2U);
+    EXPECT_NE(octets.find(std::string("\0\1\2\3\4\0\5\6\7\10", 10)), std::string::npos);
+    EXPECT_EQ(gros(octets, octets.size() - 4), 0xAE426082U) << "the known sum of an empty IEND";
+}
+
+TEST(Images, TheLoginPictureAndTheIconsAreThere) {
+    EXPECT_GE(parnom().at("connexion.png").largeur, 480);
+    for (const int cote : {16, 24, 32, 48, 64, 128, 256})
+        EXPECT_EQ(parnom().at("orvane_" + std::to_string(cote) + ".png").hauteur, cote);
+}
+
+// What is left of a sign without its colour: light (its letters and rim) or dark (its ground), and
+// where nothing is.
+std::vector<int> gris(const std::string& nom) {
+    const Tableau& tableau = parnom().at(nom + ".bmp");
+    const Image image = peindre(tableau.dessin, tableau.largeur, tableau.hauteur);
+    std::vector<int> formes;
+    for (std::size_t i = 0; i < image.pixels.size(); i += 4) {
+        const int clarte =
+            (image.pixels[i] * 3 + image.pixels[i + 1] * 6 + image.pixels[i + 2]) / 10;
+        formes.push_back(image.pixels[i + 3] < 128 ? 0 : clarte > 160 ? 2 : 1);
+    }
+    return formes;
+}
+
+class Signes : public testing::TestWithParam<std::vector<std::string>> {};
+
+TEST_P(Signes, AreToldApartWithoutColour) {
+    const auto& noms = GetParam();
+    for (std::size_t i = 0; i < noms.size(); ++i) {
+        for (std::size_t j = i + 1; j < noms.size(); ++j) {
+            const auto a = gris(noms[i]);
+            const auto b = gris(noms[j]);
+            const auto egaux = std::inner_product(a.begin(), a.end(), b.begin(), std::size_t{0},
+                                                  std::plus<>(), std::equal_to<>());
+            EXPECT_GE(a.size() - egaux, a.size() / 8) << noms[i] << " and " << noms[j];
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Images, Signes,
+    testing::Values(std::vector<std::string>{"ods5_28x28", "ods6_28x28", "ods7_28x28", "ppi_28x28",
+                                             "vbt_28x28", "inv_28x28"},
+                    std::vector<std::string>{"ppi_14x28", "vbt_14x28", "inv_14x28"},
+                    std::vector<std::string>{"vb_30x30", "jkq_30x30"}));
+
+// Of the dated marks a half mark may cover the right half.
+TEST(Images, TheDatedMarksAreToldApartByTheirLeftHalf) {
+    const std::vector<std::string> noms = {"ods5_28x28", "ods6_28x28", "ods7_28x28"};
+    for (std::size_t i = 0; i < noms.size(); ++i) {
+        const auto a = gris(noms[i]);
+        const auto b = gris(noms[(i + 1) % noms.size()]);
+        std::size_t differents = 0;
+        for (std::size_t p = 0; p < a.size(); ++p)
+            differents += p % 28 < 14 && a[p] != b[p] ? 1U : 0U;
+        EXPECT_GE(differents, a.size() / 2 / 8) << noms[i];
+    }
+}
+
+}  // namespace
+}  // namespace assets
