@@ -144,6 +144,12 @@ std::error_code DisqueReel::supprimer(std::string_view chemin) {
     return erreur;
 }
 
+std::error_code DisqueReel::renommer(std::string_view ancien, std::string_view nouveau) {
+    std::error_code erreur;
+    std::filesystem::rename(systeme(ancien), systeme(nouveau), erreur);
+    return erreur;
+}
+
 bool DisqueReel::existe(std::string_view chemin) {
     std::error_code erreur;
     return std::filesystem::exists(systeme(chemin), erreur);

@@ -20,6 +20,8 @@ class DisqueReel : public Disque {
                                             std::string_view octets) override;
     [[nodiscard]] std::error_code creerdossier(std::string_view chemin) override;
     [[nodiscard]] std::error_code supprimer(std::string_view chemin) override;
+    [[nodiscard]] std::error_code renommer(std::string_view ancien,
+                                           std::string_view nouveau) override;
     [[nodiscard]] bool existe(std::string_view chemin) override;
     [[nodiscard]] bool estdossier(std::string_view chemin) override;
 

@@ -78,6 +78,9 @@ std::string rapportligne(std::string_view action, std::string_view chemin, std::
 Lignes::Lignes(Disque& disque, std::string_view chemin, std::string_view action)
     : chemin_(chemin), action_(action), flux_(ouvrirsur(disque, chemin, action)), tampon_(bloc) {}
 
+Lignes::Lignes(std::string_view contenu)
+    : tampon_(contenu.begin(), contenu.end()), fin_(contenu.size()), fini_(true) {}
+
 /// Reads more bytes behind what is left of the buffer; false at the end of the file.
 bool Lignes::remplir() {
     if (fini_)
@@ -124,6 +127,8 @@ bool Lignes::suivante(std::string_view& ligne) {
 Items::Items(Disque& disque, std::string_view chemin, std::string_view action)
     : lignes_(disque, chemin, action) {}
 
+Items::Items(std::string_view contenu) : lignes_(contenu) {}
+
 bool Items::lireitem(std::string_view& item) {
     if (!ouverte_) {
         if (!lignes_.suivante(reste_))
@@ -167,17 +172,26 @@ bool Items::lireguillemets(std::string_view& item) {
     return true;
 }
 
-std::string lirefichier(Disque& disque, std::string_view chemin, std::string_view action) {
-    const auto flux = ouvrirsur(disque, chemin, action);
-    std::string contenu;
+std::error_code essayerlire(Disque& disque, std::string_view chemin, std::string& contenu) {
+    contenu.clear();
+    std::unique_ptr<Flux> flux;
+    auto erreur = disque.ouvrir(chemin, flux);
     std::size_t place = 0;
     std::size_t lus = 1;
-    while (lus > 0) {
+    while (!erreur && lus > 0) {
         contenu.resize(std::max(contenu.size(), place + bloc));
-        lus = liresur(*flux, std::span(contenu).subspan(place), chemin, action);
+        lus = 0;
+        erreur = flux->lire(std::span(contenu).subspan(place), lus);
         place += lus;
     }
     contenu.resize(place);
+    return erreur;
+}
+
+std::string lirefichier(Disque& disque, std::string_view chemin, std::string_view action) {
+    std::string contenu;
+    if (const auto erreur = essayerlire(disque, chemin, contenu))
+        throw Faute(rapportfichier(action, chemin, raison(erreur)));
     return contenu;
 }
 

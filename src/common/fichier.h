@@ -45,6 +45,9 @@ class Disque {
                                                     std::string_view octets) = 0;
     [[nodiscard]] virtual std::error_code creerdossier(std::string_view chemin) = 0;
     [[nodiscard]] virtual std::error_code supprimer(std::string_view chemin) = 0;
+    /// Gives a file or a folder another name, in one step.
+    [[nodiscard]] virtual std::error_code renommer(std::string_view ancien,
+                                                   std::string_view nouveau) = 0;
     [[nodiscard]] virtual bool existe(std::string_view chemin) = 0;
     [[nodiscard]] virtual bool estdossier(std::string_view chemin) = 0;
 };
@@ -58,6 +61,8 @@ class Disque {
 class Lignes {
   public:
     Lignes(Disque& disque, std::string_view chemin, std::string_view action);
+    /// The lines of bytes that are at hand.
+    explicit Lignes(std::string_view contenu);
     /// The next line, valid until the next call; false at the end of the file.
     [[nodiscard]] bool suivante(std::string_view& ligne);
     /// Number of the line last given, from 1.
@@ -82,6 +87,8 @@ class Lignes {
 class Items {
   public:
     Items(Disque& disque, std::string_view chemin, std::string_view action);
+    /// The items of bytes that are at hand.
+    explicit Items(std::string_view contenu);
     /// The next item (`lireitem`), valid until the next call; false at the end of the file.
     [[nodiscard]] bool lireitem(std::string_view& item);
     /// Number of the line on which the item last given begins, from 1.
@@ -96,6 +103,9 @@ class Items {
     bool ouverte_ = false;
 };
 
+/// The bytes of a file, for a caller that bears its failure: `contenu` is what could be read.
+[[nodiscard]] std::error_code essayerlire(Disque& disque, std::string_view chemin,
+                                          std::string& contenu);
 /// The whole file as bytes. Throws `Faute`.
 [[nodiscard]] std::string lirefichier(Disque& disque, std::string_view chemin,
                                       std::string_view action);
