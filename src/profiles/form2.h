@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "formulaire.h"
+#include "formulaires.h"
+
+namespace profiles {
+
+/// Form2: the login. The list of users (`user`), the button that starts (`Command1`), and the
+/// entry of a new name (`Command2` opens it; `Label5`, `Text2`, `Label3`, `Command3`).
+class Form2 : public ui::Formulaire {
+  public:
+    Form2(ui::Plateforme& plateforme, common::Voisins& voisins);
+
+    /// Reads the users and wears the colour of the last one. A file that is missing or cannot be
+    /// read ends the load there, silently.
+    void charger();
+    /// The farewell: a text about the author, and the end of the program after a count-down.
+    void apropos();
+
+  private:
+    ui::Controle& etiquette(std::string_view nomducontrole, std::string_view libelle,
+                            const ui::Cadrage& cadre);
+    ui::Controle& bouton(std::string_view nomducontrole, std::string_view libelle,
+                         const ui::Cadrage& cadre);
+    void dresser();
+    void brancher();
+    void montrersaisie(bool montree);
+    void saisirnouveau();
+    void accepternouveau();
+    void connecter();
+    void decompter();
+
+    common::Voisins& voisins_;
+    ui::Controle& titre_;
+    ui::Controle& image_;
+    ui::Controle& utilisateur_;
+    ui::Controle& user_;
+    ui::Controle& commencer_;
+    ui::Controle& nouveau_;
+    ui::Controle& invite_;
+    ui::Controle& nom_;
+    ui::Controle& conseil_;
+    ui::Controle& ok_;
+    ui::Controle& texte_;
+    ui::Controle& quitter_;
+    ui::Controle& compte_;
+    ui::Minuterie& minuterie_;
+    std::int16_t decompte_ = 0;
+};
+
+}  // namespace profiles

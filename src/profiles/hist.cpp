@@ -1,0 +1,79 @@
+#include "hist.h"
+
+#include "faute.h"
+#include "nombre.h"
+#include "texte.h"
+
+namespace profiles {
+namespace {
+
+constexpr std::string_view lecture = "Lecture des résultats";
+constexpr std::string_view separateur = " - ";
+constexpr std::size_t longueurdossier = 7;  // the folder of the lists and its backslash
+constexpr std::size_t longueurrev = 5;      // a backslash and "rev-"
+constexpr std::size_t longueurheure = 5;    // HH:MM
+constexpr std::size_t placepourcent = 21;   // of the percent text, from 0
+constexpr std::size_t versmode = 4;         // from the "%" to the mode
+
+}  // namespace
+
+std::string cheminhist(std::string_view util) {
+    return std::string(util) + "\\hist.dat";
+}
+
+double pourcentage(std::int64_t nbmotsinitial, std::int64_t nbfautes) {
+    const auto ratio =
+        static_cast<double>(nbmotsinitial - nbfautes) / static_cast<double>(nbmotsinitial);
+    return common::valeur(common::decimales(ratio, 3)) * 100;
+}
+
+std::string nomcourt(std::string_view fich, std::string_view toue, std::string_view util) {
+    const auto oter = toue == moderevision ? common::longueur(util) + longueurrev : longueurdossier;
+    return common::milieu(fich, oter + 1);
+}
+
+std::string enregistrement(const common::Instant& quand, double pourc, std::string_view toue,
+                           std::string_view nom) {
+    std::string record = quand.date();
+    record.append(separateur).append(common::debut(quand.heuredujour(), longueurheure));
+    record.append(separateur).append(common::textenombre(pourc)).append("%").append(separateur);
+    if (!toue.empty())
+        record.append(toue).append(separateur);
+    return record.append(nom);
+}
+
+void ajouterhist(common::Disque& disque, std::string_view util, const std::string& record) {
+    common::ajouterlignes(disque, cheminhist(util), {&record, 1}, "Enregistrement du résultat");
+}
+
+std::optional<Balayage> balayer(std::string_view record) {
+    // A "%" right before the percent text counts: the text is then empty.
+    const auto pourcent = record.find('%', placepourcent - 1);
+    if (pourcent == std::string_view::npos)
+        return std::nullopt;
+    Balayage lu;
+    if (pourcent > placepourcent)
+        lu.pourcentage = record.substr(placepourcent, pourcent - placepourcent);
+    if (pourcent + versmode < record.size())
+        lu.mode = record.substr(pourcent + versmode, 1);
+    return lu;
+}
+
+void parcourirhist(common::Disque& disque, std::string_view util,
+                   const std::function<void(std::string_view)>& voir) {
+    const auto chemin = cheminhist(util);
+    common::Items items(disque, chemin, lecture);
+    std::string_view item;
+    std::size_t lus = 0;
+    while (items.lireitem(item)) {
+        if (++lus > maximumhist) {
+            throw common::Faute(common::rapportligne(
+                lecture, chemin, items.numero(),
+                "le journal dépasse la limite de " + std::to_string(maximumhist) +
+                    " résultats. Ôtez-en les lignes les plus anciennes, en tête du fichier"));
+        }
+        voir(item);
+    }
+}
+
+}  // namespace profiles

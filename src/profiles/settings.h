@@ -1,0 +1,55 @@
+#pragma once
+
+// `settings.dat`: one user's options, seven lines in a fixed order, each one item. The format is
+// described in docs/formats.md.
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fichier.h"
+#include "partage.h"
+
+namespace profiles {
+
+/// What `settings.dat` holds; as it stands here, what a new user starts with.
+struct Reglages {
+    std::int16_t seuilch = 95;
+    std::int16_t seuilcb = 80;
+    std::int16_t tempsparmot = 8;
+    std::int16_t nbechantillon = 5;
+    std::int16_t son = 1;
+    std::optional<std::string> couleur = "Par défaut";  ///< nothing: the file stops before it
+    std::int16_t saisieassistee = 1;
+};
+
+/// `<util>\settings.dat`
+[[nodiscard]] std::string cheminsettings(std::string_view util);
+
+/// The options in the bytes of the file `chemin`. A text that begins with no number counts as 0;
+/// without a seventh item the assisted entry is on. Throws `Faute` for fewer than five items and
+/// for a value past 16 bits.
+[[nodiscard]] Reglages reglages(std::string_view octets, std::string_view chemin);
+
+/// The sixth item, the colour name, and nothing else of the file; nothing if there is none.
+[[nodiscard]] std::optional<std::string> couleurreglee(std::string_view octets);
+
+/// The lines of the file, UTF-8.
+[[nodiscard]] std::vector<std::string> lignessettings(const Reglages& reglages);
+
+/// Reads a user's file. Throws `Faute`.
+[[nodiscard]] Reglages liresettings(common::Disque& disque, std::string_view util);
+
+/// Gives the options to the program in the order of the file: the first five, then `couleur` is
+/// called with the colour name if there is one, then the assisted entry.
+void appliquer(const Reglages& reglages, common::VariablesDialog2& dialog2,
+               const std::function<void(const std::string&)>& couleur);
+
+/// Rewrites a user's file from the variables and a colour name. Throws `Faute`.
+void ecriresettings(common::Disque& disque, std::string_view util,
+                    const common::VariablesDialog2& dialog2, std::string_view couleur);
+
+}  // namespace profiles
