@@ -31,5 +31,6 @@ function(orvane_test nom)
   cmake_parse_arguments(A "" "" "SOURCES;DEPENDS" ${ARGN})
   add_executable(test_${nom} ${A_SOURCES})
   target_link_libraries(test_${nom} PRIVATE ${A_DEPENDS} orvane_options GTest::gmock GTest::gtest_main)
-  gtest_discover_tests(test_${nom} TEST_PREFIX ${ORVANE_PREFIXE}${nom}. DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+  gtest_discover_tests(test_${nom} TEST_PREFIX ${ORVANE_PREFIXE}${nom}. NO_PRETTY_VALUES
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
