@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "formserie.h"
+#include "rangees.h"
+
+namespace series {
+
+/// Racks of a series on `Form1`.
+inline constexpr int nbboitesform1 = 30;
+/// Different wrong rows that a list can hold (`motsfaux`).
+inline constexpr std::size_t limitemotsfaux = 5001;
+/// Largest sample.
+inline constexpr int limiteechantillon = 900;
+/// Letters of a solution that extend a rack with a joker, at most.
+inline constexpr std::size_t limitevariantes = 26;
+
+/// Words to look up in the notes for a row: its solution, or in a list of extensions the whole
+/// word; with a joker, one word for each letter of the solution. `titre` is the list's, which says
+/// whether the letters come in front or behind; any other title of such a list gives no word.
+[[nodiscard]] std::vector<std::string> motsdesnotes(std::string_view tirage,
+                                                    std::string_view solution, std::string_view typ,
+                                                    std::string_view titre);
+
+/// Form1: the series of racks with one solution.
+///
+/// The window: `tirage` are the racks and `solution` the answers, three columns of ten; `Command1`
+/// the letter tiles; `temps` and `tempstot` the clocks; `Label5`, `seuiltxt` and `Label6` the
+/// criterion, which `Command4` switches and `voyant` judges; `motsleft`, `nbftot`, `nbseries`,
+/// `score` and `tps` the counters; `recherche` with `valider` a second line of entry; `Command3`
+/// changes the font, `Command5` pauses, `Command6` goes compact; `InfoSourisText` shows notes.
+class Form1 : public Formserie {
+  public:
+    Form1(ui::Plateforme& plateforme, common::Voisins& voisins);
+
+    void coloration() override;
+    void commencer(std::string_view chemin) override;
+
+  private:
+    void ordonner();
+
+    // form1_liste.cpp: the list, the draw, the elimination.
+    void ouvrircritere();
+    void echantillonner();
+    void nouvelleserie() override;
+    void finserie();
+    [[nodiscard]] std::int32_t tempsdeserie() const override;
+    [[nodiscard]] std::string tiragedelarangee(int place) const override;
+    [[nodiscard]] std::size_t lignedelarangee(int place) const override;
+    void changercritere();
+    void fixercritere(bool secondes);
+
+    // form1_saisie.cpp: focus, keys, the second line of entry.
+    void branchersaisie();
+    void quitterboite(int rang);
+    void suivante();
+    void toucheboite(int rang, ui::Touche& touche);
+    void validerrecherche();
+    void juger(int rang, std::string_view motsijuste);
+
+    // form1_correction.cpp: marks, notes, judgement, wrong rows.
+    void corrigerserie() override;
+    void marquer(int nombre);
+    void noter(int nombre);
+    int jugerreponses(int nombre);
+    void compterfaute(int rang, std::vector<std::string>& fautes);
+    void garderfautes(const std::vector<std::string>& fautes, const std::vector<int>& boites);
+    void ouvrirmenumot(int rang, const ui::Controle& boite);
+
+    // form1_ecran.cpp: the two layouts.
+    void disposer();
+    void disposerboites();
+    void passercompact();
+    void rangernotes(bool listefinie) override;
+    void placercritere();
+
+    /// Racks of the running series.
+    [[nodiscard]] int nombredelaserie() const;
+
+    ui::Controle& Command6;
+    Rangees rangees_;
+    std::int32_t nbmotsinitial_ = 0;
+    std::unordered_set<std::string> motsfaux_;  ///< rows answered wrong in this list
+    bool modecompact_ = false;
+};
+
+}  // namespace series

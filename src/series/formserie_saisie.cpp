@@ -1,0 +1,148 @@
+// Entry of answers, as both series forms have it: the pool of letters, the keys that are taken or
+// refused, the colours of the current box.
+
+#include <algorithm>
+#include <string>
+
+#include "faute.h"
+#include "fichier.h"
+#include "formserie.h"
+#include "texte.h"
+
+namespace series {
+namespace {
+
+constexpr int minusculea = 'a';
+constexpr int minusculez = 'z';
+constexpr std::string_view benjamins = "Benjamins uniques";
+constexpr std::string_view rallonge = "rallong";
+
+bool lettre(int code) {
+    return code >= 'A' && code <= 'Z';
+}
+
+/// Codes that no answer takes: blanks, digits, punctuation, diacritic keys, accented letters.
+bool refusee(int code) {
+    struct Plage {
+        int premier;
+        int dernier;
+    };
+    static constexpr std::array refusees{Plage{32, 64}, Plage{91, 96}, Plage{168, 168},
+                                         Plage{176, 176}, Plage{192, 255}};
+    return std::any_of(refusees.begin(), refusees.end(), [code](const Plage& plage) {
+        return code >= plage.premier && code <= plage.dernier;
+    });
+}
+
+}  // namespace
+
+void Formserie::brancherboites() {
+    tuiles.surclic = [this] {
+        if (serieouverte())
+            peindrecourante(boite_);
+    };
+    for (int i = 0; i < gabarit_.nbboites; ++i) {
+        auto& boite = *solution[static_cast<std::size_t>(i)];
+        boite.entree = [this, i] { entrerboite(i); };
+        boite.caractere = [this, i](int& code) { frapper(i, code); };
+        boite.toucherelachee = [this, i](int code) {
+            const bool efface = code == ui::touches::retour || code == ui::touches::suppr;
+            if (efface && serieouverte())
+                recalculerlettres(i);
+        };
+    }
+    recherche.caractere = [](int& code) {
+        if (code >= minusculea && code <= minusculez)
+            code -= 'a' - 'A';
+    };
+}
+
+bool Formserie::saisieassistee() const {
+    return voisins_.form3.nombase != benjamins && voisins_.form3.typ != rallonge &&
+           serieouverte() && voisins_.dialog2.saisieassistee != 0;
+}
+
+void Formserie::lirelettres(std::string_view texteduntirage, int place) {
+    if (lettres_.lirelettres(texteduntirage))
+        return;
+    throw common::Faute(common::rapportligne("Saisie d'une réponse", fich_, lignedelarangee(place),
+                                             "le tirage « " + std::string(texteduntirage) +
+                                                 " » a trop de lettres ; la limite est de " +
+                                                 std::to_string(Lettres::limite)));
+}
+
+void Formserie::recalculerlettres(int rang) {
+    if (!saisieassistee())
+        return;
+    lettres_.recalculer(solution[static_cast<std::size_t>(rang)]->texte());
+    auto& boite = *tirage[static_cast<std::size_t>(placede(rang))];
+    if (boite.texte().find_first_of(gabarit_.marquesgardees) != std::string::npos)
+        return;
+    boite.texte = lettres_.restantes();
+}
+
+void Formserie::entrerboite(int rang) {
+    boite_ = rang;
+    derniereboite_ = rang;
+    if (serieouverte()) {
+        mettredefaut(Command2);
+        if (criteresecondes())
+            chronos.entrerboite();
+        peindreautres(rang);
+        peindrecourante(rang);
+    }
+    lirelettres(tirage[static_cast<std::size_t>(placede(rang))]->texte(), placede(rang));
+    afficherlettres();
+    if (serieouverte())
+        recalculerlettres(rang);
+}
+
+void Formserie::peindrecourante(int rang) {
+    tirage[static_cast<std::size_t>(placede(rang))]->fond = ui::couleurs::juste;
+    solution[static_cast<std::size_t>(rang)]->fond = ui::couleurs::courante;
+}
+
+void Formserie::peindreaurepos(int rang) {
+    tirage[static_cast<std::size_t>(placede(rang))]->fond = ui::couleurs::tirageaurepos;
+    solution[static_cast<std::size_t>(rang)]->fond = ui::couleurs::solutionaurepos;
+}
+
+void Formserie::peindreautres(int rang) {
+    for (int place = 0; place < gabarit_.nbtirages; ++place)
+        if (place != placede(rang))
+            tirage[static_cast<std::size_t>(place)]->fond = ui::couleurs::tirageaurepos;
+    for (int i = 0; i < boitesutiles_; ++i)
+        if (i != rang)
+            solution[static_cast<std::size_t>(i)]->fond = ui::couleurs::solutionaurepos;
+}
+
+void Formserie::frapper(int rang, int& code) {
+    if (code >= minusculea && code <= minusculez)
+        code -= 'a' - 'A';
+    if (!serieouverte()) {
+        if (lettre(code))
+            code = 0;
+        return;
+    }
+    const auto& boite = *solution[static_cast<std::size_t>(rang)];
+    const int place = placede(rang);
+    bool refus = refusee(code);
+    if (saisieassistee()) {
+        // The letter will replace the whole answer: the letters of the rack are free again.
+        const bool remplace = boite.selection() == common::longueur(boite.texte());
+        if (remplace && lettre(code))
+            lirelettres(tiragedelarangee(place), place);
+        const auto touchetexte =
+            common::utf8(common::caractere1252(static_cast<unsigned char>(code)));
+        const bool prise = lettres_.prendre(touchetexte);
+        if (prise)
+            tirage[static_cast<std::size_t>(place)]->texte = lettres_.restantes();
+        refus = refus || (lettre(code) && !prise);
+    }
+    if (!refus)
+        return;
+    code = 0;
+    plateforme().bip();
+}
+
+}  // namespace series

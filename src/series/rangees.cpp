@@ -1,0 +1,79 @@
+#include "rangees.h"
+
+#include <algorithm>
+
+#include "faute.h"
+#include "texte.h"
+
+namespace series {
+namespace {
+
+constexpr std::string_view action = "Lecture de la liste";
+
+[[noreturn]] void mauvaise(std::string_view chemin, std::size_t ligne, const std::string& ennui) {
+    throw common::Faute(common::rapportligne(action, chemin, ligne, ennui));
+}
+
+/// Place of the ";" that ends the rack; a fault if there is none in reach.
+std::size_t separateur(std::string_view ligne, std::string_view chemin, std::size_t numero) {
+    const auto place = ligne.find(';');
+    if (place == std::string_view::npos)
+        mauvaise(chemin, numero, "il manque le « ; » entre le tirage et la solution");
+    if (place >= Rangees::positionlimite) {
+        mauvaise(chemin, numero,
+                 "le « ; » vient trop tard ; la limite est la position " +
+                     std::to_string(Rangees::positionlimite));
+    }
+    return place;
+}
+
+}  // namespace
+
+void Rangees::lire(common::Disque& disque, std::string_view chemin) {
+    rangees_.clear();
+    octets_ = common::lirefichier(disque, chemin, action);
+    const std::string_view tout = octets_;
+    for (std::size_t i = 0; i < tout.size();) {
+        const auto numero = rangees_.size() + 1;
+        const auto saut = std::min(tout.find('\n', i), tout.size());
+        auto ligne = tout.substr(i, saut - i);
+        if (saut < tout.size() && !ligne.empty() && ligne.back() == '\r')
+            ligne.remove_suffix(1);
+        i = saut + 1;
+        const auto place = separateur(ligne, chemin, numero);
+        if (numero > limite) {
+            mauvaise(chemin, numero, "trop de lignes ; la limite est de " + std::to_string(limite));
+        }
+        rangees_.push_back({ligne.substr(0, place), ligne.substr(place + 1),
+                            static_cast<std::uint32_t>(numero), 0});
+    }
+    // One byte of Windows-1252 is one character.
+    longueurdernier_ = rangees_.empty() ? 0 : rangees_.back().tirage.size();
+}
+
+void Rangees::garder(std::span<const int> rangs) {
+    std::vector<Rangee> gardees;
+    gardees.reserve(rangs.size());
+    for (const int rang : rangs)
+        gardees.push_back(rangee(rang));
+    rangees_ = std::move(gardees);
+}
+
+std::string Rangees::tirage(int rang) const {
+    return common::depuis1252(rangee(rang).tirage);
+}
+
+std::string Rangees::solution(int rang) const {
+    return common::depuis1252(rangee(rang).solution);
+}
+
+void Rangees::eliminer(int rang) {
+    rangee(rang).tirage = {};
+    rangee(rang).solution = {};
+}
+
+void Rangees::compacter() {
+    std::erase_if(rangees_, [](const Rangee& rangee) { return rangee.tirage.empty(); });
+}
+
+}  // namespace series

@@ -1,0 +1,63 @@
+#pragma once
+
+// The row store of `Form1`: racks with one solution. List format: docs/formats.md.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fichier.h"
+
+namespace series {
+
+/// The rows of a list: rack, solution and right answers given, aligned. An eliminated row keeps
+/// its place, with empty texts, until `compacter`.
+class Rangees {
+  public:
+    /// Most rows of a list.
+    static constexpr std::size_t limite = 15000;
+    /// The ";" that ends the rack stands at this position at most (counted from 1).
+    static constexpr std::size_t positionlimite = 32767;
+
+    /// Reads a list file, replacing all rows. Throws `Faute`, naming the line, on a row without
+    /// ";" (an empty line too) and on a row over the limit.
+    void lire(common::Disque& disque, std::string_view chemin);
+    /// Keeps only these rows, in this order.
+    void garder(std::span<const int> rangs);
+
+    /// Rows in the working set (`nbmots`).
+    [[nodiscard]] int nbmots() const { return static_cast<int>(rangees_.size()); }
+    [[nodiscard]] std::string tirage(int rang) const;
+    [[nodiscard]] std::string solution(int rang) const;
+    /// Line of the row in its file, from 1.
+    [[nodiscard]] std::size_t ligne(int rang) const { return rangee(rang).ligne; }
+    /// Length in characters of the rack of the last line read, 0 for an empty list.
+    [[nodiscard]] std::size_t longueurdernier() const { return longueurdernier_; }
+
+    /// Counts one more right answer; the count after it.
+    int reussir(int rang) { return ++rangee(rang).reussites; }
+    void eliminer(int rang);
+    /// Takes the eliminated rows out; the order stays.
+    void compacter();
+
+  private:
+    struct Rangee {
+        std::string_view tirage;  ///< bytes of `octets_`
+        std::string_view solution;
+        std::uint32_t ligne = 0;
+        int reussites = 0;
+    };
+    [[nodiscard]] const Rangee& rangee(int rang) const {
+        return rangees_.at(static_cast<std::size_t>(rang));
+    }
+    [[nodiscard]] Rangee& rangee(int rang) { return rangees_.at(static_cast<std::size_t>(rang)); }
+
+    std::string octets_;  ///< the file as it stands
+    std::vector<Rangee> rangees_;
+    std::size_t longueurdernier_ = 0;
+};
+
+}  // namespace series

@@ -1,0 +1,70 @@
+#include "revision.h"
+
+#include <algorithm>
+
+#include "faute.h"
+#include "reference.h"
+#include "texte.h"
+
+namespace series {
+namespace {
+
+constexpr std::size_t longueurlistes = 7;  // "listes\"
+
+}  // namespace
+
+std::string sanspartie(std::string_view chemin) {
+    const auto n = common::longueur(chemin);
+    constexpr std::size_t suffixe = 6;  // "_a.txt"
+    if (n < suffixe || common::milieu(chemin, n - suffixe + 1, 1) != "_")
+        return std::string(chemin);
+    return common::sansfin(chemin, suffixe) + ".txt";
+}
+
+std::string nomfichierderevision(std::string_view fich, std::string_view toue,
+                                 std::string_view util) {
+    const auto base = sanspartie(fich);
+    if (toue == "R")
+        return base;
+    return std::string(util) + "\\rev-" + common::milieu(base, longueurlistes + 1);
+}
+
+std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view chemin,
+                                     std::span<const std::string> lignes) {
+    std::vector<bool> presents(lignes.size(), false);
+    const Recherche recherche(lignes);
+    common::Items items(disque, sanspartie(chemin), "Lecture des révisions");
+    std::string_view item;
+    while (items.lireitem(item))
+        for (const auto rang : recherche.rangs(item))
+            presents[rang] = true;
+    return presents;
+}
+
+void ajouterenrevision(common::Disque& disque, std::string_view chemin,
+                       std::span<const std::string> lignes) {
+    if (lignes.empty())
+        return;
+    common::ajouterlignes(disque, chemin, lignes, "Ajout au fichier de révision");
+}
+
+void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne) {
+    constexpr std::string_view action = "Suppression dans le fichier de révision";
+    std::vector<std::string> gardees;
+    common::Items items(disque, chemin, action);
+    std::string_view item;
+    std::size_t nombre = 0;
+    while (items.lireitem(item)) {
+        if (++nombre > limiterevision) {
+            throw common::Faute(common::rapportligne(
+                action, chemin, items.numero(),
+                "trop de lignes ; la limite est de " + std::to_string(limiterevision)));
+        }
+        auto texte = common::depuis1252(item);
+        if (!texte.empty() && texte != ligne)
+            gardees.push_back(std::move(texte));
+    }
+    common::remplacerlignes(disque, chemin, gardees, action);
+}
+
+}  // namespace series
