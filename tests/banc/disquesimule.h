@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "disquereel.h"
+
+namespace banc {
+
+/// The disk of a scenario: real files under its working folder, some of which refuse what is
+/// written to them as a full disk does.
+class DisqueSimule : public common::DisqueReel {
+  public:
+    explicit DisqueSimule(std::filesystem::path racine) : DisqueReel(std::move(racine)) {}
+
+    /// What is written to this file, or into this folder, fails from now on.
+    void refuser(std::string_view chemin) { refuses_.emplace_back(chemin); }
+    /// How many files were opened for reading.
+    [[nodiscard]] int lectures() const { return lectures_; }
+    /// How many appends and replacements were asked for, failed ones included.
+    [[nodiscard]] int ecritures() const { return ecritures_; }
+
+    [[nodiscard]] std::error_code ouvrir(std::string_view chemin,
+                                         std::unique_ptr<common::Flux>& flux) override;
+    [[nodiscard]] std::error_code ajouter(std::string_view chemin,
+                                          std::string_view octets) override;
+    [[nodiscard]] std::error_code remplacer(std::string_view chemin,
+                                            std::string_view octets) override;
+    [[nodiscard]] std::error_code creerdossier(std::string_view chemin) override;
+
+  private:
+    [[nodiscard]] bool plein(std::string_view chemin) const;
+
+    std::vector<std::string> refuses_;
+    int lectures_ = 0;
+    int ecritures_ = 0;
+};
+
+}  // namespace banc

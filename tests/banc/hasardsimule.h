@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <optional>
+
+#include "hasard.h"
+
+namespace banc {
+
+/// Chance under orders: given numbers, or a seeded generator that the clock does not touch.
+class HasardSimule : public common::Hasard {
+  public:
+    HasardSimule() { graine(0); }
+
+    void amorcer(std::int32_t /*secondes*/) override {}
+    [[nodiscard]] double tirer() override {
+        if (nombres_.empty())
+            return generateur_->tirer();
+        const double nombre = nombres_.front();
+        if (nombres_.size() > 1)
+            nombres_.pop_front();
+        return nombre;
+    }
+
+    /// The next numbers drawn, in [0,1); the last one repeats. At least one.
+    void donner(std::deque<double> nombres) { nombres_ = std::move(nombres); }
+    /// A seeded generator from here on.
+    void graine(std::int32_t valeur) {
+        nombres_.clear();
+        generateur_.emplace().amorcer(valeur);
+    }
+
+  private:
+    std::deque<double> nombres_;
+    std::optional<common::HasardReel> generateur_;
+};
+
+}  // namespace banc

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "pilote.h"
+#include "plateformesimulee.h"
+
+namespace banc {
+
+/// Drives the control model, without a window.
+class PiloteModele : public Pilote {
+  public:
+    explicit PiloteModele(PlateformeSimulee& plateforme) : plateforme_(plateforme) {}
+
+    void cliquer(ui::Controle& controle) override;
+    void doublecliquer(ui::Controle& controle) override;
+    void survoler(ui::Controle& controle) override;
+    void relacher(ui::Controle& controle) override;
+    void focaliser(ui::Controle& controle) override;
+    void frapper(const Frappe& frappe) override;
+    void selectionner(ui::Controle& boite) override;
+    void choisir(ui::Controle& liste, std::string_view entree) override;
+    void choisirentree(ui::Controle& entree) override;
+    void fermermenu(ui::Formulaire& formulaire) override;
+    void fermer(ui::Formulaire& formulaire) override;
+    [[nodiscard]] bool capturer(const std::filesystem::path& /*fichier*/) override { return false; }
+    [[nodiscard]] std::string desaccord(const ui::Controle& /*controle*/) override { return {}; }
+
+  private:
+    /// An event of the mouse on a control, whose form comes in front first.
+    void sur(ui::Controle& controle, const std::function<void()>& evenement);
+
+    PlateformeSimulee& plateforme_;
+};
+
+}  // namespace banc

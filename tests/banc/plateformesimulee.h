@@ -1,0 +1,81 @@
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bureau.h"
+#include "disquesimule.h"
+#include "hasardsimule.h"
+#include "plateforme.h"
+
+namespace banc {
+
+/// What the program has done to the outside, since each list was last read.
+struct Journal {
+    std::vector<std::string> messages;    ///< texts of message boxes
+    std::vector<std::string> sons;        ///< sounds played
+    std::vector<std::string> ouvertures;  ///< addresses and files opened by the shell
+    int bips = 0;
+};
+
+/// A machine under orders: clock, chance, disk, network, sound, shell, message boxes, timers.
+class PlateformeSimulee : public ui::Plateforme {
+  public:
+    explicit PlateformeSimulee(const std::filesystem::path& dossier) : disque_(dossier) {}
+
+    [[nodiscard]] DisqueSimule& disque() override { return disque_; }
+    [[nodiscard]] HasardSimule& hasard() override { return hasard_; }
+    [[nodiscard]] common::Instant maintenant() override { return instant_; }
+    void bip() override { ++journal.bips; }
+    void ouvrir(std::string_view cible) override { journal.ouvertures.emplace_back(cible); }
+    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
+    void accueillir(ui::Formulaire& formulaire) override;
+
+    void regler(const common::Instant& instant) { instant_ = instant; }
+    /// Lets seconds pass, ticks included, until the program ends.
+    void avancer(int secondes);
+    /// Answers the next message box that has no answer yet.
+    void repondre(ui::Reponse reponse) { reponses_.push_back(reponse); }
+    /// A download of an address that ends so gives this file of the working folder, or fails.
+    void relier(std::string_view fin, std::optional<std::string> fichier);
+    /// The report of the fault that ended the program; nothing if none did.
+    [[nodiscard]] const std::optional<std::string>& rapport() const { return rapport_; }
+    /// An answer that was given to a box that has no such button; empty once read.
+    [[nodiscard]] std::string incident() { return std::exchange(incident_, {}); }
+
+    Journal journal;
+    Bureau bureau;
+    /// Gives a form its window, before the desk sees it; none without windows.
+    std::function<void(ui::Formulaire&)> fenetre;
+    /// Lets the pending events of the windows run.
+    std::function<void()> pompe;
+
+  protected:
+    [[nodiscard]] ui::Reponse demander(std::string_view texte, ui::Icone icone,
+                                       bool ouinon) override;
+    void jouer(std::string_view fichier) override { journal.sons.emplace_back(fichier); }
+    void pomper() override;
+    void rapporter(std::string_view rapport) override { rapport_ = rapport; }
+    void arreter(int /*statut*/) override {}
+
+  private:
+    struct Adresse {
+        std::string fin;
+        std::optional<std::string> fichier;
+    };
+
+    DisqueSimule disque_;
+    HasardSimule hasard_;
+    common::Instant instant_{2026, 1, 15, 10, 0, 0};
+    std::deque<ui::Reponse> reponses_;
+    std::vector<Adresse> reseau_;
+    std::optional<std::string> rapport_;
+    std::string incident_;
+};
+
+}  // namespace banc

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "formulaire.h"
+
+namespace banc {
+
+// The value of a property, by the name that scenarios give it; nothing if there is none of that
+// name.
+
+[[nodiscard]] std::optional<std::string> lire(const ui::Controle& controle,
+                                              std::string_view propriete);
+[[nodiscard]] std::optional<std::string> lire(const ui::Formulaire& formulaire,
+                                              std::string_view propriete);
+/// Of a timer: `actif`.
+[[nodiscard]] std::optional<std::string> lire(const ui::Minuterie& minuterie,
+                                              std::string_view propriete);
+
+}  // namespace banc

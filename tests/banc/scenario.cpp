@@ -1,0 +1,33 @@
+#include "scenario.h"
+
+#include <istream>
+#include <ostream>
+
+#include "dossier.h"
+
+namespace banc {
+
+void jouer(std::istream& scenario, const std::string& nom, const Reglages& reglages,
+           std::ostream& sortie, Bilan& bilan) {
+    Lecteur lecteur(scenario);
+    if (lecteur.destination() != Destination::Tous && lecteur.destination() != reglages.pilote)
+        return;
+    const auto dossier = reglages.dossier ? std::make_unique<Dossier>(*reglages.dossier)
+                                          : std::make_unique<Dossier>();
+    if (!reglages.dossier)
+        garnir(dossier->chemin(), reglages.jeu);
+    Seance seance(dossier->chemin(), reglages.programme, reglages.fabriquepilote);
+    bool bon = true;
+    Ordre ordre;
+    while (lecteur.suivant(ordre)) {
+        auto reponse = seance.repondre(ordre);
+        if (reponse.starts_with("erreur:")) {
+            bon = false;
+            reponse += " (" + nom + ":" + std::to_string(ordre.numero) + ")";
+        }
+        sortie << reponse << std::endl;  // who gives the orders may be waiting for the answer
+    }
+    ++(bon ? bilan.reussis : bilan.echoues);
+}
+
+}  // namespace banc
