@@ -1,0 +1,35 @@
+#pragma once
+
+#include <array>
+
+#include "formulaire.h"
+#include "formulaires.h"
+
+namespace dialogs {
+
+/// Dialog1: the about panel. It shows the text about the program, or one of two pictures of racks
+/// with many anagrams. `Text1` is the text, `Text2` a small box that takes the focus from it,
+/// `Image1` the racks of 7 letters, `Image2` those of 8.
+class Dialog1 : public ui::Formulaire {
+  public:
+    Dialog1(ui::Plateforme& plateforme, common::Voisins& voisins);
+
+    /// Shows the panel, sized for the text about the program.
+    void montrertexte();
+    /// Fills the panel with the text about the program.
+    void apropos();
+    /// Shows the panel as a picture and at its size: the racks of 7 letters if `index` is 1, of 8
+    /// otherwise. A picture that cannot be read leaves the size of the text.
+    void montrerimage(int index);
+
+  private:
+    void dimensionner(int largeurforme, int hauteurforme);
+
+    common::Voisins& voisins_;
+    ui::Controle& image1_;
+    ui::Controle& image2_;
+    ui::Controle& texte_;
+    ui::Controle& appui_;
+};
+
+}  // namespace dialogs

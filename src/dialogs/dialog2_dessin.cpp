@@ -1,0 +1,174 @@
+#include "dialog2_dessin.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace dialogs {
+namespace {
+
+// Twips. Three columns: what a line is about, its value, its unit.
+constexpr int marge = 360;
+constexpr int colonnevaleur = 4860;
+constexpr int colonneunite = 5760;
+constexpr int largeurforme = 8280;
+constexpr int largeurlibelle = colonnevaleur - marge - 120;
+constexpr int largeurvaleur = 780;
+constexpr int largeurresultat = largeurforme - colonnevaleur - marge;
+constexpr int largeurunite = largeurforme - colonneunite - marge;
+constexpr int hauteurtexte = 285;
+constexpr int hauteurboite = 345;
+constexpr int largeurbouton = 1680;
+constexpr int hauteurbouton = 450;
+constexpr double tailletitre = 11;
+
+// The lines of the form, from top to bottom.
+constexpr int ligneseuils = 180;
+constexpr int lignechrono = 1560;
+constexpr int ligneechantillons = 2850;
+constexpr int lignecouleur = 5400;
+constexpr int ligneson = 5880;
+constexpr int ligneassistance = 6300;
+constexpr int lignemessage = 6870;
+constexpr int ligneboutons = 7380;
+constexpr int hauteurforme = 8040;
+constexpr int pas = 390;
+constexpr int pasresultat = 315;
+
+/// The line of a group: its heading is line 0.
+constexpr int ligne(int groupe, int numero) {
+    return groupe + numero * pas;
+}
+/// The line of a sample size, under the box of the sample.
+constexpr int resultat(int numero) {
+    return ligne(ligneechantillons, 2) + 15 + numero * pasresultat;
+}
+
+/// A label of fixed text; `haut` is the top of its line.
+struct Libelle {
+    std::string_view nom;
+    int index;
+    std::string_view texte;
+    int haut;
+};
+
+constexpr std::array titres{
+    Libelle{"Label1", 0, "Seuils de pourcentages", ligneseuils},
+    Libelle{"Label1", 1, "Chronomètre", lignechrono},
+    Libelle{"Label1", 2, "Taille des échantillons", ligneechantillons},
+    Libelle{"Label1", 3, "Couleur du fond", lignecouleur},
+    Libelle{"Label1", 4, "Son", ligneson},
+    Libelle{"Label1", 5, "Saisie assistée", ligneassistance},
+};
+/// The headings from this one on stand beside their control, on a transparent background.
+constexpr int premiertitrefondu = 3;
+
+constexpr std::array libelles{
+    Libelle{"Label2", 0, "Vert à partir de", ligne(ligneseuils, 1)},
+    Libelle{"Label2", 1, "Rouge en dessous de", ligne(ligneseuils, 2)},
+    Libelle{"Label2", 2, "Temps moyen par mot =", ligne(lignechrono, 1)},
+    Libelle{"Label2", 3, "Temps pour 30 mots = ", ligne(lignechrono, 2)},
+    Libelle{"Label2", 4,
+            "Echantillon de base (séries de 30 tirages) =", ligne(ligneechantillons, 1)},
+    Libelle{"Label2", 5, "Nombre de mots solution unique =", resultat(0)},
+    Libelle{"Label2", 6, "Nombre de mots duos =", resultat(1)},
+    Libelle{"Label2", 7, "Nombre de mots trios =", resultat(2)},
+    Libelle{"Label2", 8, "Nombre de mots quatuors =", resultat(3)},
+    Libelle{"Label2", 9, "Nombre de mots quintets =", resultat(4)},
+};
+
+constexpr std::array unites{
+    Libelle{"Label3", 0, "%", ligne(ligneseuils, 1)},
+    Libelle{"Label3", 1, "%", ligne(ligneseuils, 2)},
+    Libelle{"Label3", 2, "secondes (de 2 à 15)", ligne(lignechrono, 1)},
+    Libelle{"Label3", 3, "série(s) (de 1 à 30)", ligne(ligneechantillons, 1)},
+};
+
+/// A control that exists already; `nomaccessible` tells a box by more than the text it holds.
+struct Place {
+    std::string_view nom;
+    int index;
+    ui::Cadrage cadre;
+    std::string_view nomaccessible;
+};
+
+constexpr ui::Cadrage boite(int haut) {
+    return {colonnevaleur, haut - 30, largeurvaleur, hauteurboite};
+}
+constexpr ui::Cadrage calcul(int haut) {
+    return {colonnevaleur, haut, largeurresultat, hauteurtexte};
+}
+constexpr ui::Cadrage choix(int haut) {
+    return {colonnevaleur, haut - 30, largeurresultat, hauteurboite};
+}
+constexpr ui::Cadrage bouton(int rangdepuisladroite) {
+    return {largeurforme - marge - largeurbouton - rangdepuisladroite * (largeurbouton + 180),
+            ligneboutons, largeurbouton, hauteurbouton};
+}
+
+constexpr std::array places{
+    Place{"Text1", 0, boite(ligne(ligneseuils, 1)), "Vert à partir de, en pourcentage"},
+    Place{"Text1", 1, boite(ligne(ligneseuils, 2)), "Rouge en dessous de, en pourcentage"},
+    Place{"Text2", -1, boite(ligne(lignechrono, 1)), "Temps moyen par mot, en secondes"},
+    Place{"tps30mots", -1, calcul(ligne(lignechrono, 2)), "Temps pour 30 mots"},
+    Place{"Text3", -1, boite(ligne(ligneechantillons, 1)),
+          "Echantillon de base, en séries de 30 tirages"},
+    Place{"nbechan", 0, calcul(resultat(0)), "Nombre de mots solution unique"},
+    Place{"nbechan", 1, calcul(resultat(1)), "Nombre de mots duos"},
+    Place{"nbechan", 2, calcul(resultat(2)), "Nombre de mots trios"},
+    Place{"nbechan", 3, calcul(resultat(3)), "Nombre de mots quatuors"},
+    Place{"nbechan", 4, calcul(resultat(4)), "Nombre de mots quintets"},
+    Place{"Combo1", -1, choix(lignecouleur), "Couleur du fond"},
+    Place{"Check1", -1, choix(ligneson), "Son"},
+    Place{"Check2", -1, choix(ligneassistance), "Saisie dynamique"},
+    Place{"Label4",
+          -1,
+          {marge, lignemessage, largeurforme - 2 * marge, hauteurboite},
+          "Message sur les options saisies"},
+    Place{"OKButton", -1, bouton(1), "OK"},
+    Place{"Command1", -1, bouton(0), "Annuler"},
+};
+
+ui::Controle& etiquette(ui::Formulaire& form, const Libelle& libelle, int gauche, int largeur) {
+    auto& controle = form.ajouter(ui::Genre::Etiquette, libelle.nom, libelle.index);
+    controle.texte = std::string(libelle.texte);
+    controle.placer({gauche, libelle.haut, largeur, hauteurtexte});
+    return controle;
+}
+
+/// A thin rule above a group.
+void filet(ui::Formulaire& form, int index, int haut) {
+    auto& trait = form.ajouter(ui::Genre::Ligne, "Line1", index);
+    trait.placer({marge, haut, largeurforme - 2 * marge, 0});
+    trait.couleur = ui::Couleur(0x9A8C80);
+}
+
+}  // namespace
+
+void dessinerdialog2(ui::Formulaire& form) {
+    form.largeur = largeurforme;
+    form.hauteur = hauteurforme;
+    for (const auto& titre : titres) {
+        const bool fondu = titre.index >= premiertitrefondu;
+        auto& controle =
+            etiquette(form, titre, marge, fondu ? largeurlibelle : largeurforme - 2 * marge);
+        controle.gras = true;
+        controle.taille = tailletitre;
+        controle.aspect = ui::Aspect::Titre;
+        controle.fondu = fondu;
+    }
+    for (const auto& libelle : libelles)
+        etiquette(form, libelle, marge, largeurlibelle);
+    for (const auto& unite : unites)
+        etiquette(form, unite, colonneunite, largeurunite);
+    int index = 0;
+    for (const int haut : {lignechrono, ligneechantillons, lignecouleur, lignemessage})
+        filet(form, index++, haut - 105);
+    for (const auto& place : places) {
+        auto& controle = *form.trouver(place.nom, place.index);
+        controle.placer(place.cadre);
+        controle.accessible = std::string(place.nomaccessible);
+    }
+}
+
+}  // namespace dialogs

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "fichier.h"
+
+namespace dialogs {
+
+/// Size of a picture, in pixels.
+struct Dimensions {
+    int largeur = 0;
+    int hauteur = 0;
+    friend bool operator==(const Dimensions&, const Dimensions&) = default;
+};
+
+/// The size that the head of a BMP or PNG file tells. Nothing if the file cannot be read, is no
+/// such picture, or tells a side outside 1 to `cotemaximal`.
+[[nodiscard]] std::optional<Dimensions> dimensions(common::Disque& disque, std::string_view chemin);
+inline constexpr int cotemaximal = 10000;
+
+}  // namespace dialogs

@@ -1,0 +1,116 @@
+#include "miseajour.h"
+
+#include "adresses.h"
+#include "fichier.h"
+#include "nombre.h"
+#include "texte.h"
+
+namespace dialogs {
+namespace {
+
+constexpr std::string_view fichierversion = "version_en_ligne.txt";
+constexpr std::string_view fichierlien = "downloadlink.txt";
+constexpr std::string_view fichierinstalleur = "orvane_setup.exe";
+
+/// The first line of a file's bytes, whole; nothing if there is none.
+std::optional<std::string> premiereligne(std::string_view octets) {
+    common::Lignes lignes(octets);
+    std::string_view ligne;
+    if (!lignes.suivante(ligne))
+        return std::nullopt;
+    return common::depuis1252(ligne);
+}
+
+}  // namespace
+
+bool memeversion(std::string_view locale, std::string_view publiee) {
+    return common::valeur(locale) == common::valeur(publiee);
+}
+
+void MiseAJour::verifier() {
+    const auto chemin = dansdossierprogramme(fichierversion);
+    if (!plateforme_.telecharger(common::adresses::version, chemin)) {
+        ouvrirpage(
+            "Erreur durant la vérification. Votre navigateur va s'ouvrir sur la page d'Orvane.",
+            ui::Icone::Exclamation);
+        return;
+    }
+    const auto publiee = premiereligne(common::lirefichier(plateforme_.disque(), chemin,
+                                                           "Vérification de la mise à jour"))
+                             .value_or("");
+    if (memeversion(voisins_.form3.versionlocale, publiee))
+        plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
+    else if (proposer(publiee))
+        telecharger();
+}
+
+bool MiseAJour::proposer(std::string_view publiee) {
+    return plateforme_.question("Votre version actuelle est " + voisins_.form3.versionlocale +
+                                "\nLa mise à jour " + std::string(publiee) +
+                                " est disponible. Voulez-vous la télécharger ?");
+}
+
+/// Fetches the link, then what it leads to. A link that cannot be fetched or read leaves the busy
+/// pointer on the menu.
+void MiseAJour::telecharger() {
+    plateforme_.message(
+        "Le programme va télécharger la nouvelle version, cela peut prendre quelques secondes.",
+        ui::Icone::Information);
+    voisins_.menu.patienter(true);
+    voisins_.menu.aide("Téléchargement en cours");
+    plateforme_.laissercourir();
+    if (!plateforme_.telecharger(common::adresses::lien, fichierlien)) {
+        ouvrirpage(
+            "Erreur durant le téléchargement automatisé, désolé. Votre navigateur va s'ouvrir sur "
+            "la page d'Orvane, vous pourrez ensuite télécharger la dernière version.",
+            ui::Icone::Exclamation);
+        return;
+    }
+    const auto lien = lirelien();
+    if (!lien)
+        return;
+    const bool complet = plateforme_.telecharger(*lien, fichierinstalleur);
+    voisins_.menu.patienter(false);
+    if (complet)
+        installer();
+    else
+        ouvrirpage(
+            "Votre navigateur va s'ouvrir sur la page d'Orvane, vous pourrez ensuite télécharger "
+            "la dernière version.",
+            ui::Icone::Information);
+}
+
+/// Hands over to the installer and ends the program, unless a file that was downloaded cannot be
+/// deleted.
+void MiseAJour::installer() {
+    plateforme_.message(
+        "Orvane va maintenant se fermer et l'installation de la mise à jour va débuter. Suivez les "
+        "instructions puis cochez \"Lancer Orvane\" à la fin pour le relancer.",
+        ui::Icone::Information);
+    plateforme_.ouvrir(dansdossierprogramme(fichierinstalleur));
+    for (const auto fichier : {fichierlien, fichierversion})
+        if (plateforme_.disque().supprimer(fichier))
+            return;
+    plateforme_.laissercourir();
+    ui::Plateforme::terminer();
+}
+
+void MiseAJour::ouvrirpage(std::string_view explication, ui::Icone icone) {
+    plateforme_.message(explication, icone);
+    plateforme_.ouvrir(common::adresses::telechargement);
+}
+
+/// The address in the link file; nothing if it cannot be read. This failure ends the check without
+/// a word.
+std::optional<std::string> MiseAJour::lirelien() {
+    std::string octets;
+    if (common::essayerlire(plateforme_.disque(), fichierlien, octets))
+        return std::nullopt;
+    return premiereligne(octets);
+}
+
+std::string MiseAJour::dansdossierprogramme(std::string_view fichier) {
+    return plateforme_.dossierprogramme() + "\\" + std::string(fichier);
+}
+
+}  // namespace dialogs

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "formulaires.h"
+#include "plateforme.h"
+
+namespace dialogs {
+
+/// Two versions are the same when their numeric values are: "2.680" is "2.68", "2,68" is 2.
+[[nodiscard]] bool memeversion(std::string_view locale, std::string_view publiee);
+
+/// The update check: compares the program's version with the published one, and on the player's
+/// word downloads the installer, opens it and ends the program. All of it runs in one call. The
+/// version file goes to the program's folder; the link and the installer go to the working folder.
+class MiseAJour {
+  public:
+    MiseAJour(ui::Plateforme& plateforme, common::Voisins& voisins)
+        : plateforme_(plateforme), voisins_(voisins) {}
+
+    /// Throws `Faute` if the version file that was downloaded cannot be read.
+    void verifier();
+
+  private:
+    [[nodiscard]] bool proposer(std::string_view publiee);
+    void telecharger();
+    void installer();
+    void ouvrirpage(std::string_view explication, ui::Icone icone);
+    [[nodiscard]] std::optional<std::string> lirelien();
+    [[nodiscard]] std::string dansdossierprogramme(std::string_view fichier);
+
+    ui::Plateforme& plateforme_;
+    common::Voisins& voisins_;
+};
+
+}  // namespace dialogs
