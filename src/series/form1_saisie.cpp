@@ -33,8 +33,10 @@ void Form1::branchersaisie() {
     };
     recherche.clic = [this] {
         mettredefaut(valider);
-        if (serieouverte())
-            peindrecourante(0);
+        if (!serieouverte())
+            return;
+        tirage[0]->fond = ui::couleurs::tirageaurepos;
+        solution[0]->fond = ui::couleurs::courante;
     };
 }
 

@@ -1,0 +1,167 @@
+#include "application.h"
+
+#include <functional>
+#include <utility>
+
+#include "dialog.h"
+#include "dialog1.h"
+#include "dialog2.h"
+#include "form1.h"
+#include "form2.h"
+#include "form3.h"
+#include "miseajour.h"
+#include "multi.h"
+
+namespace application {
+namespace {
+
+/// A form that comes into being at its first touch, and is loaded at that moment. Unloaded, it
+/// comes back fresh.
+template <class F>
+class Piece {
+  public:
+    Piece(ui::Plateforme& plateforme, std::function<std::unique_ptr<F>()> fabrique)
+        : plateforme_(plateforme), fabrique_(std::move(fabrique)) {}
+
+    F& operator()() {
+        if (!form_) {
+            form_ = fabrique_();
+            plateforme_.accueillir(*form_);
+            if constexpr (requires { form_->charger(); }) form_->charger();
+        }
+        return *form_;
+    }
+    /// The form goes once the running event, which may be its own, is through.
+    void decharger() {
+        plateforme_.apres([this] { form_.reset(); });
+    }
+
+  private:
+    ui::Plateforme& plateforme_;
+    std::function<std::unique_ptr<F>()> fabrique_;
+    std::unique_ptr<F> form_;
+};
+
+template <class F>
+class Serie final : public common::FaceSerie {
+  public:
+    explicit Serie(Piece<F>& form) : form_(form) {}
+    void patienter() override { form_().pointeur = ui::Pointeur::Attente; }
+    void coloration() override { form_().coloration(); }
+    void montrer() override { form_().visible = true; }
+    void commencer(std::string_view chemin) override { form_().commencer(chemin); }
+    void activerseuil(bool actif) override { form_().activerseuil(actif); }
+    void donnerfond(std::uint32_t rvb) override { form_().fond = ui::Couleur(rvb); }
+
+  private:
+    Piece<F>& form_;
+};
+
+class Menu final : public common::FaceMenu {
+  public:
+    explicit Menu(Piece<menu::Form3>& form) : form_(form) {}
+    void montrer() override { form_().montrer(); }
+    void maj() override { form_().maj(); }
+    std::uint32_t fond() override { return form_().fond().rvb(); }
+    void donnerfond(std::uint32_t rvb) override { form_().donnerfond(rvb); }
+    bool app() override { return form_().app(); }
+    void aide(std::string_view texte) override { form_().aide(texte); }
+    void patienter(bool attente) override { form_().patienter(attente); }
+
+  private:
+    Piece<menu::Form3>& form_;
+};
+
+class Options final : public common::FaceOptions {
+  public:
+    explicit Options(Piece<dialogs::Dialog2>& form) : form_(form) {}
+    bool check1() override { return form_().check1(); }
+    void choisircouleur(std::string_view nom) override { form_().choisircouleur(nom); }
+    void ouvrir() override { form_().ouvrir(); }
+
+  private:
+    Piece<dialogs::Dialog2>& form_;
+};
+
+class Historique final : public common::FaceHistorique {
+  public:
+    explicit Historique(Piece<dialogs::Dialog>& form) : form_(form) {}
+    void montrer(std::string_view titre) override { form_().montrer(titre); }
+    void ajouter(std::span<const std::string> lignes) override { form_().ajouter(lignes); }
+
+  private:
+    Piece<dialogs::Dialog>& form_;
+};
+
+class Apropos final : public common::FaceApropos {
+  public:
+    Apropos(Piece<dialogs::Dialog1>& form, ui::Plateforme& plateforme, common::Voisins& voisins)
+        : form_(form), miseajour_(plateforme, voisins) {}
+    void apropos() override { form_().montrertexte(); }
+    void montrerimage(int index) override { form_().montrerimage(index); }
+    void verifiermiseajour() override { miseajour_.verifier(); }
+
+  private:
+    Piece<dialogs::Dialog1>& form_;
+    dialogs::MiseAJour miseajour_;
+};
+
+}  // namespace
+
+class Application::Salle {
+  public:
+    explicit Salle(ui::Plateforme& plateforme)
+        : form2(plateforme,
+                [&] { return std::make_unique<profiles::Form2>(plateforme, voisins); }),
+          form3(plateforme, [&] { return std::make_unique<menu::Form3>(plateforme, voisins); }),
+          form1(plateforme, [&] { return std::make_unique<series::Form1>(plateforme, voisins); }),
+          multi(plateforme, [&] { return std::make_unique<multi::Multi>(plateforme, voisins); }),
+          dialog2(plateforme,
+                  [&] {
+                      return std::make_unique<dialogs::Dialog2>(plateforme, voisins,
+                                                                [this] { dialog2.decharger(); });
+                  }),
+          dialog(plateforme,
+                 [&] {
+                     return std::make_unique<dialogs::Dialog>(plateforme,
+                                                              [this] { dialog.decharger(); });
+                 }),
+          dialog1(plateforme,
+                  [&] { return std::make_unique<dialogs::Dialog1>(plateforme, voisins); }),
+          facemenu(form3),
+          faceoptions(dialog2),
+          faceform1(form1),
+          facemulti(multi),
+          facehistorique(dialog),
+          faceapropos(dialog1, plateforme, voisins),
+          voisins{variablesform3, variablesdialog2, facemenu,       faceoptions,
+                  faceform1,      facemulti,        facehistorique, faceapropos} {}
+
+    common::VariablesForm3 variablesform3;
+    common::VariablesDialog2 variablesdialog2;
+    Piece<profiles::Form2> form2;
+    Piece<menu::Form3> form3;
+    Piece<series::Form1> form1;
+    Piece<multi::Multi> multi;
+    Piece<dialogs::Dialog2> dialog2;
+    Piece<dialogs::Dialog> dialog;
+    Piece<dialogs::Dialog1> dialog1;
+    Menu facemenu;
+    Options faceoptions;
+    Serie<series::Form1> faceform1;
+    Serie<multi::Multi> facemulti;
+    Historique facehistorique;
+    Apropos faceapropos;
+    common::Voisins voisins;
+};
+
+Application::Application(ui::Plateforme& plateforme)
+    : salle_(std::make_unique<Salle>(plateforme)) {}
+
+Application::~Application() = default;
+
+void Application::demarrer() { salle_->form2().visible = true; }
+
+common::Voisins& Application::voisins() { return salle_->voisins; }
+
+}  // namespace application
