@@ -20,6 +20,15 @@ Controle& Formulaire::ajouter(Genre genre, std::string_view nomducontrole, int i
     return controle;
 }
 
+Controle& Formulaire::poser(Genre genre, std::string_view nomducontrole, int index,
+                            std::string_view libelle, const Cadrage& cadre) {
+    auto& controle = ajouter(genre, nomducontrole, index);
+    controle.texte = std::string(libelle);
+    controle.fondu = genre == Genre::Etiquette;
+    controle.placer(cadre);
+    return controle;
+}
+
 Minuterie& Formulaire::ajouterminuterie(std::string_view nomdelaminuterie) {
     return *minuteries_.emplace_back(std::make_unique<Minuterie>(std::string(nomdelaminuterie)));
 }

@@ -78,6 +78,9 @@ class Formulaire : public Observe<ChampFormulaire> {
 
     /// Makes a control. Those made later lie in front.
     Controle& ajouter(Genre genre, std::string_view nomducontrole, int index = -1);
+    /// Makes a control with its text and its place; a label lets the form show through.
+    Controle& poser(Genre genre, std::string_view nomducontrole, int index,
+                    std::string_view libelle, const Cadrage& cadre);
     Minuterie& ajouterminuterie(std::string_view nomdelaminuterie);
     Menu& ajoutermenu(std::string_view nomdumenu);
     /// The control of a design name and index (-1: none); null if there is none.
