@@ -29,42 +29,28 @@ constexpr ui::Cadrage cadretexte{marge, 1140, 10560, 3000};
 Form2::Form2(ui::Plateforme& plateforme, common::Voisins& voisins)
     : Formulaire(plateforme, "Form2"),
       voisins_(voisins),
-      titre_(etiquette("Label1", "ORVANE - PROGRAMME D'ENTRAÎNEMENT AU SCRABBLE",
-                       {marge, 300, 10560, 540})),
+      titre_(poser(Genre::Etiquette, "Label1", -1, "ORVANE - PROGRAMME D'ENTRAÎNEMENT AU SCRABBLE",
+                   {marge, 300, 10560, 540})),
       image_(ajouter(Genre::Image, "Image1")),
-      utilisateur_(etiquette("Label4", "Utilisateur :", {colonne, 1140, largeurcolonne, 300})),
+      utilisateur_(poser(Genre::Etiquette, "Label4", -1,
+                         "Utilisateur :", {colonne, 1140, largeurcolonne, 300})),
       user_(ajouter(Genre::Liste, "user")),
-      commencer_(bouton("Command1", "COMMENCER", {colonne, 2070, largeurcolonne, 660})),
-      nouveau_(bouton("Command2", "Nouvel utilisateur ?", {colonne, 2910, largeurcolonne, 450})),
-      invite_(etiquette(
-          "Label5", "Saisissez votre nom d'utilisateur :", {colonne, 3720, largeurcolonne, 300})),
+      commencer_(
+          poser(Genre::Bouton, "Command1", -1, "COMMENCER", {colonne, 2070, largeurcolonne, 660})),
+      nouveau_(poser(Genre::Bouton, "Command2", -1, "Nouvel utilisateur ?",
+                     {colonne, 2910, largeurcolonne, 450})),
+      invite_(poser(Genre::Etiquette, "Label5", -1,
+                    "Saisissez votre nom d'utilisateur :", {colonne, 3720, largeurcolonne, 300})),
       nom_(ajouter(Genre::Boite, "Text2")),
-      conseil_(etiquette("Label3", "(pas de caractères spéciaux)",
-                         {colonne, 4500, largeurcolonne, 300})),
-      ok_(bouton("Command3", "OK", {colonne + 3180, 4050, 900, 405})),
+      conseil_(poser(Genre::Etiquette, "Label3", -1, "(pas de caractères spéciaux)",
+                     {colonne, 4500, largeurcolonne, 300})),
+      ok_(poser(Genre::Bouton, "Command3", -1, "OK", {colonne + 3180, 4050, 900, 405})),
       texte_(ajouter(Genre::Boite, "Text1")),
-      quitter_(bouton("quitter", "Command4", {marge, 5010, 1500, 405})),
-      compte_(etiquette("Label2", "", {marge, 5130, 10560, 360})),
+      quitter_(poser(Genre::Bouton, "quitter", -1, "Command4", {marge, 5010, 1500, 405})),
+      compte_(poser(Genre::Etiquette, "Label2", -1, "", {marge, 5130, 10560, 360})),
       minuterie_(ajouterminuterie("Timer1")) {
     dresser();
     brancher();
-}
-
-ui::Controle& Form2::etiquette(std::string_view nomducontrole, std::string_view libelle,
-                               const ui::Cadrage& cadre) {
-    auto& controle = ajouter(Genre::Etiquette, nomducontrole);
-    controle.texte = std::string(libelle);
-    controle.fondu = true;
-    controle.placer(cadre);
-    return controle;
-}
-
-ui::Controle& Form2::bouton(std::string_view nomducontrole, std::string_view libelle,
-                            const ui::Cadrage& cadre) {
-    auto& controle = ajouter(Genre::Bouton, nomducontrole);
-    controle.texte = std::string(libelle);
-    controle.placer(cadre);
-    return controle;
 }
 
 void Form2::dresser() {

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 #include "formulaire.h"
 #include "formulaires.h"
@@ -22,10 +20,6 @@ class Form2 : public ui::Formulaire {
     void apropos();
 
   private:
-    ui::Controle& etiquette(std::string_view nomducontrole, std::string_view libelle,
-                            const ui::Cadrage& cadre);
-    ui::Controle& bouton(std::string_view nomducontrole, std::string_view libelle,
-                         const ui::Cadrage& cadre);
     void dresser();
     void brancher();
     void montrersaisie(bool montree);

@@ -1,0 +1,133 @@
+#include "form3.h"
+
+#include "aides.h"
+#include "couleurs.h"
+#include "hist.h"
+#include "historique.h"
+#include "settings.h"
+
+namespace menu {
+namespace {
+
+using ui::Genre;
+
+constexpr std::string_view version = "2.68";
+constexpr std::string_view datedeversion = "24/08/2019";
+/// Who the menu runs for when no name was chosen at login.
+constexpr std::string_view utilisateurdesecours = "Ferdo";
+
+constexpr int nbverbes = 5;
+constexpr int nbcheres = 8;
+
+}  // namespace
+
+Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
+    : Formulaire(plateforme, "Form3"),
+      voisins_(voisins),
+      acces_(poseracces()),
+      entetes_(poserentetes()),
+      lignes_(poserlignes()),
+      verbes_(poserinsignes("Image2", nbverbes, "images\\vb_30x30.bmp", "Verbes")),
+      cheres_(poserinsignes("Image3", nbcheres, "images\\jkq_30x30.bmp", "Lettres chères")),
+      images_(poserimages()),
+      perso_(ajouter(Genre::Boite, "Text2")),
+      persook_(poser(Genre::Bouton, "Command16", -1, "OK", {})),
+      total_(poser(Genre::Etiquette, "Label12", -1, "", {})),
+      aide_(poser(Genre::Etiquette, "Label11", -1, "", {})),
+      message_(poser(Genre::Etiquette, "Label13", -1, "", {})),
+      app_(poser(Genre::Case, "app", -1, "Apprentissage", {7560, 8655, 2100, 420})),
+      options_(poser(Genre::Bouton, "Command12", -1, "Options", {9450, 8640, 2010, 480})),
+      apropos_(
+          poser(Genre::Bouton, "Command13", -1, "A propos de Orvan", {11640, 8640, 2010, 480})),
+      miseajour_(poser(Genre::Bouton, "Command17", -1, "Vérifier la mise à jour",
+                       {7560, 9240, 3900, 480})),
+      quitter_(poser(Genre::Bouton, "Command10", -1, "Quitter", {11640, 9240, 2010, 480})) {
+    dresser();
+    brancher();
+}
+
+void Form3::charger() {
+    auto& variables = voisins_.form3;
+    variables.versionlocale = version;
+    variables.dateversion = datedeversion;
+    texte = "Orvane - Menu";
+    if (variables.util.empty())
+        variables.util = utilisateurdesecours;
+    texte = texte() + " - " + variables.util;
+    aide(bienvenue(variables.util));
+    preparerlignes();
+    const auto reglages = profiles::liresettings(plateforme().disque(), variables.util);
+    profiles::appliquer(reglages, voisins_.dialog2, [&](const std::string& couleur) {
+        variables.couleurdufond = couleur;
+        voisins_.options.choisircouleur(couleur);
+    });
+    effacerpanneau();
+}
+
+void Form3::maj() {
+    if (!ouvert_)
+        return;
+    auto listes = listes_;
+    if (panneau_ == panneaupersonnel)
+        listes[rangeepersonnelle].fichier = perso_.texte();
+    Derniers derniers(listes);
+    profiles::parcourirhist(plateforme().disque(), voisins_.form3.util,
+                            [&](std::string_view record) { derniers.voir(record); });
+    Resultats resultats;
+    for (std::size_t r = 0; r < nblignes; ++r)
+        resultats.at(r) = {lignes_[r].date.texte(), lignes_[r].resultat.texte()};
+    actualiser(resultats, listes, derniers);
+    const auto& seuils = voisins_.dialog2;
+    for (std::size_t r = 0; r < nblignes; ++r) {
+        ecrireresultat(r, resultats.at(r));
+        if (const auto couleur = teinte(resultats.at(r).texte, seuils.seuilch, seuils.seuilcb))
+            lignes_[r].resultat.couleur = *couleur;
+    }
+}
+
+bool Form3::Verification(std::string_view chemin) {
+    return plateforme().disque().existe(chemin);
+}
+
+void Form3::donnerfond(std::uint32_t rvb) {
+    fond = ui::Couleur(rvb);
+    app_.fond = fond();
+    message_.fond = fond();
+}
+
+void Form3::aide(std::string_view texteaide) {
+    aide_.texte = std::string(texteaide);
+}
+
+void Form3::patienter(bool attente) {
+    pointeur = attente ? ui::Pointeur::Attente : ui::Pointeur::Normal;
+}
+
+/// The message line covers the end of the help box only while it says something.
+void Form3::annoncer(std::string_view annonce) {
+    message_.texte = std::string(annonce);
+    message_.fondu = annonce.empty();
+}
+
+/// A row without a result shows no ground either.
+void Form3::ecrireresultat(std::size_t rangee, const Resultat& resultat) {
+    auto& ligne = lignes_[rangee];
+    ligne.date.texte = resultat.date;
+    ligne.resultat.texte = resultat.texte;
+    ligne.resultat.fondu = resultat.texte.empty();
+}
+
+void Form3::historique(std::size_t rangee) {
+    voisins_.historique.montrer(lignes_[rangee].nom.texte());
+    std::vector<std::string> lignes;
+    profiles::parcourirhist(plateforme().disque(), voisins_.form3.util,
+                            [&](std::string_view record) {
+                                if (rangee >= listes_.size())
+                                    return;
+                                if (auto ligne = lignehistorique(record, listes_[rangee]))
+                                    lignes.push_back(std::move(*ligne));
+                            });
+    voisins_.historique.ajouter(lignes);
+}
+
+}  // namespace menu

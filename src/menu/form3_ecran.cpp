@@ -1,0 +1,230 @@
+// The design of the menu: places in twips, fonts, the order of Tab.
+
+#include <array>
+
+#include "couleurs.h"
+#include "form3.h"
+
+namespace menu {
+namespace {
+
+using ui::Genre;
+
+constexpr int largeurdessin = 13800;
+constexpr int hauteurdessin = 9870;
+
+// The table: rows of this height, the first one at this place, and the columns.
+constexpr int hauteurligne = 720;
+constexpr int hautlignes = 2760;
+constexpr int hautparties = 3015;
+constexpr int hautentete = 2340;
+constexpr int hauteurtexte = 315;
+constexpr int colonneinsigne = 120;
+constexpr int coteinsigne = 450;
+constexpr int colonnenom = 630;
+constexpr int largeurnom = 2460;
+constexpr int colonnenombre = 3120;
+constexpr int decalagenombre = 80;
+constexpr int largeurnombre = 900;
+constexpr int colonnedate = 4080;
+constexpr int largeurdate = 2040;
+constexpr int colonneresultat = 6210;
+constexpr int largeurresultat = 1950;
+constexpr int colonnetout = 8400;
+constexpr int largeurtout = 855;
+constexpr int hauteurtout = 495;
+constexpr int hauteurtoutpartage = 255;
+constexpr int colonneechantillon = 9450;
+constexpr int colonnerevision = 11640;
+constexpr int largeurlancement = 2010;
+constexpr std::array<int, nbparties> colonnesparties{8400, 8615, 8825, 9035};
+constexpr int largeurpartie = 220;
+constexpr int hauteurpartie = 240;
+
+// The foot: the help box, the message line over its end, and the buttons beside it.
+constexpr ui::Cadrage cadreaide{120, 8600, 7215, 1000};
+constexpr ui::Cadrage cadremessage{120, 9240, 7215, 495};
+constexpr std::string_view policeaide = "Times New Roman";
+
+/// The ground of a result: on it green, orange and red stand out alike, whatever background the
+/// player has chosen.
+constexpr ui::Couleur fonddesresultats{0x101418};
+
+int haut(std::size_t rangee) {
+    return hautlignes + static_cast<int>(rangee) * hauteurligne;
+}
+
+}  // namespace
+
+Form3::Controles Form3::poseracces() {
+    Controles boutons;
+    for (const auto& acces : lesacces()) {
+        auto& bouton = poser(Genre::Bouton, acces.nom, acces.index, acces.libelle, acces.cadre);
+        if (acces.groupe == Groupe::Aucun) {
+            bouton.gras = true;
+            bouton.aspect = ui::Aspect::Principal;
+        }
+        boutons.push_back(&bouton);
+    }
+    return boutons;
+}
+
+Form3::Controles Form3::poserentetes() {
+    struct Entete {
+        std::string_view nom;
+        std::string_view libelle;
+        int gauche;
+        int largeur;
+    };
+    constexpr std::array entetes{
+        Entete{"Label2", "Listes", colonnenom, largeurnom},
+        Entete{"Label3", "Nombre", colonnenombre, largeurnombre},
+        Entete{"Label7", "Date", colonnedate, largeurdate},
+        Entete{"Label9", "Dernier pourcentage", colonneresultat, largeurresultat - 210},
+        Entete{"Label8", "%", colonneresultat + largeurresultat - 180, 180},
+    };
+    Controles poses;
+    for (const auto& e : entetes)
+        poses.push_back(&poser(Genre::Etiquette, e.nom, -1, e.libelle,
+                               {e.gauche, hautentete, e.largeur, hauteurtexte}));
+    return poses;
+}
+
+Form3::Ligne Form3::poserligne(int rangee) {
+    const int sommet = haut(static_cast<std::size_t>(rangee));
+    const int milieu = sommet + (hauteurtout - hauteurtexte) / 2;
+    const auto etiquette = [&](std::string_view nom, int gauche, int large) -> ui::Controle& {
+        return poser(Genre::Etiquette, nom, rangee, "", {gauche, milieu, large, hauteurtexte});
+    };
+    const auto bouton = [&](std::string_view nom, std::string_view libelle, int gauche,
+                            int large) -> ui::Controle& {
+        return poser(Genre::Bouton, nom, rangee, libelle, {gauche, sommet, large, hauteurtout});
+    };
+    Ligne ligne{etiquette("Label1", colonnenom, largeurnom),
+                etiquette("Label4", colonnenombre, largeurnombre),
+                etiquette("Label5", colonnedate, largeurdate),
+                etiquette("Label6", colonneresultat, largeurresultat),
+                bouton("Command14", "Tout", colonnetout, largeurtout),
+                bouton("Command6", "Echantillon", colonneechantillon, largeurlancement),
+                bouton("Command22", "Révision", colonnerevision, largeurlancement),
+                {}};
+    constexpr std::array<std::string_view, nbparties> noms{"coma", "comb", "comc", "comd"};
+    for (std::size_t i = 0; i < nbparties; ++i) {
+        const char lettre = lettredepartie(i);
+        auto& partie = poser(Genre::Bouton, noms.at(i), rangee, {&lettre, 1},
+                             {colonnesparties.at(i), 0, largeurpartie, hauteurpartie});
+        partie.taille = 8;
+        ligne.parties.push_back(&partie);
+    }
+    return ligne;
+}
+
+std::vector<Form3::Ligne> Form3::poserlignes() {
+    std::vector<Ligne> lignes;
+    for (int r = 0; r < static_cast<int>(nblignes); ++r)
+        lignes.push_back(poserligne(r));
+    return lignes;
+}
+
+Form3::Controles Form3::poserinsignes(std::string_view nom, int combien, std::string_view image,
+                                      std::string_view accessible) {
+    Controles insignes;
+    for (int i = 0; i < combien; ++i) {
+        auto& insigne =
+            poser(Genre::Image, nom, i, "", {colonneinsigne, 0, coteinsigne, coteinsigne});
+        insigne.image = std::string(image);
+        insigne.accessible = std::string(accessible);
+        insignes.push_back(&insigne);
+    }
+    return insignes;
+}
+
+/// The two pictures of racks, in the place of the row that their panel does not have.
+Form3::Controles Form3::poserimages() {
+    constexpr int largeurimage = 2940;
+    const int sommet = haut(nblignes - 1);
+    return {&poser(Genre::Bouton, "Command11", 0, "8L, + de 5 anagrammes",
+                   {colonnenombre + largeurimage + 90, sommet, largeurimage, hauteurtout}),
+            &poser(Genre::Bouton, "Command11", 1, "7L, + de 5 anagrammes",
+                   {colonnenombre, sommet, largeurimage, hauteurtout})};
+}
+
+void Form3::dresser() {
+    largeur = largeurdessin;
+    hauteur = hauteurdessin;
+    donnerfond(profiles::couleurdufond(profiles::couleurpardefaut).rvb());
+    auto& titre = poser(Genre::Etiquette, "Label10", -1, "Entraînement", {150, 60, 9000, 510});
+    titre.taille = 18;
+    titre.gras = true;
+    titre.aspect = ui::Aspect::Titre;
+    const int sommet = haut(rangeepersonnelle);
+    perso_.placer({colonnenom, sommet + 60, 1800, 375});
+    perso_.texte = "perso.txt";
+    perso_.accessible = "Fichier personnel";
+    persook_.placer({colonnenom + 1860, sommet + 60, 570, 375});
+    total_.placer({colonnenombre, 8250, 2400, hauteurtexte});
+    aide_.placer(cadreaide);
+    aide_.police = std::string(policeaide);
+    aide_.taille = 12;
+    message_.placer(cadremessage);
+    message_.police = std::string(policeaide);
+    message_.taille = 9.75;
+    mettredefaut(persook_);
+    ordonner();
+}
+
+void Form3::ordonner() {
+    Controles ordre = acces_;
+    for (auto& ligne : lignes_) {
+        ordre.push_back(&ligne.tout);
+        ordre.insert(ordre.end(), ligne.parties.begin(), ligne.parties.end());
+        ordre.insert(ordre.end(), {&ligne.echantillon, &ligne.revision});
+    }
+    ordre.insert(ordre.end(), {&perso_, &persook_, images_[1], images_[0], &app_, &options_,
+                               &apropos_, &miseajour_, &quitter_});
+    tabulation(ordre);
+}
+
+/// Fonts and sizes of the rows, empty captions, the part buttons hidden and at their places.
+void Form3::preparerlignes() {
+    constexpr double taille = 11;
+    for (std::size_t r = 0; r < nblignes; ++r) {
+        auto& ligne = lignes_[r];
+        ligne.nom.police = "Constantia";
+        ligne.nom.taille = taille;
+        ligne.nom.gras = true;
+        ligne.nombre.taille = taille;
+        ligne.date.gras = true;
+        ligne.resultat.gras = true;
+        ligne.resultat.taille = taille;
+        ligne.resultat.fond = fonddesresultats;
+        ligne.resultat.alignement = ui::Alignement::Centre;
+        ligne.nom.texte = "";
+        ligne.nombre.texte = "";
+        ecrireresultat(r, {});
+        for (auto* partie : ligne.parties)
+            partie->visible = false;
+        placerparties(r, r);
+    }
+    total_.texte = "";
+}
+
+void Form3::placerinsigne(ui::Controle& insigne, std::size_t rangee) const {
+    insigne.haut = haut(rangee);
+}
+
+void Form3::placerparties(std::size_t index, std::size_t rangee) {
+    for (auto* partie : lignes_[index].parties)
+        partie->haut = hautparties + static_cast<int>(rangee) * hauteurligne;
+}
+
+void Form3::placernombre(std::size_t rangee, bool decale) {
+    lignes_[rangee].nombre.gauche = colonnenombre + (decale ? decalagenombre : 0);
+}
+
+/// "Tout" is lower on a row that shows its parts under it.
+void Form3::placertout(std::size_t rangee, bool partages) {
+    lignes_[rangee].tout.hauteur = partages ? hauteurtoutpartage : hauteurtout;
+}
+
+}  // namespace menu

@@ -1,0 +1,77 @@
+// The launches: what a click leaves in the shared variables, and which list goes to which form.
+
+#include "aides.h"
+#include "form3.h"
+#include "nombre.h"
+
+namespace menu {
+
+/// Makes the revision file of a row's list if it is missing; gives its path.
+std::string Form3::preparerrevision(std::size_t rangee) {
+    auto chemin = cheminrevision(voisins_.form3.util, listes_.at(rangee).fichier);
+    common::toucher(plateforme().disque(), chemin, "Préparation du fichier de révisions");
+    return chemin;
+}
+
+void Form3::lancer(Ecran ecran, std::string_view chemin) {
+    auto& serie = ecran == Ecran::multi ? voisins_.multi : voisins_.form1;
+    visible = false;
+    serie.patienter();
+    serie.coloration();
+    serie.montrer();
+    serie.commencer(chemin);
+}
+
+void Form3::jouertout(std::size_t rangee) {
+    auto& variables = voisins_.form3;
+    variables.toue = modes::tout;
+    variables.nombase = lignes_[rangee].nom.texte();
+    variables.typ = typdupanneau(panneau_);
+    preparerrevision(rangee);
+    lancer(ecran(panneau_, rangee, variables.persomulti), cheminliste(listes_.at(rangee).fichier));
+}
+
+void Form3::jouerrevision(std::size_t rangee) {
+    auto& variables = voisins_.form3;
+    variables.toue = modes::revision;
+    variables.nombase = lignes_[rangee].nom.texte() + " (révisions)";
+    variables.typ = typdupanneau(panneau_);
+    lancer(ecran(panneau_, rangee, variables.persomulti), preparerrevision(rangee));
+}
+
+/// `typ` is left as it stands. The result that is emptied goes by the index of the button, which in
+/// one panel is not its row.
+void Form3::jouerpartie(std::size_t index, std::size_t partie) {
+    const auto rangee = rangeedepartie(panneau_, listes_, index, partie);
+    if (!rangee)
+        return;
+    auto& variables = voisins_.form3;
+    variables.toue = modes::partie;
+    variables.nombase = lignes_[*rangee].nom.texte();
+    ecrireresultat(index, {});
+    preparerrevision(*rangee);
+    lancer(ecran(panneau_, *rangee, variables.persomulti),
+           cheminliste(fichierdepartie(listes_.at(*rangee).fichier, partie)));
+}
+
+/// The stages go on after a launch, with the menu hidden.
+void Form3::jouerechantillon(std::size_t rangee) {
+    auto& variables = voisins_.form3;
+    auto& tailles = voisins_.dialog2;
+    variables.typ.clear();
+    variables.toue = modes::echantillon;
+    variables.nombase = lignes_[rangee].nom.texte();
+    tailles.affecterechantillons(tailles.nbechantillon);
+    const auto base = common::valeur(lignes_[rangee].nombre.texte());
+    for (const auto& etape : etapes(panneau_, rangee, variables.persomulti, base, tailles)) {
+        if (etape.refus)
+            annoncer(messageechantillon);
+        if (!etape.lancement)
+            continue;
+        variables.typ = typdupanneau(panneau_);
+        preparerrevision(rangee);
+        lancer(*etape.lancement, cheminliste(listes_.at(rangee).fichier));
+    }
+}
+
+}  // namespace menu

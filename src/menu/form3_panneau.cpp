@@ -1,0 +1,157 @@
+// The panels: one mechanism opens any of them from the catalogue.
+
+#include <algorithm>
+
+#include "aides.h"
+#include "compteur.h"
+#include "faute.h"
+#include "form3.h"
+
+namespace menu {
+namespace {
+
+constexpr std::string_view panneaudecale = "rallong";    // sizes stand a little to the right
+constexpr std::string_view panneaudimages = "quatquin";  // shows `Command11`
+
+/// What the name of a button adds for those who cannot see its row.
+std::string de(std::string_view libelle) {
+    return libelle.empty() ? std::string() : " : " + std::string(libelle);
+}
+
+}  // namespace
+
+void Form3::effacerpanneau() {
+    ouvert_ = false;
+    annoncer({});
+    for (std::size_t r = 0; r < nblignes; ++r) {
+        auto& ligne = lignes_[r];
+        ligne.nom.texte = "";
+        ligne.nombre.texte = "";
+        ecrireresultat(r, {});
+        placernombre(r, false);
+        for (auto* bouton : {&ligne.echantillon, &ligne.tout, &ligne.revision})
+            bouton->visible = false;
+        placertout(r, false);
+        for (auto* partie : ligne.parties)
+            partie->visible = false;
+    }
+    total_.texte = "";
+    for (std::size_t i = 0; i < acces_.size(); ++i) {
+        if (lesacces()[i].groupe != Groupe::Aucun)
+            acces_[i]->visible = false;
+    }
+    lignes_[rangeepersonnelle].nom.visible = true;
+    for (const auto* groupe : {&entetes_, &verbes_, &cheres_, &images_})
+        std::for_each(groupe->begin(), groupe->end(), [](auto* c) { c->visible = false; });
+    perso_.visible = false;
+    persook_.visible = false;
+}
+
+void Form3::ouvrir(const Acces& acces, ui::Controle& bouton) {
+    if (!acces.panneau.empty()) {
+        panneau_ = acces.panneau;
+        listes_ = listesdupanneau(panneau_, perso_.texte());
+    }
+    effacerpanneau();
+    const auto groupe = acces.montre;
+    for (std::size_t i = 0; i < acces_.size(); ++i) {
+        if (danslegroupe(lesacces()[i], groupe))
+            acces_[i]->visible = true;
+    }
+    donnerfocus(bouton);
+    if (const auto* choisi = panneau(acces.panneau))
+        remplir(*choisi);
+}
+
+void Form3::remplir(const Panneau& panneau) {
+    for (auto* entete : entetes_)
+        entete->visible = true;
+    const bool personnel = panneau.cle == panneaupersonnel;
+    for (std::size_t r = 0; r < listes_.size(); ++r)
+        remplirrangee(r, r < panneau.rangees.size() ? panneau.rangees[r].libelle : "");
+    std::size_t somme = 0;
+    for (std::size_t r = 0; r < panneau.rangees.size(); ++r)
+        somme += compterrangee(r);
+    for (std::size_t r = 0; r < listes_.size(); ++r) {
+        placernombre(r, panneau.cle == panneaudecale);
+        if (listes_[r].parties > 0)
+            montrerparties(r);
+    }
+    montrerinsignes(panneau);
+    perso_.visible = personnel;
+    persook_.visible = personnel;
+    for (auto* image : images_)
+        image->visible = panneau.cle == panneaudimages;
+    if (panneau.total)
+        total_.texte = "Tot=" + std::to_string(somme);
+    const auto texteaide = aidepanneau(panneau.cle);
+    if (!texteaide.empty())
+        aide(texteaide);
+    ouvert_ = true;
+    maj();
+}
+
+void Form3::remplirrangee(std::size_t rangee, std::string_view libelle) {
+    auto& ligne = lignes_[rangee];
+    ligne.nom.texte = std::string(libelle);
+    for (auto* bouton : {&ligne.echantillon, &ligne.tout, &ligne.revision}) {
+        bouton->accessible = bouton->texte() + de(libelle);
+        bouton->visible = true;
+    }
+}
+
+std::size_t Form3::compterrangee(std::size_t rangee) {
+    const auto chemin = cheminliste(listes_[rangee].fichier);
+    Compteur compteur;
+    if (const auto erreur = compter(plateforme().disque(), chemin, compteur)) {
+        throw common::Faute(common::rapportfichier("Comptage des mots d'une liste", chemin,
+                                                   common::raison(erreur)));
+    }
+    lignes_[rangee].nombre.texte = std::to_string(compteur.lignes());
+    return compteur.lignes();
+}
+
+void Form3::montrerparties(std::size_t rangee) {
+    placertout(rangee, true);
+    const auto index = boutondepartie(panneau_, rangee);
+    for (std::size_t i = 0; i < listes_[rangee].parties; ++i) {
+        auto& partie = *lignes_[index].parties[i];
+        partie.accessible = "Partie " + partie.texte() + de(lignes_[rangee].nom.texte());
+        partie.visible = true;
+    }
+    placerparties(index, rangee);
+}
+
+void Form3::montrerinsignes(const Panneau& panneau) {
+    std::size_t verbes = 0;
+    std::size_t cheres = 0;
+    for (std::size_t r = 0; r < panneau.rangees.size(); ++r) {
+        const auto genre = panneau.rangees[r].insigne;
+        if (genre == Insigne::aucun)
+            continue;
+        auto& insigne = genre == Insigne::verbe ? *verbes_.at(verbes++) : *cheres_.at(cheres++);
+        placerinsigne(insigne, r);
+        insigne.visible = true;
+    }
+}
+
+/// "Valid" means that the file can be read to its end. Its kind is read off its last line.
+void Form3::verifierpersonnel() {
+    const auto nom = perso_.texte();
+    Compteur compteur;
+    if (const auto erreur = compter(plateforme().disque(), cheminliste(nom), compteur)) {
+        aide(common::raison(erreur));
+        return;
+    }
+    auto& ligne = lignes_[rangeepersonnelle];
+    ligne.nombre.texte = std::to_string(compteur.lignes());
+    listes_.at(rangeepersonnelle).fichier = nom;
+    ligne.nom.visible = false;
+    ligne.nom.texte = nom;
+    aide(personnelvalide);
+    voisins_.form3.persomulti = compteur.pointsvirgules() > 1;
+    ecrireresultat(rangeepersonnelle, {});
+    maj();
+}
+
+}  // namespace menu

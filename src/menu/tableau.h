@@ -1,0 +1,42 @@
+#pragma once
+
+// What the menu works with for the panel on show: the lists of its rows, as files.
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue.h"
+
+namespace menu {
+
+inline constexpr std::size_t nblignes = 8;   ///< rows of the menu
+inline constexpr std::size_t nbparties = 4;  ///< parts of a list, at most
+/// The panel whose last row is the user's own list, and that row.
+inline constexpr std::string_view panneaupersonnel = "autres";
+inline constexpr std::size_t rangeepersonnelle = 7;
+
+/// The list of a row: its file, and in how many parts it can be worked (0, or 2 to 4).
+struct Liste {
+    std::string fichier;
+    std::size_t parties = 0;
+};
+
+/// The lists of a panel, row 0 first. `personnel` is the file of the user's own list, which only
+/// the panel `autres` has. An unknown key has none.
+[[nodiscard]] std::vector<Liste> listesdupanneau(std::string_view cle, std::string_view personnel);
+
+/// Index of the part buttons that serve a row: the row itself, but in the panel `bt` the rows with
+/// parts share the first buttons, in order.
+[[nodiscard]] std::size_t boutondepartie(std::string_view cle, std::size_t rangee);
+
+/// The row of a part button, by its index and its part (0 is a); nothing where the list of the row
+/// has no such part.
+[[nodiscard]] std::optional<std::size_t> rangeedepartie(std::string_view cle,
+                                                        std::span<const Liste> listes,
+                                                        std::size_t index, std::size_t partie);
+
+}  // namespace menu
