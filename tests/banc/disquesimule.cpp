@@ -36,4 +36,12 @@ std::error_code DisqueSimule::creerdossier(std::string_view chemin) {
     return plein(chemin) ? disqueplein() : DisqueReel::creerdossier(chemin);
 }
 
+/// A folder brings its files with it: one of them that refuses holds the whole back.
+std::error_code DisqueSimule::renommer(std::string_view ancien, std::string_view nouveau) {
+    const auto prefixe = std::string(nouveau) + "\\";
+    const bool dedans = std::any_of(refuses_.begin(), refuses_.end(),
+                                    [&](const std::string& r) { return r.starts_with(prefixe); });
+    return dedans || plein(nouveau) ? disqueplein() : DisqueReel::renommer(ancien, nouveau);
+}
+
 }  // namespace banc

@@ -28,6 +28,8 @@ class DisqueSimule : public common::DisqueReel {
     [[nodiscard]] std::error_code remplacer(std::string_view chemin,
                                             std::string_view octets) override;
     [[nodiscard]] std::error_code creerdossier(std::string_view chemin) override;
+    [[nodiscard]] std::error_code renommer(std::string_view ancien,
+                                           std::string_view nouveau) override;
 
   private:
     [[nodiscard]] bool plein(std::string_view chemin) const;
