@@ -120,6 +120,7 @@ bool Lignes::suivante(std::string_view& ligne) {
     if (saut != nullptr && taille > 0 && depart[taille - 1] == '\r')
         --taille;
     ligne = std::string_view(depart, taille);
+    terminee_ = saut != nullptr;
     ++numero_;
     return true;
 }
@@ -135,18 +136,28 @@ bool Items::lireitem(std::string_view& item) {
             return false;
         ouverte_ = true;
     }
+    numero_ = lignes_.numero();
     reste_.remove_prefix(std::min(reste_.find_first_not_of(" \t"), reste_.size()));
-    if (!reste_.empty() && reste_.front() == '"')
-        return lireguillemets(item);
+    if (!reste_.empty() && reste_.front() == '"') {
+        lireguillemets(item);
+        return true;
+    }
     const auto virgule = reste_.find(',');
     item = reste_.substr(0, virgule);
     ouverte_ = virgule != std::string_view::npos;
-    if (ouverte_)
-        reste_.remove_prefix(virgule + 1);
+    if (ouverte_) {
+        reste_.remove_prefix(virgule);
+        passervirgule();
+    }
     return true;
 }
 
-bool Items::lireguillemets(std::string_view& item) {
+void Items::passervirgule() {
+    reste_.remove_prefix(1);
+    ouverte_ = !reste_.empty() || lignes_.terminee();
+}
+
+void Items::lireguillemets(std::string_view& item) {
     reste_.remove_prefix(1);
     item_.clear();
     auto fin = reste_.find('"');
@@ -156,7 +167,7 @@ bool Items::lireguillemets(std::string_view& item) {
             reste_ = {};
             ouverte_ = false;
             item = item_;
-            return true;
+            return;
         }
         item_.append(findeligne);
         fin = reste_.find('"');
@@ -167,9 +178,8 @@ bool Items::lireguillemets(std::string_view& item) {
     if (reste_.empty())
         ouverte_ = false;
     else if (reste_.front() == ',')
-        reste_.remove_prefix(1);
+        passervirgule();
     item = item_;
-    return true;
 }
 
 std::error_code essayerlire(Disque& disque, std::string_view chemin, std::string& contenu) {

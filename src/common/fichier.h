@@ -67,6 +67,8 @@ class Lignes {
     [[nodiscard]] bool suivante(std::string_view& ligne);
     /// Number of the line last given, from 1.
     [[nodiscard]] std::size_t numero() const { return numero_; }
+    /// The line last given had a line end.
+    [[nodiscard]] bool terminee() const { return terminee_; }
 
   private:
     bool remplir();
@@ -79,11 +81,13 @@ class Lignes {
     std::size_t fin_ = 0;
     std::size_t numero_ = 0;
     bool fini_ = false;
+    bool terminee_ = false;
 };
 
 /// Items of a text file, one pass, as bytes of Windows-1252: blanks at the start are skipped; an
 /// item that begins with a double quote runs to the next one, over line ends too, and blanks and
 /// one comma or line end behind it are consumed; any other item ends at a comma or a line end.
+/// Nothing follows a comma at the very end of the file.
 class Items {
   public:
     Items(Disque& disque, std::string_view chemin, std::string_view action);
@@ -92,14 +96,16 @@ class Items {
     /// The next item (`lireitem`), valid until the next call; false at the end of the file.
     [[nodiscard]] bool lireitem(std::string_view& item);
     /// Number of the line on which the item last given begins, from 1.
-    [[nodiscard]] std::size_t numero() const { return lignes_.numero(); }
+    [[nodiscard]] std::size_t numero() const { return numero_; }
 
   private:
-    bool lireguillemets(std::string_view& item);
+    void lireguillemets(std::string_view& item);
+    void passervirgule();
 
     Lignes lignes_;
     std::string_view reste_;
     std::string item_;
+    std::size_t numero_ = 0;
     bool ouverte_ = false;
 };
 

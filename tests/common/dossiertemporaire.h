@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace essais {
+
+/// A temporary folder, whose name holds a blank and an accent; gone at the end.
+class DossierTemporaire {
+  public:
+    DossierTemporaire() {
+        auto modele = (std::filesystem::temp_directory_path() / "essais été XXXXXX").string();
+        if (::mkdtemp(modele.data()) == nullptr)
+            std::abort();
+        chemin_ = modele;
+    }
+    DossierTemporaire(const DossierTemporaire&) = delete;
+    DossierTemporaire& operator=(const DossierTemporaire&) = delete;
+    ~DossierTemporaire() {
+        std::error_code oubli;
+        std::filesystem::remove_all(chemin_, oubli);
+    }
+
+    [[nodiscard]] const std::filesystem::path& chemin() const { return chemin_; }
+    void ecrire(const std::string& nom, const std::string& octets) const {
+        std::ofstream(chemin_ / nom, std::ios::binary) << octets;
+    }
+    [[nodiscard]] std::string lire(const std::string& nom) const {
+        std::ifstream flux(chemin_ / nom, std::ios::binary);
+        return {std::istreambuf_iterator<char>(flux), {}};
+    }
+
+  private:
+    std::filesystem::path chemin_;
+};
+
+}  // namespace essais
