@@ -1,0 +1,64 @@
+#pragma once
+
+// Words as the lists write them: capitals A to Z without accents.
+
+#include <algorithm>
+#include <array>
+#include <compare>
+#include <cstddef>
+#include <cstring>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace atelier {
+
+/// Longest word of a board.
+constexpr std::size_t longueurmax = 15;
+/// Shortest word that the game allows.
+constexpr std::size_t longueurmin = 2;
+
+/// A word of at most 15 capitals, as a value that sorts and compares fast.
+class Capitales {
+  public:
+    Capitales() = default;
+    /// Takes a text of at most 15 characters A to Z.
+    explicit Capitales(std::string_view texte) {
+        std::memcpy(lettres_.data(), texte.data(), std::min(texte.size(), longueurmax));
+        lettres_[longueurmax] = static_cast<char>(texte.size());
+    }
+
+    [[nodiscard]] std::size_t taille() const { return static_cast<std::size_t>(lettres_.back()); }
+    [[nodiscard]] std::string_view texte() const { return {lettres_.data(), taille()}; }
+    [[nodiscard]] char operator[](std::size_t i) const { return lettres_[i]; }
+    /// The letters in alphabetical order: the rack of the word.
+    [[nodiscard]] Capitales triees() const {
+        Capitales rangees = *this;
+        std::sort(rangees.lettres_.begin(), rangees.lettres_.begin() + lettres_.back());
+        return rangees;
+    }
+
+    /// Shorter words first, then by alphabet.
+    [[nodiscard]] std::strong_ordering operator<=>(const Capitales& autre) const {
+        if (taille() != autre.taille())
+            return taille() <=> autre.taille();
+        return std::memcmp(lettres_.data(), autre.lettres_.data(), longueurmax) <=> 0;
+    }
+    [[nodiscard]] bool operator==(const Capitales& autre) const = default;
+
+  private:
+    std::array<char, longueurmax + 1> lettres_{};  // the last one is the length
+};
+
+/// The capital or capitals of a lower-case letter, without its accent ("é" is E, "œ" is OE);
+/// empty for anything else.
+[[nodiscard]] std::string_view capitalesde(char32_t lettre);
+
+/// The characters of a UTF-8 text; nothing if it is not UTF-8.
+[[nodiscard]] std::optional<std::u32string> points(std::string_view utf8);
+
+/// A lower-case word in capitals without accents; nothing if it holds anything but letters.
+[[nodiscard]] std::optional<std::string> encapitales(std::u32string_view mot);
+[[nodiscard]] std::optional<std::string> encapitales(std::string_view utf8);
+
+}  // namespace atelier

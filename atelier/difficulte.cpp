@@ -1,0 +1,91 @@
+#include "difficulte.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace atelier {
+namespace {
+
+constexpr std::size_t tailleminimale = 5;
+constexpr std::size_t taillemaximale = 10;
+constexpr std::size_t alphabet = 26;
+
+std::size_t rang(char lettre) {
+    return static_cast<std::size_t>(lettre - 'A');
+}
+
+std::size_t rang2(char a, char b) {
+    return rang(a) * alphabet + rang(b);
+}
+
+std::size_t rang3(char a, char b, char c) {
+    return rang2(a, b) * alphabet + rang(c);
+}
+
+/// Number of bits of the fourth power of a count.
+std::uint8_t bits(std::uint64_t compte) {
+    __extension__ using Large = unsigned __int128;
+    const auto carre = static_cast<Large>(compte * compte);
+    const auto puissance = carre * carre;
+    const auto haut = static_cast<std::uint64_t>(puissance >> 64U);
+    const auto largeur = haut != 0 ? 64 + std::bit_width(haut)
+                                   : std::bit_width(static_cast<std::uint64_t>(puissance));
+    return static_cast<std::uint8_t>(largeur);
+}
+
+std::vector<std::uint8_t> mesures(const std::vector<std::uint64_t>& comptes) {
+    std::vector<std::uint8_t> resultat(comptes.size());
+    std::transform(comptes.begin(), comptes.end(), resultat.begin(), bits);
+    return resultat;
+}
+
+}  // namespace
+
+Difficulte::Difficulte(const Vocabulaire& vocabulaire) {
+    std::vector<std::uint64_t> debuts(alphabet * alphabet * alphabet);
+    std::vector<std::uint64_t> fins(debuts.size());
+    std::vector<std::uint64_t> voisins(alphabet * alphabet);
+    for (const auto& mot : vocabulaire.mots(tailleminimale, taillemaximale)) {
+        if (mot.conjugue)
+            continue;
+        const auto t = mot.texte();
+        const auto n = t.size();
+        ++debuts[rang3(t[0], t[1], t[2])];
+        ++fins[rang3(t[n - 3], t[n - 2], t[n - 1])];
+        for (std::size_t i = 1; i < n; ++i)
+            ++voisins[rang2(t[i - 1], t[i])];
+    }
+    debuts_ = mesures(debuts);
+    fins_ = mesures(fins);
+    voisins_ = mesures(voisins);
+}
+
+int Difficulte::de(const Mot& mot) const {
+    const auto t = mot.texte();
+    const auto n = t.size();
+    int meilleurdebut = 0;
+    int meilleurefin = 0;
+    int paires = 0;
+    for (std::size_t i = 0; i < n; ++i) {
+        for (std::size_t j = 0; j < n; ++j) {
+            if (j == i)
+                continue;
+            paires += voisins_[rang2(t[i], t[j])];
+            for (std::size_t k = 0; k < n; ++k) {
+                if (k == i || k == j)
+                    continue;
+                const auto trois = rang3(t[i], t[j], t[k]);
+                meilleurdebut = std::max<int>(meilleurdebut, debuts_[trois]);
+                meilleurefin = std::max<int>(meilleurefin, fins_[trois]);
+            }
+        }
+    }
+    int propres = 0;
+    for (std::size_t i = 1; i < n; ++i)
+        propres += voisins_[rang2(t[i - 1], t[i])];
+    return 2 * (meilleurefin - fins_[rang3(t[n - 3], t[n - 2], t[n - 1])]) +
+           2 * (meilleurdebut - debuts_[rang3(t[0], t[1], t[2])]) + paires / static_cast<int>(n) -
+           propres;
+}
+
+}  // namespace atelier

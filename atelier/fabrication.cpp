@@ -1,0 +1,161 @@
+#include "fabrication.h"
+
+#include <set>
+
+#include "catalogue.h"
+#include "licences.h"
+#include "listes.h"
+#include "notes.h"
+#include "references.h"
+#include "tables.h"
+#include "texte.h"
+
+namespace atelier {
+namespace {
+
+constexpr std::string_view findeligne = "\r\n";
+/// The panel and the rows of the conjugations whose verb does not show.
+constexpr std::string_view panneauatypiques = "conja";
+constexpr std::size_t premieratypique = 1;
+constexpr std::size_t dernieratypique = 2;
+
+std::string chemindeliste(std::string_view fichier) {
+    return std::string(common::dossierlistes) + '/' + std::string(fichier);
+}
+
+std::string octets(std::span<const Rangee> rangees) {
+    std::string texte;
+    for (const auto& rangee : rangees)
+        texte.append(rangee.texte()).append(findeligne);
+    return texte;
+}
+
+std::string octets(const std::vector<Capitales>& mots) {
+    std::string texte;
+    for (const auto& mot : mots)
+        texte.append(mot.texte()).append(findeligne);
+    return texte;
+}
+
+std::string octets(const std::vector<Note>& notes) {
+    std::string texte;
+    for (const auto& note : notes) {
+        texte.append(note.mot).append(findeligne);
+        texte.append(common::vers1252(note.texte)).append(findeligne);
+    }
+    return texte;
+}
+
+/// The longest rack that the form of a row can hold that many of.
+std::size_t rangeesmax(const menu::Rangee& rangee) {
+    return rangee.ecran == menu::Ecran::form1 ? common::rangeesform1 : common::rangeesmulti;
+}
+
+/// Makes the files one after the other and remembers what the notes need.
+class Fabrique {
+  public:
+    Fabrique(const Matiere& matiere, const Thesaurus& thesaurus, const Progression& progression)
+        : m_(matiere), thesaurus_(thesaurus), progression_(progression) {}
+
+    std::vector<Fichier> tout() {
+        for (const auto& recettes : toutesrecettes())
+            listes(recettes);
+        progression_("listes de référence");
+        for (const auto& reference : references())
+            ajouter(chemindeliste(reference.liste.fichier), octets(reference.faire(m_)));
+        for (const auto& table : tables)
+            ajouter(chemindeliste(table.texte), octets(tirages6(m_.mots, table.taille).rangees));
+        progression_("notes");
+        ajouter(std::string(common::fichierinfosouris),
+                octets(notes(m_.mots, thesaurus_, demandes_, atypiques_)));
+        for (const auto& licence : licences()) {
+            ajouter(std::string(licence.fichier), common::vers1252(licence.texte));
+        }
+        return std::move(fichiers_);
+    }
+
+  private:
+    void ajouter(std::string chemin, std::string contenu) {
+        fichiers_.push_back({std::move(chemin), std::move(contenu)});
+    }
+
+    void listes(const Recettes& recettes) {
+        const auto& rangees = menu::panneau(recettes.panneau)->rangees;
+        for (std::size_t i = 0; i < rangees.size(); ++i) {
+            progression_(rangees[i].libelle);
+            auto contenu = recettes.recettes.at(i).faire(m_);
+            liste(rangees[i], contenu);
+            demandes_.insert(contenu.mots.begin(), contenu.mots.end());
+            if (recettes.panneau == panneauatypiques && i >= premieratypique &&
+                i <= dernieratypique)
+                atypiques_.insert(contenu.mots.begin(), contenu.mots.end());
+        }
+    }
+
+    void liste(const menu::Rangee& rangee, Contenu& contenu) {
+        if (contenu.rangees.size() > rangeesmax(rangee))
+            contenu.rangees.resize(rangeesmax(rangee));
+        ajouter(chemindeliste(rangee.fichier), octets(contenu.rangees));
+        for (std::size_t k = 0; k < rangee.parties; ++k) {
+            ajouter(chemindeliste(menu::fichierdepartie(rangee.fichier, k)),
+                    octets(partie(contenu.rangees, rangee.parties, k)));
+        }
+    }
+
+    const Matiere& m_;
+    const Thesaurus& thesaurus_;
+    const Progression& progression_;
+    std::vector<Fichier> fichiers_;
+    std::set<std::uint32_t> demandes_;
+    std::set<std::uint32_t> atypiques_;
+};
+
+bool nomme(std::string_view fichier, std::string_view nom) {
+    return nom.empty() || fichier == nom || fichier.substr(0, fichier.rfind('.')) == nom;
+}
+
+}  // namespace
+
+std::span<const Rangee> partie(std::span<const Rangee> rangees, std::size_t parties,
+                               std::size_t rang) {
+    const auto debut = rang * rangees.size() / parties;
+    const auto fin = (rang + 1) * rangees.size() / parties;
+    return rangees.subspan(debut, fin - debut);
+}
+
+std::vector<Fichier> fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
+                               const Progression& progression) {
+    return Fabrique(matiere, thesaurus, progression).tout();
+}
+
+std::vector<Description> decrire(const Matiere& matiere, std::string_view nom) {
+    std::vector<Description> liste;
+    for (const auto& recettes : toutesrecettes()) {
+        const auto& rangees = menu::panneau(recettes.panneau)->rangees;
+        for (std::size_t i = 0; i < rangees.size(); ++i) {
+            if (!nomme(rangees[i].fichier, nom))
+                continue;
+            const auto& recette = recettes.recettes.at(i);
+            liste.push_back({std::string(rangees[i].fichier), std::string(rangees[i].libelle),
+                             recette.description, recette.faire(matiere).rangees.size()});
+        }
+    }
+    for (const auto& reference : references()) {
+        if (nomme(reference.liste.fichier, nom))
+            liste.push_back({std::string(reference.liste.fichier),
+                             {},
+                             reference.description,
+                             reference.faire(matiere).size()});
+    }
+    for (const auto& table : tables) {
+        if (nomme(table.texte, nom))
+            liste.push_back({std::string(table.texte),
+                             {},
+                             "Les tirages de " + std::to_string(table.taille) +
+                                 " lettres qui font six mots non conjugués ou plus.",
+                             tirages6(matiere.mots, table.taille).rangees.size()});
+    }
+    return liste;
+}
+
+}  // namespace atelier

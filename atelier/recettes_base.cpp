@@ -1,0 +1,145 @@
+#include <algorithm>
+
+#include "regles.h"
+
+namespace atelier {
+namespace {
+
+/// A rack with more wanted words than this asks too much of a player who learns short words.
+constexpr std::size_t souhaitesmax = 3;
+constexpr std::size_t souhaitesmax5 = 2;
+constexpr std::size_t anagrammesmax5 = 3;
+constexpr std::uint32_t verbecourant = 100;
+
+bool conjugueenez(const Mot& mot) {
+    return mot.conjugue && mot.finiten("EZ");
+}
+
+/// All words of three letters with a dear letter.
+Contenu chere3(const Matiere& m) {
+    const auto mots = choisir(m.mots, 3, 3, [](const Mot& mot) { return mot.chere; });
+    return indiques(m.mots, mots, mots);
+}
+
+/// Words with a dear letter, but for the conjugations in -EZ.
+Selection cheressansez(const Matiere& m, std::size_t taille) {
+    return choisir(m.mots, taille, taille,
+                   [](const Mot& mot) { return mot.chere && !conjugueenez(mot); });
+}
+
+Contenu chere45(const Matiere& m, std::size_t taille) {
+    const auto mots = cheressansez(m, taille);
+    return indiques(m.mots, mots, mots);
+}
+
+Contenu chere6(const Matiere& m, std::size_t total) {
+    const auto mots = cheressansez(m, 6);
+    const auto otable = [](const Mot& mot) { return mot.conjugue || mot.plurielevident; };
+    return indiques(m.mots, couper(m.mots, mots, total, frequence, otable), mots);
+}
+
+/// Racks without a dear letter; wanted are the words that are not conjugated, or all if all are.
+Contenu courts34(const Matiere& m, std::size_t taille) {
+    Selection mots;
+    for (const auto& tirage : m.mots.tirages(taille, taille)) {
+        auto souhaites = choisir(m.mots, tirage, nonconjugue);
+        if (souhaites.empty())
+            souhaites = choisir(m.mots, tirage, tous);
+        if (souhaites.front()->chere || souhaites.size() > souhaitesmax)
+            continue;
+        mots.insert(mots.end(), souhaites.begin(), souhaites.end());
+    }
+    return indiques(m.mots, mots, mots);
+}
+
+/// Racks of at most three words without a dear letter; wanted are the words of the best rank.
+Contenu courts5(const Matiere& m, std::size_t total) {
+    Selection mots;
+    for (const auto& tirage : m.mots.tirages(5, 5)) {
+        const auto tousmots = choisir(m.mots, tirage, tous);
+        if (tousmots.front()->chere || tousmots.size() > anagrammesmax5)
+            continue;
+        const auto meilleur =
+            (*std::min_element(tousmots.begin(), tousmots.end(), [](const Mot* a, const Mot* b) {
+                return a->rang < b->rang;
+            }))->rang;
+        const auto souhaites =
+            choisir(m.mots, tirage, [&](const Mot& mot) { return mot.rang == meilleur; });
+        if (souhaites.size() > souhaitesmax5)
+            continue;
+        mots.insert(mots.end(), souhaites.begin(), souhaites.end());
+    }
+    std::sort(mots.begin(), mots.end());
+    return indiques(m.mots, couper(m.mots, mots, total, frequence), mots);
+}
+
+Contenu verbes(const Matiere& m, const Selection& mots) {
+    return indiques(m.mots, mots, choisir(m.mots, 4, 9, infinitive));
+}
+
+/// Infinitives of four and five letters that are neither defective nor common.
+Contenu verbes45(const Matiere& m) {
+    return verbes(m, choisir(m.mots, 4, 5, [&](const Mot& mot) {
+                      return mot.infinitif && !defectif(m.mots, mot) &&
+                             frequencedeverbe(m.mots, mot) < verbecourant;
+                  }));
+}
+
+Contenu verbes6(const Matiere& m, std::size_t total) {
+    return verbes(m, couper(m.mots, choisir(m.mots, 6, 6, infinitive), total, frequencedeverbe));
+}
+
+/// Infinitives of the first and second groups.
+Contenu verbesreguliers(const Matiere& m, std::size_t taille, std::size_t total) {
+    const auto mots = choisir(m.mots, taille, taille, [&](const Mot& mot) {
+        return m.mots.une(mot, [](const Lecture& l) {
+            return l.al(infinitif) && (l.code.groupe == '1' || l.code.groupe == '2');
+        });
+    });
+    return verbes(m, couper(m.mots, mots, total, frequencedeverbe));
+}
+
+}  // namespace
+
+void recettesdebase(std::vector<Recettes>& toutes) {
+    toutes.push_back(
+        {"bt",
+         {
+             {"Tous les mots de 3 lettres qui ont une lettre chère (J K Q W X Y Z).", chere3},
+             {"Les mots de 3 lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas "
+              "de tirage à plus de 3 mots voulus.",
+              [](const Matiere& m) { return courts34(m, 3); }},
+             {"Les infinitifs de 4 et 5 lettres, sans les défectifs ni les plus courants.",
+              verbes45},
+             {"Les infinitifs de 6 lettres, sans les plus courants : 779 au plus.",
+              [](const Matiere& m) { return verbes6(m, 779); }},
+             {"Les mots de 4 lettres qui ont une lettre chère, sans les conjugaisons en -EZ.",
+              [](const Matiere& m) { return chere45(m, 4); }},
+             {"Les mots de 5 lettres qui ont une lettre chère, sans les conjugaisons en -EZ.",
+              [](const Matiere& m) { return chere45(m, 5); }},
+         }});
+    toutes.push_back(
+        {"ta",
+         {
+             {"Les mots de 6 lettres qui ont une lettre chère, sans les conjugaisons en -EZ ni les "
+              "conjugaisons et pluriels les plus courants : 1902 au plus.",
+              [](const Matiere& m) { return chere6(m, 1902); }},
+             {"Les infinitifs de 7 lettres des 1er et 2e groupes, sans les plus courants : 1215 au "
+              "plus.",
+              [](const Matiere& m) { return verbesreguliers(m, 7, 1215); }},
+             {"Les infinitifs de 8 lettres des 1er et 2e groupes, sans les plus courants : 1467 au "
+              "plus.",
+              [](const Matiere& m) { return verbesreguliers(m, 8, 1467); }},
+             {"Les infinitifs de 9 lettres des 1er et 2e groupes, sans les plus courants : 1300 au "
+              "plus.",
+              [](const Matiere& m) { return verbesreguliers(m, 9, 1300); }},
+             {"Les mots de 4 lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas "
+              "de tirage à plus de 3 mots voulus.",
+              [](const Matiere& m) { return courts34(m, 4); }},
+             {"Les mots de 5 lettres sans lettre chère, tirages à 3 mots au plus ; un nom plutôt "
+              "qu'un pluriel ou une conjugaison : 3676 au plus.",
+              [](const Matiere& m) { return courts5(m, 3676); }},
+         }});
+}
+
+}  // namespace atelier

@@ -1,0 +1,114 @@
+#include <algorithm>
+
+#include "annexe.h"
+#include "regles.h"
+
+namespace atelier {
+namespace {
+
+bool termine(std::string_view forme, std::string_view radical,
+             std::span<const std::string_view> terminaisons) {
+    if (!forme.starts_with(radical))
+        return false;
+    return std::find(terminaisons.begin(), terminaisons.end(), forme.substr(radical.size())) !=
+           terminaisons.end();
+}
+
+/// An ordinary form of a verb in -ER: the stem and an ending, where a G may be softened by E, a Y
+/// may have turned to I, and the last consonant may be doubled.
+bool ordinaireener(std::string_view forme, std::string radical) {
+    const auto terminaisons = terminaisonser();
+    if (termine(forme, radical, terminaisons))
+        return true;
+    if (radical.empty())
+        return false;
+    if (radical.back() == 'G' && termine(forme, radical + 'E', terminaisons))
+        return true;
+    if (termine(forme, radical + radical.back(), terminaisons))
+        return true;
+    if (radical.back() != 'Y')
+        return false;
+    radical.back() = 'I';
+    return termine(forme, radical, terminaisons);
+}
+
+/// A form that a player who knows the infinitive would write down without thinking.
+bool ordinaire(std::string_view forme, std::string_view verbe, char groupe) {
+    const auto moins = [&](std::size_t n) { return verbe.substr(0, verbe.size() - n); };
+    const auto radical =
+        verbe.ends_with("OIR") ? moins(3) : moins(std::min<std::size_t>(2, verbe.size()));
+    if (verbe.ends_with("ER"))
+        return ordinaireener(forme, std::string(radical));
+    if (groupe == '2')
+        return termine(forme, radical, terminaisonsgroupe2());
+    return termine(forme, radical, terminaisonsautres()) ||
+           termine(forme, radical, terminaisonser()) ||
+           termine(forme, radical, terminaisonsgroupe2());
+}
+
+Contenu conjuguesuniques(const Matiere& m, std::size_t taille) {
+    return simples(m.mots, choisir(m.mots, taille, taille,
+                                   [](const Mot& mot) { return mot.conjugue && mot.unique; }));
+}
+
+/// Nothing but forms of defective verbs of the third group, infinitives apart.
+Contenu defectifs(const Matiere& m) {
+    return simples(m.mots, choisir(m.mots, 7, 8, [&](const Mot& mot) {
+                       return mot.unique && m.mots.toutes(mot, [&](const Lecture& l) {
+                           return l.nature == Nature::verbe && !l.al(infinitif) &&
+                                  l.code.groupe == '3' && m.mots.lemme(l).defectif();
+                       });
+                   }));
+}
+
+Contenu atypiques(const Matiere& m, std::size_t taille) {
+    return simples(m.mots, choisir(m.mots, taille, taille, [&](const Mot& mot) {
+                       return mot.conjugue && mot.unique && !m.mots.une(mot, [&](const Lecture& l) {
+                           return ordinaire(mot.texte(), m.mots.lemme(l).capitales, l.code.groupe);
+                       });
+                   }));
+}
+
+/// The only word that is not conjugated on a rack that holds two conjugations or more.
+Selection seulsparmiconjugues(const Matiere& m, std::size_t min, std::size_t max) {
+    return choisir(m.mots, min, max, [&](const Mot& mot) {
+        const auto& tirage = m.mots.tirage(mot);
+        return !mot.conjugue && tirage.nonconjugues == 1 && tirage.mots >= 3;
+    });
+}
+
+}  // namespace
+
+void recettesconjuguees(std::vector<Recettes>& toutes) {
+    toutes.push_back(
+        {"conja",
+         {
+             {"Les formes sans anagramme, de 7 et 8 lettres, des verbes défectifs du 3e groupe.",
+              defectifs},
+             {"Les formes conjuguées de 7 lettres, sans anagramme, qu'aucune terminaison ordinaire "
+              "n'explique.",
+              [](const Matiere& m) { return atypiques(m, 7); }},
+             {"Les formes conjuguées de 8 lettres, sans anagramme, qu'aucune terminaison ordinaire "
+              "n'explique.",
+              [](const Matiere& m) { return atypiques(m, 8); }},
+             {"Toutes les formes conjuguées de 7 lettres sans anagramme.",
+              [](const Matiere& m) { return conjuguesuniques(m, 7); }},
+             {"Toutes les formes conjuguées de 8 lettres sans anagramme.",
+              [](const Matiere& m) { return conjuguesuniques(m, 8); }},
+             {"Les mots de 7 lettres non conjugués dont toutes les anagrammes, au moins deux, sont "
+              "conjuguées.",
+              [](const Matiere& m) { return simples(m.mots, seulsparmiconjugues(m, 7, 7)); }},
+             {"Les mots de 8 lettres non conjugués dont toutes les anagrammes, au moins deux, sont "
+              "conjuguées.",
+              [](const Matiere& m) { return simples(m.mots, seulsparmiconjugues(m, 8, 8)); }},
+             {"Parmi les mots de 7 et 8 lettres dont les anagrammes sont conjuguées, ceux qui ont "
+              "leur article au dictionnaire.",
+              [](const Matiere& m) {
+                  auto mots = seulsparmiconjugues(m, 7, 8);
+                  std::erase_if(mots, [](const Mot* mot) { return !mot->entree; });
+                  return simples(m.mots, mots);
+              }},
+         }});
+}
+
+}  // namespace atelier

@@ -1,0 +1,191 @@
+#include <algorithm>
+#include <array>
+
+#include "regles.h"
+#include "tables.h"
+
+namespace atelier {
+namespace {
+
+/// Whether conjugations stand beside the wanted words of a rack.
+enum class Purete { pur, impur, indifferent };
+
+/// For 8 letters: every wanted word is a word of 7 letters, not a conjugation, and S.
+bool pluriels(const Vocabulaire& v, const Selection& souhaites) {
+    return std::all_of(souhaites.begin(), souhaites.end(), [&](const Mot* mot) {
+        if (!mot->finiten("S"))
+            return false;
+        const auto* singulier = v.chercher(mot->texte().substr(0, mot->taille() - 1));
+        return singulier != nullptr && !singulier->conjugue;
+    });
+}
+
+/// The racks on which `nombre` words are not conjugated.
+std::vector<const Tirage*> tiragesde(const Vocabulaire& v, std::size_t taille, std::size_t nombre,
+                                     Purete purete) {
+    std::vector<const Tirage*> choisis;
+    for (const auto& tirage : v.tirages(taille, taille)) {
+        const bool pur = tirage.mots == tirage.nonconjugues;
+        if (tirage.nonconjugues != nombre || (purete == Purete::pur && !pur) ||
+            (purete == Purete::impur && pur))
+            continue;
+        if (taille == 8 && pluriels(v, choisir(v, tirage, nonconjugue)))
+            continue;
+        choisis.push_back(&tirage);
+    }
+    return choisis;
+}
+
+Contenu nonconjugues(const Vocabulaire& v, const std::vector<const Tirage*>& tirages) {
+    Contenu contenu;
+    for (const auto* tirage : tirages)
+        ajoutermultiple(contenu, v, *tirage, choisir(v, *tirage, nonconjugue));
+    return contenu;
+}
+
+bool lemmecommun(const Vocabulaire& v, const Mot& a, const Mot& b) {
+    return v.une(a, [&](const Lecture& la) {
+        return v.une(b, [&](const Lecture& lb) { return la.lemme == lb.lemme; });
+    });
+}
+
+/// The same letter behind two words that are anagrams already.
+bool memefinale(const Vocabulaire& v, const Mot& a, const Mot& b) {
+    const auto debut = [](const Mot& mot) { return mot.texte().substr(0, mot.taille() - 1); };
+    return a.texte().back() == b.texte().back() && v.existe(debut(a)) && v.existe(debut(b));
+}
+
+/// A pure duo worth an effort.
+bool interessant(const Vocabulaire& v, const Tirage& tirage) {
+    const auto duo = choisir(v, tirage, nonconjugue);
+    const auto &a = *duo[0], &b = *duo[1];
+    return (a.entree || b.entree) && !lemmecommun(v, a, b) && !memefinale(v, a, b);
+}
+
+/// Pure duos worth an effort, of these weights.
+Contenu selectiondeduos(const Vocabulaire& v, std::size_t taille, const std::vector<int>& poids) {
+    auto tirages = tiragesde(v, taille, 2, Purete::pur);
+    std::erase_if(tirages, [&](const Tirage* tirage) {
+        const int p = v.mot(v.places(*tirage).front()).poids;
+        const bool bonpoids =
+            poids.empty() || std::find(poids.begin(), poids.end(), p) != poids.end();
+        return !bonpoids || !interessant(v, *tirage);
+    });
+    return nonconjugues(v, tirages);
+}
+
+/// The better known word of a duo comes first: an article of a dictionary, then the commonest.
+bool mieuxconnu(const Mot& a, const Mot& b) {
+    const bool article = a.rang == Rang::nonconjugue;
+    if (article != (b.rang == Rang::nonconjugue))
+        return article;
+    if (a.frequence != b.frequence)
+        return a.frequence > b.frequence;
+    return a.texte() < b.texte();
+}
+
+/// One word of a duo is the rack of the other.
+Contenu sanstirage(const Vocabulaire& v, std::size_t taille) {
+    Contenu contenu;
+    for (const auto* tirage : tiragesde(v, taille, 2, Purete::indifferent)) {
+        auto duo = choisir(v, *tirage, nonconjugue);
+        if (mieuxconnu(*duo[1], *duo[0]))
+            std::swap(duo[0], duo[1]);
+        const std::string connu(duo[0]->texte());
+        contenu.rangees.push_back({connu, connu, std::string(duo[1]->texte())});
+        contenu.mots.push_back(place(v, *duo[1]));
+    }
+    ordonner(contenu);
+    return contenu;
+}
+
+/// The racks that make `nombre` conjugations and nothing else.
+Contenu conjugues(const Vocabulaire& v, std::size_t min, std::size_t max, std::size_t nombre) {
+    Contenu contenu;
+    for (const auto& tirage : v.tirages(min, max)) {
+        if (tirage.nonconjugues == 0 && tirage.mots == nombre)
+            ajoutermultiple(contenu, v, tirage, choisir(v, tirage, conjugue));
+    }
+    return contenu;
+}
+
+constexpr std::array groupes =
+    std::to_array<std::string_view>({"", "", "deux", "trois", "quatre", "cinq"});
+
+Recette recettedugroupe(std::size_t taille, std::size_t nombre, Purete purete) {
+    std::string description = "Les tirages de " + std::to_string(taille) + " lettres qui font " +
+                              std::string(groupes.at(nombre)) + " mots non conjugués";
+    if (purete == Purete::pur)
+        description += " et rien d'autre";
+    if (purete == Purete::impur)
+        description += ", et des conjugaisons que l'on ne demande pas";
+    if (taille == 8)
+        description += " ; sans les pluriels de mots de 7 lettres";
+    return {description + ".", [=](const Matiere& m) {
+                return nonconjugues(m.mots, tiragesde(m.mots, taille, nombre, purete));
+            }};
+}
+
+Recette recetteselection(std::size_t taille, const std::string& poids, std::vector<int> valeurs) {
+    return {"Les duos purs de " + std::to_string(taille) + " lettres" + poids +
+                ", sans ceux qu'un même lemme ou une même finale explique.",
+            [=](const Matiere& m) { return selectiondeduos(m.mots, taille, valeurs); }};
+}
+
+Recettes duos(std::string_view panneau, std::size_t taille) {
+    return {panneau,
+            {
+                recettedugroupe(taille, 2, Purete::pur),
+                recettedugroupe(taille, 2, Purete::impur),
+                recetteselection(taille, "", {}),
+                recetteselection(taille, " de poids 5, 6 et 7", {5, 6, 7}),
+                recetteselection(taille, " de poids 0, 1 et 4", {0, 1, 4}),
+                recetteselection(taille, " de poids 2 et 3", {2, 3}),
+                {"Les duos de " + std::to_string(taille) +
+                     " lettres, purs et impurs : le mot le plus connu est le tirage, l'autre la "
+                     "solution.",
+                 [taille](const Matiere& m) { return sanstirage(m.mots, taille); }},
+            }};
+}
+
+Recette recetteconjuguee(std::size_t min, std::size_t max, std::size_t nombre) {
+    const auto longueurs =
+        min == max ? std::to_string(min) : std::to_string(min) + " et " + std::to_string(max);
+    return {"Les tirages de " + longueurs + " lettres qui font " + std::string(groupes.at(nombre)) +
+                " formes conjuguées et rien d'autre.",
+            [=](const Matiere& m) { return conjugues(m.mots, min, max, nombre); }};
+}
+
+}  // namespace
+
+Contenu tirages6(const Vocabulaire& v, std::size_t taille) {
+    Contenu contenu;
+    for (const auto& tirage : v.tirages(taille, taille)) {
+        if (tirage.nonconjugues < anagrammesmin)
+            continue;
+        const auto mots = choisir(v, tirage, nonconjugue);
+        if (taille != 8 || !pluriels(v, mots))
+            ajoutermultiple(contenu, v, tirage, mots);
+    }
+    return contenu;
+}
+
+void recettesmultiples(std::vector<Recettes>& toutes) {
+    toutes.push_back(duos("duos7", 7));
+    toutes.push_back(duos("duos8", 8));
+    toutes.push_back({"trios",
+                      {recettedugroupe(7, 3, Purete::pur), recettedugroupe(7, 3, Purete::impur),
+                       recettedugroupe(8, 3, Purete::pur), recettedugroupe(8, 3, Purete::impur)}});
+    toutes.push_back({"quatquin",
+                      {recettedugroupe(7, 4, Purete::pur), recettedugroupe(7, 4, Purete::impur),
+                       recettedugroupe(8, 4, Purete::pur), recettedugroupe(8, 4, Purete::impur),
+                       recettedugroupe(7, 5, Purete::pur), recettedugroupe(7, 5, Purete::impur),
+                       recettedugroupe(8, 5, Purete::indifferent)}});
+    toutes.push_back(
+        {"conjm",
+         {recetteconjuguee(7, 7, 2), recetteconjuguee(8, 8, 2), recetteconjuguee(7, 7, 3),
+          recetteconjuguee(8, 8, 3), recetteconjuguee(7, 7, 4), recetteconjuguee(8, 8, 4),
+          recetteconjuguee(7, 8, 5)}});
+}
+
+}  // namespace atelier

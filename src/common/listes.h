@@ -1,0 +1,42 @@
+#pragma once
+
+// Names and sizes of the word files that come with the program (formats: docs/formats.md).
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace common {
+
+/// Folder of the word lists, beside the program.
+inline constexpr std::string_view dossierlistes = "listes";
+
+/// A list of words, one a line, that decides a mark at correction.
+struct ListeReference {
+    std::string_view fichier;  ///< name in the folder of the lists
+    std::size_t places = 0;    ///< most words that it may hold
+};
+
+inline constexpr ListeReference listeods5{"ods5.txt", 5001};
+inline constexpr ListeReference listeods6{"ods6.txt", 5001};
+inline constexpr ListeReference listeods7{"ods7.txt", 5001};
+inline constexpr ListeReference listevbi{"vbi.txt", 2501};
+inline constexpr ListeReference listevbt{"vbt4-10.txt", 20001};
+inline constexpr ListeReference listeinv{"inv.txt", 1001};
+
+/// In the order in which a correction reads them.
+inline constexpr std::array listesreference{listeods5, listeods6, listeods7,
+                                            listevbi,  listevbt,  listeinv};
+
+/// Notes on words, beside the program: a line for the word, a line for its note.
+inline constexpr std::string_view fichierinfosouris = "infosouris.txt";
+inline constexpr std::size_t lignesinfosouris = 500001;
+
+/// Most rows of a list with one solution a rack.
+inline constexpr std::size_t rangeesform1 = 15000;
+/// Most rows of a list with several solutions a rack, from which a sample can be drawn.
+inline constexpr std::size_t rangeesmulti = 8001;
+/// Most solutions of a rack.
+inline constexpr std::size_t solutionsmulti = 5;
+
+}  // namespace common
