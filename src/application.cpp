@@ -27,7 +27,8 @@ class Piece {
         if (!form_) {
             form_ = fabrique_();
             plateforme_.accueillir(*form_);
-            if constexpr (requires { form_->charger(); }) form_->charger();
+            if constexpr (requires { form_->charger(); })
+                form_->charger();
         }
         return *form_;
     }
@@ -111,8 +112,7 @@ class Apropos final : public common::FaceApropos {
 class Application::Salle {
   public:
     explicit Salle(ui::Plateforme& plateforme)
-        : form2(plateforme,
-                [&] { return std::make_unique<profiles::Form2>(plateforme, voisins); }),
+        : form2(plateforme, [&] { return std::make_unique<profiles::Form2>(plateforme, voisins); }),
           form3(plateforme, [&] { return std::make_unique<menu::Form3>(plateforme, voisins); }),
           form1(plateforme, [&] { return std::make_unique<series::Form1>(plateforme, voisins); }),
           multi(plateforme, [&] { return std::make_unique<multi::Multi>(plateforme, voisins); }),
@@ -160,8 +160,12 @@ Application::Application(ui::Plateforme& plateforme)
 
 Application::~Application() = default;
 
-void Application::demarrer() { salle_->form2().visible = true; }
+void Application::demarrer() {
+    salle_->form2().visible = true;
+}
 
-common::Voisins& Application::voisins() { return salle_->voisins; }
+common::Voisins& Application::voisins() {
+    return salle_->voisins;
+}
 
 }  // namespace application

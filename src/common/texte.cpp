@@ -96,7 +96,7 @@ char32_t premier(std::string_view texte) {
     const auto n = taille(texte, 0);
     const auto tete = static_cast<unsigned char>(texte[0]);
     const std::size_t attendu = tete < 0x80 ? 1 : tete < 0xE0 ? 2 : tete < 0xF0 ? 3 : 4;
-    if (tete < 0x80 || tete < 0xC0 || n != attendu)
+    if (tete < 0xC0 || n != attendu)  // ASCII, or malformed
         return tete;
     char32_t c = tete & (0xFFU >> (n + 1));
     for (std::size_t i = 1; i < n; ++i)

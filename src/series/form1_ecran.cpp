@@ -9,18 +9,18 @@ namespace {
 
 /// Three columns of ten boxes, each a rack with its answer to the right of it.
 struct Grille {
-    int gauche;
-    int haut;
-    int pascolonne;
-    int pasrangee;
-    int largeurboite;
-    int hauteurboite;
-    int ecart;  ///< between a rack and its answer
+    int gauche = 0;
+    int haut = 0;
+    int pascolonne = 0;
+    int pasrangee = 0;
+    int largeurboite = 0;
+    int hauteurboite = 0;
+    int ecart = 0;  ///< between a rack and its answer
 };
 
 struct Ecran {
-    int largeur;
-    int hauteur;
+    int largeur = 0;
+    int hauteur = 0;
     Grille grille;
     ui::Cadrage tuile;      ///< tile 0; the others follow, touching
     ui::Cadrage notes;      ///< `InfoSourisText` while a list runs
@@ -45,7 +45,7 @@ constexpr Ecran compact{18000,
 /// A control that stands alone, in the two layouts.
 struct Place {
     std::string_view nom;
-    int index;
+    int index = -1;
     ui::Cadrage normal;
     ui::Cadrage compact;
 };

@@ -23,7 +23,7 @@ std::string sanspartie(std::string_view chemin) {
 
 std::string nomfichierderevision(std::string_view fich, std::string_view toue,
                                  std::string_view util) {
-    const auto base = sanspartie(fich);
+    auto base = sanspartie(fich);
     if (toue == "R")
         return base;
     return std::string(util) + "\\rev-" + common::milieu(base, longueurlistes + 1);

@@ -21,9 +21,12 @@ std::string Couleur::nom() const {
 }
 
 Controle::Controle(Formulaire& formulaire, Genre genre, std::string nom, int index)
-    : formulaire_(formulaire), nom_(std::move(nom)), index_(index), genre_(genre) {
-    focalisable = genre == Genre::Boite || genre == Genre::Bouton || genre == Genre::Case ||
-                  genre == Genre::Liste;
+    : focalisable(genre == Genre::Boite || genre == Genre::Bouton || genre == Genre::Case ||
+                  genre == Genre::Liste),
+      formulaire_(formulaire),
+      nom_(std::move(nom)),
+      index_(index),
+      genre_(genre) {
     if (genre == Genre::Boite || genre == Genre::Liste)
         fond = Couleur::fenetre();
 }

@@ -169,12 +169,12 @@ class Controle : public Observe<Champ> {
     void modifie(Champ champ) override;
 
   private:
-    void notifier(Champ champ) {
+    void notifier(Champ champ) const {
         if (vue != nullptr)
             vue->modifie(champ);
     }
     void textechange();
-    void ecrire(std::string texte, std::size_t curseur);
+    void ecrire(std::string nouveau, std::size_t curseur);
 
     Formulaire& formulaire_;
     std::string nom_;
@@ -187,7 +187,7 @@ class Controle : public Observe<Champ> {
 };
 
 /// A timer of one second. Setting `actif` starts a fresh second.
-class Minuterie : public Observe<bool> {
+class Minuterie final : public Observe<bool> {
   public:
     explicit Minuterie(std::string nom) : nom_(std::move(nom)) {}
     [[nodiscard]] const std::string& nom() const { return nom_; }
