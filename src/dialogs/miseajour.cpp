@@ -110,7 +110,7 @@ std::optional<std::string> MiseAJour::lirelien() {
 }
 
 std::string MiseAJour::dansdossierprogramme(std::string_view fichier) {
-    return plateforme_.dossierprogramme() + "\\" + std::string(fichier);
+    return plateforme_.dossierprogramme() + std::string(fichier);
 }
 
 }  // namespace dialogs

@@ -44,8 +44,9 @@ class Plateforme {
     /// Downloads an address, never from a cache, to a file that takes its name only when whole.
     /// False if that failed; the file is then what it was.
     [[nodiscard]] virtual bool telecharger(std::string_view adresse, std::string_view chemin) = 0;
-    /// The program's folder, without a backslash at its end; "." where it is the working folder.
-    [[nodiscard]] virtual std::string dossierprogramme() { return "."; }
+    /// What stands before a file's name to find it in the program's folder: that folder and a
+    /// backslash, or nothing where it is the working folder.
+    [[nodiscard]] virtual std::string dossierprogramme() { return {}; }
 
     /// A message box with an OK button; returns when it is answered.
     void message(std::string_view texte, Icone icone = Icone::Aucune);

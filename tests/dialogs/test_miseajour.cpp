@@ -16,7 +16,7 @@ const std::string lien(common::adresses::lien);
 const std::string page(common::adresses::telechargement);
 const std::string installeur = "https://ailleurs.example/orvane_setup.exe";
 
-const std::string chercherversion = "telecharger " + version + " > .\\version_en_ligne.txt";
+const std::string chercherversion = "telecharger " + version + " > version_en_ligne.txt";
 const std::string chercherlien = "telecharger " + lien + " > downloadlink.txt";
 const std::string chercherinstalleur = "telecharger " + installeur + " > orvane_setup.exe";
 const std::string ouvrirpage = "ouvrir " + page;
@@ -86,12 +86,12 @@ TEST_F(MiseAJour, une_version_de_trop_ne_compte_que_sa_premiere_ligne) {
 TEST_F(MiseAJour, le_fichier_de_version_reste_dans_le_dossier) {
     publier("2.68\r\n");
     verifier();
-    EXPECT_EQ(v.plateforme.lesfichiers.fichiers[".\\version_en_ligne.txt"], "2.68\r\n");
+    EXPECT_EQ(v.plateforme.lesfichiers.fichiers["version_en_ligne.txt"], "2.68\r\n");
 }
 
 TEST_F(MiseAJour, un_fichier_de_version_illisible_est_une_faute) {
     publier("2.7\r\n");
-    v.plateforme.lesfichiers.refuses.insert(".\\version_en_ligne.txt");
+    v.plateforme.lesfichiers.refuses.insert("version_en_ligne.txt");
     EXPECT_EQ(verifier(), (Journal{chercherversion, "fin 1"}));
     EXPECT_THAT(v.plateforme.rapport, HasSubstr("version_en_ligne.txt"));
 }
@@ -138,11 +138,9 @@ TEST_F(MiseAJour, installeur_absent_rend_le_pointeur) {
 
 TEST_F(MiseAJour, telechargee_ouvre_l_installeur_et_finit_le_programme) {
     toutpublier();
-    // The fake keeps names as they are asked for; the two names of the one file are told apart.
-    v.plateforme.lesfichiers.fichiers["version_en_ligne.txt"] = "2.7\r\n";
     EXPECT_EQ(verifier(),
               suite(jusquaulien(), {chercherinstalleur, "menu pointeur normal", aurevoir,
-                                    "ouvrir .\\orvane_setup.exe", "laisser courir", "fin 0"}));
+                                    "ouvrir orvane_setup.exe", "laisser courir", "fin 0"}));
     EXPECT_EQ(v.plateforme.statut(), 0);
     EXPECT_FALSE(v.plateforme.lesfichiers.existe("downloadlink.txt"));
     EXPECT_FALSE(v.plateforme.lesfichiers.existe("version_en_ligne.txt"));
@@ -153,19 +151,18 @@ TEST_F(MiseAJour, suppression_refusee_laisse_le_programme_ouvert) {
     for (const auto* fichier : {"downloadlink.txt", "version_en_ligne.txt"}) {
         v.plateforme.lesfichiers.indestructibles.clear();
         toutpublier();
-        v.plateforme.lesfichiers.fichiers["version_en_ligne.txt"] = "2.7\r\n";
         v.plateforme.reseau[lien] = installeur;
         // Only the deletion may fail: the link is read before.
         v.plateforme.lesfichiers.indestructibles.insert(fichier);
         EXPECT_EQ(verifier(), suite(jusquaulien(), {chercherinstalleur, "menu pointeur normal",
-                                                    aurevoir, "ouvrir .\\orvane_setup.exe"}))
+                                                    aurevoir, "ouvrir orvane_setup.exe"}))
             << fichier;
         EXPECT_FALSE(v.plateforme.fini());
     }
 }
 
 TEST_F(MiseAJour, les_deux_dossiers_sont_deux_notions) {
-    v.plateforme.dossier = "C:\\Jeux\\Orvane";
+    v.plateforme.dossier = "C:\\Jeux\\Orvane\\";
     toutpublier();
     const auto journal = verifier();
     EXPECT_EQ(journal.front(),

@@ -95,7 +95,7 @@ class Plateforme : public ui::Plateforme {
     Disque lesfichiers;
     std::map<std::string, std::string, std::less<>> reseau;  ///< address to content
     ui::Reponse reponse = ui::Reponse::Oui;
-    std::string dossier = ".";
+    std::string dossier;
     std::string rapport;
 
     common::Disque& disque() override { return lesfichiers; }
