@@ -1,0 +1,19 @@
+#include <QApplication>
+
+#include "application.h"
+#include "plateforme_qt.h"
+#include "theme.h"
+
+int main(int argc, char** argv) {
+    ui::qt::preparer();
+    QApplication qt(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Orvane"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
+    ui::qt::habiller(qt);
+
+    ui::qt::PlateformeQt plateforme;
+    application::Application programme(plateforme);
+    plateforme.fenetrier().executer([&] { programme.demarrer(); });
+    // A program that ends while it starts never enters the loop.
+    return plateforme.fini() ? plateforme.statut() : QApplication::exec();
+}

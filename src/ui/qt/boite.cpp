@@ -1,0 +1,222 @@
+#include "boite.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyleHints>
+
+#include "clavierqt.h"
+#include "dessin.h"
+#include "fenetre.h"
+#include "menuedition.h"
+#include "texteqt.h"
+#include "theme.h"
+
+namespace ui::qt {
+namespace {
+
+constexpr double marge = 6;  // pixels of the design
+constexpr double margehaute = 1;
+constexpr double rayoncase = 4;
+constexpr double rayonhorloge = 8;
+constexpr double epaisseurcurseur = 1.6;
+
+}  // namespace
+
+Boite::Boite(QWidget& parent, Fenetre& fenetre, Controle& controle)
+    : VueDe(parent, fenetre, controle) {
+    setFrame(false);
+    setDragEnabled(false);
+    setAcceptDrops(false);
+    setAttribute(Qt::WA_Hover);
+}
+
+void Boite::montrer(Champs champs) {
+    if ((champs & ensemble(Champ::Verrou)) != 0)
+        setReadOnly(controle()->verrou());
+    constexpr auto mise = champsplace | champsfonte | ensemble(Champ::Texte, Champ::Alignement);
+    if ((champs & mise) != 0)
+        composer();
+    if ((champs & (mise | ensemble(Champ::Selection))) != 0)
+        montrertexte();
+}
+
+void Boite::composer() {
+    const double bord = marge * unite();
+    const auto place = QRectF(rect()).adjusted(bord, margehaute * unite(),
+                                               -bord - margedroite() * unite(),
+                                               -margehaute * unite());
+    ligne_.composer(texte(), fonte(), place, controle()->alignement(), *this);
+}
+
+/// Brings the line, and QLineEdit's own copy of it, to the model's text, caret and selection.
+void Boite::montrertexte() {
+    const auto ancre = controle()->ancre();
+    const auto curseur = controle()->curseur();
+    ligne_.poserselection(ancre, curseur);
+    const QSignalBlocker muet(this);
+    const auto voulu = texte();
+    if (text() != voulu)
+        setText(voulu);
+    const int debut = placeqt(voulu, ancre);
+    const int fin = placeqt(voulu, curseur);
+    if (debut != fin)
+        setSelection(debut, fin - debut);
+    else
+        setCursorPosition(fin);
+    battre();
+}
+
+void Boite::accorder() {
+    battre();
+    update();
+}
+
+/// Starts the caret's blink anew, lit, or ends it.
+void Boite::battre() {
+    eteint_ = false;
+    const int periode = QGuiApplication::styleHints()->cursorFlashTime() / 2;
+    if (alefocus() && periode > 0)
+        battement_.start(periode, this);
+    else
+        battement_.stop();
+}
+
+void Boite::timerEvent(QTimerEvent* evenement) {
+    if (evenement->timerId() != battement_.timerId()) {
+        QLineEdit::timerEvent(evenement);
+        return;
+    }
+    eteint_ = !eteint_;
+    update(ligne_.curseur(epaisseurcurseur * unite()).toAlignedRect().adjusted(-1, -1, 1, 1));
+}
+
+void Boite::paintEvent(QPaintEvent* /*evenement*/) {
+    if (controle() == nullptr)
+        return;
+    QPainter peintre(this);
+    const bool focus = alefocus();
+    const bool horloge = controle()->aspect() == Aspect::Horloge;
+    if (!controle()->fondu()) {
+        dessin::boite(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()),
+                      {.actif = isEnabled(),
+                       .focus = focus,
+                       .survole = underMouse() && !controle()->verrou(),
+                       .rayon = horloge ? rayonhorloge : rayoncase});
+    }
+    ligne_.peindre(peintre,
+                   isEnabled() ? encreqt(controle()->couleur())
+                               : QColor::fromRgb(teintes::encrepale),
+                   focus);
+    if (focus && !eteint_)
+        peintre.fillRect(ligne_.curseur(epaisseurcurseur * unite()),
+                         QColor::fromRgb(teintes::encre));
+    completer(peintre);
+}
+
+/// Puts the caret where the mouse is; `etendre` keeps the other end of the selection.
+void Boite::poser(const QMouseEvent& evenement, bool etendre) {
+    const auto place = ligne_.caractere(evenement.position().x());
+    executer([&] { controle()->selectionner(etendre ? controle()->ancre() : place, place); });
+}
+
+void Boite::cliquer() {
+    // The press has set the caret: what is left of a click is its event.
+    executer([this] { declencher(controle()->clic); });
+}
+
+void Boite::mousePressEvent(QMouseEvent* evenement) {
+    evenement->accept();
+    if (controle() == nullptr || !isEnabled())
+        return;
+    if (evenement->button() == Qt::MiddleButton)
+        executer([this] { controle()->formulaire().focaliser(*controle()); });
+    glisse_ = evenement->button() == Qt::LeftButton;
+    if (glisse_ || evenement->button() == Qt::MiddleButton)
+        poser(*evenement, evenement->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void Boite::mouseMoveEvent(QMouseEvent* evenement) {
+    evenement->accept();
+    if (controle() != nullptr && glisse_ && evenement->buttons().testFlag(Qt::LeftButton))
+        poser(*evenement, true);
+}
+
+void Boite::mouseReleaseEvent(QMouseEvent* evenement) {
+    evenement->accept();
+    if (controle() == nullptr || !isEnabled())
+        return;
+    // The clipboard of the mouse, on systems that have one.
+    auto* bloc = QGuiApplication::clipboard();
+    if (std::exchange(glisse_, false) && controle()->selection() > 0)
+        bloc->setText(versqt(controle()->texteselectionne()), QClipboard::Selection);
+    if (evenement->button() == Qt::MiddleButton && bloc->supportsSelection()) {
+        executer([&] {
+            controle()->formulaire().coller(depuisqt(bloc->text(QClipboard::Selection)));
+        });
+    }
+}
+
+/// Where a double click means nothing else, it selects the text.
+void Boite::mouseDoubleClickEvent(QMouseEvent* evenement) {
+    evenement->accept();
+    glisse_ = false;
+    const bool libre = controle() != nullptr && isEnabled() && !controle()->doubleclic;
+    if (libre && evenement->button() == Qt::LeftButton)
+        executer([this] { controle()->toutselectionner(); });
+}
+
+void Boite::contextMenuEvent(QContextMenuEvent* evenement) {
+    evenement->accept();
+    if (controle() == nullptr || !isEnabled())
+        return;
+    executer([this] { controle()->formulaire().focaliser(*controle()); });
+    const bool libre = !controle()->verrou() && controle()->pressepapiers;
+    auto* bloc = QGuiApplication::clipboard();
+    const auto seulement = [this](const auto& suite) {
+        return [this, suite] {
+            if (controle() != nullptr)
+                executer(suite);
+        };
+    };
+    deroulermenuedition(
+        *this, evenement->globalPos(),
+        {.couper = {libre && controle()->selection() > 0, seulement([this, bloc] {
+                        bloc->setText(versqt(controle()->formulaire().couper()));
+                    })},
+         .copier = {controle()->selection() > 0, seulement([this, bloc] {
+                        bloc->setText(versqt(controle()->texteselectionne()));
+                    })},
+         .coller = {libre && !bloc->text().isEmpty(), seulement([this, bloc] {
+                        controle()->formulaire().coller(depuisqt(bloc->text()));
+                    })},
+         .toutselectionner = {!text().isEmpty(),
+                              seulement([this] { controle()->toutselectionner(); })}});
+}
+
+void Boite::inputMethodEvent(QInputMethodEvent* evenement) {
+    evenement->accept();
+    if (controle() == nullptr || evenement->commitString().isEmpty())
+        return;
+    executer([&] {
+        for (const auto caractere : caracteres(evenement->commitString())) {
+            Touche touche;
+            touche.code = codede(caractere);
+            controle()->formulaire().enfoncer(touche, caractere);
+        }
+    });
+}
+
+QVariant Boite::inputMethodQuery(Qt::InputMethodQuery question) const {
+    if (question == Qt::ImCursorRectangle)
+        return ligne_.curseur(1);
+    return QLineEdit::inputMethodQuery(question);
+}
+
+}  // namespace ui::qt

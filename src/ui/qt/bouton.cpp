@@ -1,0 +1,90 @@
+#include "bouton.h"
+
+#include <algorithm>
+
+#include <QPainter>
+
+#include "fenetre.h"
+#include "fonte.h"
+#include "theme.h"
+
+namespace ui::qt {
+namespace {
+
+constexpr double margelaterale = 6;  // pixels of the design
+constexpr double margeverticale = 2;
+constexpr double lettredetuile = .62;  // of the tile's side
+
+QSizeF place(const QSize& taille, double unite) {
+    return {std::max(1.0, taille.width() - 2 * margelaterale * unite),
+            std::max(1.0, taille.height() - 2 * margeverticale * unite)};
+}
+
+}  // namespace
+
+Bouton::Bouton(QWidget& parent, Fenetre& fenetre, Controle& controle)
+    : VueDe(parent, fenetre, controle) {
+    setAttribute(Qt::WA_Hover);
+    QObject::connect(this, &QAbstractButton::clicked, this, [this] {
+        if (this->controle() != nullptr)
+            cliquer();
+    });
+}
+
+void Bouton::montrer(Champs champs) {
+    const bool remesurer =
+        (champs & (champsplace | champsfonte | ensemble(Champ::Texte, Champ::Aspect))) != 0;
+    if (!remesurer)
+        return;
+    if (controle()->aspect() == Aspect::Tuile) {
+        auto grande = qt::fonte(*controle(), lettredetuile * std::min(width(), height()), *this);
+        grande.setBold(true);
+        const double bord = 2 * margeverticale * unite();
+        ajustee_ = ajusterligne(grande, texte(), QSizeF(width() - 2 * bord, height() * 2), *this);
+    } else {
+        ajustee_ = ajuster(fonte(), texte(), place(size(), unite()), *this);
+    }
+}
+
+dessin::Etat Bouton::etat() const {
+    return {.actif = isEnabled(),
+            .survole = isEnabled() && underMouse(),
+            .enfonce = isDown(),
+            .defaut = controle()->formulaire().defaut() == controle(),
+            .focus = alefocus()};
+}
+
+void Bouton::paintEvent(QPaintEvent* /*evenement*/) {
+    if (controle() == nullptr)
+        return;
+    QPainter peintre(this);
+    if (controle()->aspect() == Aspect::Tuile) {
+        peindretuile(peintre);
+        return;
+    }
+    const auto aspect = controle()->aspect();
+    const bool libre = controle()->fond() == Couleur::bouton();
+    const auto genre = aspect == Aspect::Principal && libre ? dessin::Bouton::Principal
+                       : aspect == Aspect::Discret && libre ? dessin::Bouton::Discret
+                                                            : dessin::Bouton::Courant;
+    const auto encre =
+        dessin::bouton(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()), genre,
+                       etat(), encreqt(controle()->couleur()));
+    const double l = margelaterale * unite();
+    const double enfonce = isDown() ? unite() : 0;
+    peintre.setFont(ajustee_);
+    peintre.setPen(encre);
+    peintre.drawText(QRectF(rect()).adjusted(l / 2, enfonce - unite() / 2, -l / 2, enfonce),
+                     Qt::AlignCenter | Qt::TextWordWrap, texte());
+}
+
+void Bouton::peindretuile(QPainter& peintre) {
+    const auto dessus =
+        dessin::tuile(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()), etat());
+    peintre.setFont(ajustee_);
+    peintre.setPen(isEnabled() ? encreqt(controle()->couleur())
+                               : QColor::fromRgb(teintes::encrepale));
+    peintre.drawText(dessus, Qt::AlignCenter, texte());
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QLabel>
+
+#include "vue.h"
+
+namespace ui::qt {
+
+/// A label: its text breaks at blanks, and is drawn smaller rather than clipped.
+class Etiquette : public VueDe<QLabel> {
+  public:
+    using VueDe::VueDe;
+
+  protected:
+    void montrer(Champs champs) override;
+    void paintEvent(QPaintEvent* evenement) override;
+
+  private:
+    [[nodiscard]] QRectF place() const;
+
+    QFont ajustee_;
+    Qt::Alignment verticale_;
+};
+
+}  // namespace ui::qt

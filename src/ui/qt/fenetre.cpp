@@ -1,0 +1,281 @@
+#include "fenetre.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include "fenetrier.h"
+#include "menucontextuel.h"
+#include "texteqt.h"
+#include "theme.h"
+#include "vues.h"
+
+namespace ui::qt {
+namespace {
+
+constexpr unsigned bit(ChampFormulaire champ) {
+    return 1U << static_cast<unsigned>(champ);
+}
+
+// The design that a screen of 1366 by 768 shows one to one. Smaller forms take its scale, so that
+// all windows of the program speak in the same size.
+constexpr QSize designdereference(20490, 10980);
+constexpr int decor = 36;            // pixels that a title bar takes, at the most
+constexpr double plusgrande = 2;     // scale that a window doesn't pass by itself
+constexpr double pluspetite = .35;   // under it nobody could read
+
+double partwip(const QSize& place, const QSize& design) {
+    return std::min(static_cast<double>(place.width()) / design.width(),
+                    static_cast<double>(place.height()) / design.height());
+}
+
+QSize enpixels(const QSize& design, double facteur) {
+    return (QSizeF(design) * facteur).toSize();
+}
+
+}  // namespace
+
+Fenetre::Fenetre(Fenetrier& fenetrier, Formulaire& formulaire)
+    : fenetrier_(fenetrier),
+      formulaire_(&formulaire),
+      deroulant_(std::make_unique<MenuContextuel>(*this)) {
+    setObjectName(versqt(formulaire.nom()));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::NoFocus);
+    formulaire.vue = this;
+    completer();
+}
+
+Fenetre::~Fenetre() {
+    for (auto* vue : vues_)
+        vue->detacher();
+    if (formulaire_ != nullptr && formulaire_->vue == this)
+        formulaire_->vue = nullptr;
+}
+
+/// Makes the views of the controls that have none yet.
+void Fenetre::completer() {
+    const auto& controles = formulaire_->controles();
+    for (auto i = vues_.size() + entrees_; i < controles.size(); ++i) {
+        auto& controle = *controles[i];
+        auto* vue = nouvellevue(*this, controle);
+        if (vue == nullptr) {
+            ++entrees_;
+            continue;
+        }
+        vue->widget().setObjectName(versqt(controle.nomcomplet()));
+        vue->widget().setFocusPolicy(controle.focalisable ? Qt::StrongFocus : Qt::NoFocus);
+        vues_.push_back(vue);
+        parcontrole_.emplace(&controle, vue);
+        filtrer(vue->widget(), controle);
+        vue->appliquer();
+    }
+}
+
+void Fenetre::filtrer(QWidget& widget, Controle& controle) {
+    widget.installEventFilter(this);
+    parwidget_.emplace(&widget, &controle);
+    for (auto* enfant : widget.findChildren<QWidget*>()) {
+        enfant->installEventFilter(this);
+        parwidget_.emplace(enfant, &controle);
+    }
+}
+
+Vue* Fenetre::vuede(const Controle& controle) const {
+    const auto trouve = parcontrole_.find(&controle);
+    return trouve == parcontrole_.end() ? nullptr : trouve->second;
+}
+
+QMenu* Fenetre::menu() const {
+    return deroulant_->menu();
+}
+
+QString Fenetre::chemin(std::string_view image) const {
+    return fenetrier_.chemin(image);
+}
+
+void Fenetre::executer(const std::function<void()>& evenement) {
+    if (!orpheline())
+        fenetrier_.executer(evenement);
+}
+
+void Fenetre::modifie(ChampFormulaire champ) {
+    champs_ |= bit(champ);
+    fenetrier_.demanderrafraichissement();
+}
+
+void Fenetre::adieu() {
+    for (auto* vue : vues_)
+        vue->detacher();
+    const auto* partant = std::exchange(formulaire_, nullptr);
+    deroulant_->accorder();
+    notees_.clear();
+    relevees_.clear();
+    hide();
+    fenetrier_.oublier(*this, *partant);
+    deleteLater();
+}
+
+void Fenetre::noter(Vue& vue) {
+    notees_.push_back(&vue);
+    fenetrier_.demanderrafraichissement();
+}
+
+void Fenetre::relever(Vue& vue) {
+    relevees_.push_back(&vue);
+}
+
+void Fenetre::montrercontroles() {
+    completer();
+    lacherfocus();
+    for (auto* vue : std::exchange(notees_, {}))
+        vue->appliquer();
+    for (auto* vue : std::exchange(relevees_, {}))
+        vue->widget().raise();
+    montrerformulaire();
+}
+
+void Fenetre::montrerformulaire() {
+    const auto champs = std::exchange(champs_, 0);
+    if ((champs & bit(ChampFormulaire::Texte)) != 0)
+        setWindowTitle(versqt(formulaire_->texte()));
+    if ((champs & bit(ChampFormulaire::Fond)) != 0)
+        update();
+    if ((champs & bit(ChampFormulaire::Pointeur)) != 0) {
+        if (formulaire_->pointeur() == Pointeur::Attente)
+            setCursor(Qt::WaitCursor);
+        else
+            unsetCursor();
+        for (auto* vue : vues_)
+            vue->modifie(Champ::Pointeur);
+    }
+    if (dimensionnee_ && design_ != tailledessinee()) {
+        design_ = tailledessinee();
+        const auto taille = enpixels(design_, echelle_.partwip);
+        if (taille == size())
+            remettreechelle();
+        else
+            resize(taille.boundedTo(screen()->availableSize()));
+    }
+}
+
+QSize Fenetre::tailledessinee() const {
+    return {std::max(1, formulaire_->largeur()), std::max(1, formulaire_->hauteur())};
+}
+
+/// The first size: the largest comfortable one on the screen, in its middle.
+void Fenetre::dimensionner() {
+    dimensionnee_ = true;
+    design_ = tailledessinee();
+    const auto* voisine = fenetrier_.enavant();
+    const auto place = (voisine != nullptr ? voisine : this)->screen()->availableGeometry();
+    const auto facteur =
+        std::min(partwip(place.size() - QSize(0, decor), design_.expandedTo(designdereference)),
+                 plusgrande / Echelle::twipsparpixel);
+    const auto taille = enpixels(design_, facteur);
+    setMinimumSize(enpixels(design_, pluspetite / Echelle::twipsparpixel));
+    resize(taille);
+    const auto reste = place.size() - taille - QSize(0, decor);
+    move(place.topLeft() + QPoint(std::max(0, reste.width() / 2), std::max(0, reste.height() / 2)));
+    remettreechelle();
+}
+
+void Fenetre::remettreechelle() {
+    if (orpheline() || !dimensionnee_)
+        return;
+    echelle_.partwip = partwip(size(), design_);
+    echelle_.origine = QPointF((width() - design_.width() * echelle_.partwip) / 2,
+                               (height() - design_.height() * echelle_.partwip) / 2);
+    for (auto* vue : vues_) {
+        vue->toutnoter();
+        vue->appliquer();
+    }
+    update();
+}
+
+void Fenetre::apparaitre() {
+    if (!formulaire_->visible() || isVisible())
+        return;
+    if (!dimensionnee_)
+        dimensionner();
+    if (formulaire_->devant()) {
+        const auto* voisine = fenetrier_.enavant();
+        winId();  // makes the window of the system
+        if (voisine != nullptr && voisine != this && windowHandle() != nullptr)
+            windowHandle()->setTransientParent(voisine->windowHandle());
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void Fenetre::disparaitre() {
+    if (!formulaire_->visible() && isVisible())
+        hide();
+}
+
+void Fenetre::accorder() {
+    accorderfocus();
+    accorderdefaut();
+    deroulant_->accorder();
+}
+
+void Fenetre::accorderdefaut() {
+    if (formulaire_->defaut() == defaut_)
+        return;
+    const auto* ancien = std::exchange(defaut_, formulaire_->defaut());
+    redessiner(ancien);
+    redessiner(defaut_);
+}
+
+void Fenetre::redessiner(const Controle* controle) const {
+    if (controle == nullptr)
+        return;
+    if (auto* vue = vuede(*controle); vue != nullptr)
+        vue->accorder();
+}
+
+void Fenetre::paintEvent(QPaintEvent* evenement) {
+    QPainter peintre(this);
+    const auto fond = orpheline() ? Couleur::bouton() : formulaire_->fond();
+    peintre.fillRect(evenement->rect(), couleurqt(fond));
+}
+
+void Fenetre::resizeEvent(QResizeEvent* evenement) {
+    QWidget::resizeEvent(evenement);
+    remettreechelle();
+}
+
+void Fenetre::closeEvent(QCloseEvent* evenement) {
+    evenement->ignore();
+    executer([this] { formulaire_->fermer(); });
+}
+
+bool Fenetre::event(QEvent* evenement) {
+    const bool recu = QWidget::event(evenement);
+    if (evenement->type() == QEvent::WindowActivate)
+        activation(true);
+    if (evenement->type() == QEvent::WindowDeactivate)
+        activation(false);
+    return recu;
+}
+
+void Fenetre::activation(bool active) {
+    if (orpheline() || active == active_)
+        return;
+    active_ = active;
+    if (active) {
+        fenetrier_.activee(*this);
+        accorderfocus();
+    }
+    redessiner(focus_);
+    if (!active && isVisible())
+        executer([this] { declencher(formulaire_->desactivation); });
+}
+
+}  // namespace ui::qt

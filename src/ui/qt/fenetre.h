@@ -1,0 +1,108 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include <QPointer>
+#include <QWidget>
+
+#include "echelle.h"
+#include "formulaire.h"
+#include "vue.h"
+
+class QKeyEvent;
+class QMenu;
+
+namespace ui::qt {
+
+class Fenetrier;
+class MenuContextuel;
+
+/// The window of a form: its whole design at the scale that fits, the way from the keyboard to the
+/// model, and the focus of Qt kept where the model has it.
+class Fenetre : public QWidget, public VueFormulaire {
+  public:
+    Fenetre(Fenetrier& fenetrier, Formulaire& formulaire);
+    ~Fenetre() override;
+
+    [[nodiscard]] Formulaire& formulaire() const { return *formulaire_; }
+    /// The form is gone; the window only waits for its end.
+    [[nodiscard]] bool orpheline() const { return formulaire_ == nullptr; }
+    [[nodiscard]] const Echelle& echelle() const { return echelle_; }
+    [[nodiscard]] Vue* vuede(const Controle& controle) const;
+    [[nodiscard]] QMenu* menu() const;
+    /// The window, or a pop-up menu of its own, is the one that the user works in.
+    [[nodiscard]] bool active() const { return active_; }
+    /// The working folder of the pictures.
+    [[nodiscard]] QString chemin(std::string_view image) const;
+
+    /// Runs a report of the user into the model, then shows what it has changed.
+    void executer(const std::function<void()>& evenement);
+
+    void modifie(ChampFormulaire champ) override;
+    void adieu() override;
+
+    // Asked by the views.
+    void noter(Vue& vue);
+    void relever(Vue& vue);
+
+    // The steps of a refresh, in this order, over all windows.
+    void montrercontroles();
+    void apparaitre();
+    void disparaitre();
+    void accorder();
+
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void closeEvent(QCloseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void keyReleaseEvent(QKeyEvent* evenement) override;
+    bool event(QEvent* evenement) override;
+    bool focusNextPrevChild(bool /*suivant*/) override { return false; }
+
+  private:
+    void completer();
+    void filtrer(QWidget& widget, Controle& controle);
+    void montrerformulaire();
+    void dimensionner();
+    void remettreechelle();
+    void accorderfocus();
+    void accorderdefaut();
+    void activation(bool active);
+    [[nodiscard]] QWidget& ciblefocus() const;
+    void redessiner(const Controle* controle) const;
+    void lacherfocus();
+    void focusrecu(Controle& controle, Qt::FocusReason raison);
+    [[nodiscard]] QSize tailledessinee() const;
+
+    bool touche(QKeyEvent& evenement);
+    void focaliserqt(QWidget& cible);
+    bool touchelongue(Controle& controle, const QKeyEvent& evenement);
+    bool pressepapiers(const Controle& controle, const QKeyEvent& evenement);
+    void relacher(const QKeyEvent& evenement);
+
+    Fenetrier& fenetrier_;
+    Formulaire* formulaire_;
+    Echelle echelle_;
+    std::vector<Vue*> vues_;  ///< in the order of the form's controls; the widgets are owned by Qt
+    std::vector<Vue*> notees_;
+    std::vector<Vue*> relevees_;
+    std::unordered_map<const Controle*, Vue*> parcontrole_;
+    std::unordered_map<const QObject*, Controle*> parwidget_;
+    std::unique_ptr<MenuContextuel> deroulant_;
+    const Controle* defaut_ = nullptr;  ///< default button, as drawn
+    const Controle* focus_ = nullptr;   ///< control with the focus, as drawn
+    std::size_t entrees_ = 0;  ///< controls without a widget: entries of menus
+    QSize design_;  ///< twips, at the last fitting
+    unsigned champs_ = ~0U;
+    bool dimensionnee_ = false;
+    bool accord_ = false;  ///< the focus of Qt is being put where the model has it
+    bool active_ = false;
+};
+
+}  // namespace ui::qt

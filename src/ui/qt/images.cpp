@@ -1,0 +1,66 @@
+#include "images.h"
+
+#include <array>
+#include <string>
+
+#include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
+#include <QPixmapCache>
+
+namespace ui::qt {
+namespace {
+
+constexpr std::array variantes{"", "@2x", "@4x"};
+constexpr std::array icones{16, 24, 32, 48, 64, 128, 256};
+
+QString variante(const QString& chemin, const char* marque) {
+    const auto point = chemin.lastIndexOf(QLatin1Char('.'));
+    auto nom = chemin;
+    return point < 0 ? nom + QLatin1String(marque) : nom.insert(point, QLatin1String(marque));
+}
+
+/// The variant to draw from: the smallest one that is large enough, or else the largest.
+QString choisir(const QString& chemin, const QSize& voulue) {
+    QString choix;
+    for (const auto* marque : variantes) {
+        const auto nom = variante(chemin, marque);
+        const auto taille = QImageReader(nom).size();
+        if (!taille.isValid())
+            continue;
+        choix = nom;
+        if (taille.width() >= voulue.width() || taille.height() >= voulue.height())
+            break;
+    }
+    return choix;
+}
+
+}  // namespace
+
+QPixmap image(const QString& chemin, const QSize& taille, double densite) {
+    const auto voulue = (QSizeF(taille) * densite).toSize();
+    const auto cle = QStringLiteral("%1 %2 %3").arg(chemin).arg(voulue.width()).arg(voulue.height());
+    QPixmap vignette;
+    if (QPixmapCache::find(cle, &vignette))
+        return vignette;
+    const QImage originale(choisir(chemin, voulue));
+    if (originale.isNull() || voulue.isEmpty())
+        return {};
+    vignette = QPixmap::fromImage(
+        originale.scaled(voulue, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    vignette.setDevicePixelRatio(densite);
+    QPixmapCache::insert(cle, vignette);
+    return vignette;
+}
+
+QIcon iconeprogramme(const std::function<QString(std::string_view)>& systeme) {
+    QIcon icone;
+    for (const int cote : icones) {
+        const auto chemin = systeme("images\\orvane_" + std::to_string(cote) + ".png");
+        if (QFileInfo::exists(chemin))
+            icone.addFile(chemin);
+    }
+    return icone;
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+
+class QPoint;
+class QWidget;
+
+namespace ui::qt {
+
+/// The entries of a text box's own menu.
+struct MenuEdition {
+    struct Entree {
+        bool possible = false;
+        std::function<void()> action;
+    };
+    Entree couper;
+    Entree copier;
+    Entree coller;
+    Entree toutselectionner;
+};
+
+/// Opens the menu at a place of the screen; it goes by itself.
+void deroulermenuedition(QWidget& boite, const QPoint& place, const MenuEdition& menu);
+
+}  // namespace ui::qt

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string_view>
+
+#include "disquereel.h"
+#include "fenetrier.h"
+#include "hasard.h"
+#include "plateforme.h"
+#include "telechargement.h"
+
+namespace ui::qt {
+
+/// The player's machine: its disk, clock, chance, sound, network and shell, and windows of Qt. The
+/// application object of Qt must live longer.
+class PlateformeQt : public Plateforme {
+  public:
+    PlateformeQt();
+
+    common::Disque& disque() override { return disque_; }
+    common::Hasard& hasard() override { return hasard_; }
+    [[nodiscard]] common::Instant maintenant() override;
+    void bip() override;
+    void ouvrir(std::string_view cible) override;
+    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
+    void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
+
+    [[nodiscard]] Fenetrier& fenetrier() { return fenetrier_; }
+
+  protected:
+    [[nodiscard]] Reponse demander(std::string_view texte, Icone icone, bool ouinon) override;
+    void jouer(std::string_view fichier) override;
+    void pomper() override;
+    void rapporter(std::string_view rapport) override;
+    void arreter(int statut) override;
+
+  private:
+    common::DisqueReel disque_;
+    common::HasardReel hasard_;
+    Fenetrier fenetrier_;
+    Telechargement telechargement_;
+};
+
+}  // namespace ui::qt

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ui::qt {
+
+/// What the program doesn't draw by itself (message boxes, menus, lists, scroll bars): Fusion, with
+/// the theme's buttons and slim scroll bars, and without mnemonics.
+class Style : public QProxyStyle {
+  public:
+    Style();
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* peintre,
+                     const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option,
+                            QPainter* peintre, const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* peintre,
+                       const QWidget* widget) const override;
+    int pixelMetric(PixelMetric mesure, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    int styleHint(StyleHint indication, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* retour) const override;
+};
+
+}  // namespace ui::qt
