@@ -64,6 +64,23 @@ std::string zlib(std::string_view octets) {
     return flux;
 }
 
+/// What stands before a row whose pixels are written as they are.
+constexpr char nonfiltree = '\0';
+
+/// A PNG file: its sides, the five bytes that tell its kind, and its rows.
+std::string fichierpng(int largeur, int hauteur, const std::string& genre,
+                       std::string_view lignes) {
+    std::string format;
+    grosboutien(format, static_cast<std::uint32_t>(largeur));
+    grosboutien(format, static_cast<std::uint32_t>(hauteur));
+    format += genre;
+    std::string fichier = "\x89PNG\r\n\x1a\n";
+    bloc(fichier, "IHDR", format);
+    bloc(fichier, "IDAT", zlib(lignes));
+    bloc(fichier, "IEND", {});
+    return fichier;
+}
+
 }  // namespace
 
 std::string bmp(const Image& image) {
@@ -101,22 +118,30 @@ std::string bmp(const Image& image) {
 }
 
 std::string png(const Image& image) {
-    std::string format;
-    grosboutien(format, static_cast<std::uint32_t>(image.largeur));
-    grosboutien(format, static_cast<std::uint32_t>(image.hauteur));
-    format += std::string("\x08\x06\x00\x00\x00", 5);  // 8 bits, with opacity, not interlaced
     std::string lignes;
     const std::size_t rangee = static_cast<std::size_t>(image.largeur) * 4;
     for (std::size_t debut = 0; debut < image.pixels.size(); debut += rangee) {
-        lignes += '\0';  // unfiltered row
+        lignes += nonfiltree;
         lignes.append(image.pixels.begin() + static_cast<std::ptrdiff_t>(debut),
                       image.pixels.begin() + static_cast<std::ptrdiff_t>(debut + rangee));
     }
-    std::string fichier = "\x89PNG\r\n\x1a\n";
-    bloc(fichier, "IHDR", format);
-    bloc(fichier, "IDAT", zlib(lignes));
-    bloc(fichier, "IEND", {});
-    return fichier;
+    // 8 bits, colours with opacity, not interlaced.
+    return fichierpng(image.largeur, image.hauteur, std::string("\x08\x06\x00\x00\x00", 5), lignes);
+}
+
+std::string png(const Gris& image) {
+    std::string lignes;
+    const auto rangee = static_cast<std::size_t>(image.largeur);
+    for (std::size_t debut = 0; debut < image.niveaux.size(); debut += rangee) {
+        lignes += nonfiltree;
+        for (std::size_t i = 0; i < rangee; i += 2) {
+            const unsigned gauche = image.niveaux[debut + i];
+            const unsigned droite = i + 1 < rangee ? image.niveaux[debut + i + 1] : 0U;
+            lignes += static_cast<char>(gauche << 4U | droite);
+        }
+    }
+    // 4 bits, greys, not interlaced.
+    return fichierpng(image.largeur, image.hauteur, std::string("\x04\x00\x00\x00\x00", 5), lignes);
 }
 
 }  // namespace assets

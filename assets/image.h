@@ -26,4 +26,14 @@ struct Image {
 /// A PNG file of 32 bits a pixel.
 [[nodiscard]] std::string png(const Image& image);
 
+/// A picture in 16 greys, row by row from the top: 0 is black, 15 white.
+struct Gris {
+    int largeur = 0;
+    int hauteur = 0;
+    std::vector<std::uint8_t> niveaux;
+};
+
+/// A PNG file of 4 bits a pixel.
+[[nodiscard]] std::string png(const Gris& image);
+
 }  // namespace assets

@@ -3,7 +3,9 @@
 #include <set>
 
 #include "catalogue.h"
+#include "images.h"
 #include "licences.h"
+#include "lignestexte.h"
 #include "listes.h"
 #include "notes.h"
 #include "references.h"
@@ -46,7 +48,17 @@ std::string octets(const std::vector<Note>& notes) {
     return texte;
 }
 
-/// The longest rack that the form of a row can hold that many of.
+/// A text of lines, as a file.
+std::string octets(std::string_view texte) {
+    std::string resultat;
+    LignesTexte lignes(texte);
+    std::string_view ligne;
+    while (lignes.suivante(ligne))
+        resultat.append(common::vers1252(ligne)).append(findeligne);
+    return resultat;
+}
+
+/// Most rows that the form of a list can hold.
 std::size_t rangeesmax(const menu::Rangee& rangee) {
     return rangee.ecran == menu::Ecran::form1 ? common::rangeesform1 : common::rangeesmulti;
 }
@@ -64,12 +76,12 @@ class Fabrique {
         for (const auto& reference : references())
             ajouter(chemindeliste(reference.liste.fichier), octets(reference.faire(m_)));
         for (const auto& table : tables)
-            ajouter(chemindeliste(table.texte), octets(tirages6(m_.mots, table.taille).rangees));
+            ajouter(table);
         progression_("notes");
         ajouter(std::string(common::fichierinfosouris),
                 octets(notes(m_.mots, thesaurus_, demandes_, atypiques_)));
         for (const auto& licence : licences()) {
-            ajouter(std::string(licence.fichier), common::vers1252(licence.texte));
+            ajouter(std::string(licence.fichier), octets(licence.texte));
         }
         return std::move(fichiers_);
     }
@@ -77,6 +89,15 @@ class Fabrique {
   private:
     void ajouter(std::string chemin, std::string contenu) {
         fichiers_.push_back({std::move(chemin), std::move(contenu)});
+    }
+
+    void ajouter(const Table& table) {
+        const auto rangees = tirages6(m_.mots, table.taille).rangees;
+        ajouter(chemindeliste(table.texte), octets(rangees));
+        for (const int finesse : variantes) {
+            ajouter(std::string(dossierimages) + '/' + fichierimage(table, finesse),
+                    dessinertable(titre(table), rangees, finesse));
+        }
     }
 
     void listes(const Recettes& recettes) {

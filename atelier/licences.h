@@ -9,7 +9,7 @@ namespace atelier {
 
 struct Licence {
     std::string_view fichier;  ///< in the output folder
-    std::string_view texte;    ///< UTF-8, CR LF
+    std::string_view texte;    ///< UTF-8, lines that end in LF
 };
 
 [[nodiscard]] std::array<Licence, 2> licences();

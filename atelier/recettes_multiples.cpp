@@ -10,16 +10,6 @@ namespace {
 /// Whether conjugations stand beside the wanted words of a rack.
 enum class Purete { pur, impur, indifferent };
 
-/// For 8 letters: every wanted word is a word of 7 letters, not a conjugation, and S.
-bool pluriels(const Vocabulaire& v, const Selection& souhaites) {
-    return std::all_of(souhaites.begin(), souhaites.end(), [&](const Mot* mot) {
-        if (!mot->finiten("S"))
-            return false;
-        const auto* singulier = v.chercher(mot->texte().substr(0, mot->taille() - 1));
-        return singulier != nullptr && !singulier->conjugue;
-    });
-}
-
 /// The racks on which `nombre` words are not conjugated.
 std::vector<const Tirage*> tiragesde(const Vocabulaire& v, std::size_t taille, std::size_t nombre,
                                      Purete purete) {
@@ -29,7 +19,7 @@ std::vector<const Tirage*> tiragesde(const Vocabulaire& v, std::size_t taille, s
         if (tirage.nonconjugues != nombre || (purete == Purete::pur && !pur) ||
             (purete == Purete::impur && pur))
             continue;
-        if (taille == 8 && pluriels(v, choisir(v, tirage, nonconjugue)))
+        if (pluriels(v, choisir(v, tirage, nonconjugue), taille))
             continue;
         choisis.push_back(&tirage);
     }
@@ -157,18 +147,6 @@ Recette recetteconjuguee(std::size_t min, std::size_t max, std::size_t nombre) {
 }
 
 }  // namespace
-
-Contenu tirages6(const Vocabulaire& v, std::size_t taille) {
-    Contenu contenu;
-    for (const auto& tirage : v.tirages(taille, taille)) {
-        if (tirage.nonconjugues < anagrammesmin)
-            continue;
-        const auto mots = choisir(v, tirage, nonconjugue);
-        if (taille != 8 || !pluriels(v, mots))
-            ajoutermultiple(contenu, v, tirage, mots);
-    }
-    return contenu;
-}
 
 void recettesmultiples(std::vector<Recettes>& toutes) {
     toutes.push_back(duos("duos7", 7));
