@@ -41,10 +41,8 @@ void Plateforme::finir(int statut) {
     statut_ = statut;
 }
 
-void Plateforme::executer(const std::function<void()>& evenement) {
-    if (fini_)
-        return;
-    ++profondeur_;
+/// Runs an event, and turns what it throws into the end of the program.
+void Plateforme::proteger(const std::function<void()>& evenement) {
     std::string rapport;
     try {
         evenement();
@@ -61,10 +59,17 @@ void Plateforme::executer(const std::function<void()>& evenement) {
         rapporter(rapport);
     if (fini_)
         arreter(statut_);
+}
+
+void Plateforme::executer(const std::function<void()>& evenement) {
+    if (fini_)
+        return;
+    ++profondeur_;
+    proteger(evenement);
     if (--profondeur_ > 0)
         return;
     for (const auto& suite : std::exchange(suites_, {}))
-        suite();
+        proteger(suite);
 }
 
 }  // namespace ui

@@ -82,6 +82,7 @@ class Plateforme {
     virtual void arreter(int statut) = 0;
 
   private:
+    void proteger(const std::function<void()>& evenement);
     void finir(int statut);
     void verifierfin() const;
 
