@@ -48,7 +48,7 @@ struct Signe {
     Contour contour;
     Teinte teinte;
     std::vector<Ligne> lignes;
-    bool nouveau = false;  // a sparkle in the right half: the word has come in
+    bool nouveau = false;  // a sparkle in the left half: the word has come in
 };
 
 Contour carre(double debut, double fin, double rayon) {
@@ -70,7 +70,7 @@ Contour octogone(double largeur, double hauteur, double marge, double coupe, dou
             rayon};
 }
 
-// The dated marks keep their figure in the left half: a half mark may cover the right one.
+// The dated marks keep their figure in the right half: a half mark stands on the left one.
 std::vector<Signe> marques() {
     constexpr double cote = 28;
     const Contour rond{{{14, 14}}, 12.3};
@@ -78,9 +78,9 @@ std::vector<Signe> marques() {
     const Contour losange{{{14, 3}, {25, 14}, {14, 25}, {3, 14}}, 1.4};
     const Contour fleche{{{4, 6}, {15, 6}, {24.5, 14}, {15, 22}, {4, 22}}, 2};
     return {
-        {"ods5_28x28", cote, cote, carre(6, 22, 4.3), bleu, {{"5", {9, 14}, 15, 2.6}}, true},
-        {"ods6_28x28", cote, cote, rond, canard, {{"6", {9.2, 14}, 15, 2.6}}, true},
-        {"ods7_28x28", cote, cote, ecu, violet, {{"7", {9.2, 12}, 14, 2.6}}, true},
+        {"ods5_28x28", cote, cote, carre(6, 22, 4.3), bleu, {{"5", {19, 14}, 15, 2.6}}, true},
+        {"ods6_28x28", cote, cote, rond, canard, {{"6", {18.8, 14}, 15, 2.6}}, true},
+        {"ods7_28x28", cote, cote, ecu, violet, {{"7", {19, 12}, 14, 2.6}}, true},
         {"ppi_28x28", cote, cote, losange, brique, {{"PPI", {14, 14}, 9, 1.8}}},
         {"vbt_28x28", cote, cote, fleche, ambre, {{"VT", {12.5, 14}, 11, 2.2}}},
         {"inv_28x28",
@@ -160,7 +160,7 @@ Dessin dessiner(const Signe& signe) {
         ajouter(dessin, mot(ligne.texte, ligne.hauteur, ligne.plume, blanc), {ligne.milieu, 1, 0});
     }
     if (signe.nouveau) {
-        dessin.traits.push_back(etincelle({19.6, 10.6}, 4));
+        dessin.traits.push_back(etincelle({8.2, 10.6}, 4));
     }
     return dessin;
 }
