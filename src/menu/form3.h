@@ -36,9 +36,10 @@ class Form3 : public ui::Formulaire {
     /// The file exists.
     [[nodiscard]] bool Verification(std::string_view chemin);
 
+    void montrer() { visible = true; }
     void donnerfond(std::uint32_t rvb);
     /// The check box `app` ("Apprentissage") is ticked.
-    [[nodiscard]] bool apprentissage() const { return app_.coche(); }
+    [[nodiscard]] bool app() const { return app_.coche(); }
     /// Writes the help box.
     void aide(std::string_view texteaide);
     /// The busy pointer, or the normal one.
