@@ -1,6 +1,5 @@
 #include "miseajour.h"
 
-#include "adresses.h"
 #include "fichier.h"
 #include "nombre.h"
 #include "texte.h"
@@ -29,7 +28,7 @@ bool memeversion(std::string_view locale, std::string_view publiee) {
 
 void MiseAJour::verifier() {
     const auto chemin = dansdossierprogramme(fichierversion);
-    if (!plateforme_.telecharger(common::adresses::version, chemin)) {
+    if (!plateforme_.telecharger(publication_.version, chemin)) {
         ouvrirpage(
             "Erreur durant la vérification. Votre navigateur va s'ouvrir sur la page d'Orvane.",
             ui::Icone::Exclamation);
@@ -59,7 +58,7 @@ void MiseAJour::telecharger() {
     voisins_.menu.patienter(true);
     voisins_.menu.aide("Téléchargement en cours");
     plateforme_.laissercourir();
-    if (!plateforme_.telecharger(common::adresses::lien, fichierlien)) {
+    if (!plateforme_.telecharger(publication_.lien, fichierlien)) {
         ouvrirpage(
             "Erreur durant le téléchargement automatisé, désolé. Votre navigateur va s'ouvrir sur "
             "la page d'Orvane, vous pourrez ensuite télécharger la dernière version.",
@@ -97,7 +96,7 @@ void MiseAJour::installer() {
 
 void MiseAJour::ouvrirpage(std::string_view explication, ui::Icone icone) {
     plateforme_.message(explication, icone);
-    plateforme_.ouvrir(common::adresses::telechargement);
+    plateforme_.ouvrir(publication_.page);
 }
 
 /// The address in the link file; nothing if it cannot be read. This failure ends the check without

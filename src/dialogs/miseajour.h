@@ -3,7 +3,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "adresses.h"
 #include "formulaires.h"
 #include "plateforme.h"
 
@@ -12,13 +14,20 @@ namespace dialogs {
 /// Two versions are the same when their numeric values are: "2.680" is "2.68", "2,68" is 2.
 [[nodiscard]] bool memeversion(std::string_view locale, std::string_view publiee);
 
+/// Where the update check looks.
+struct Publication {
+    std::string version{common::adresses::version};      ///< address of the version file
+    std::string lien{common::adresses::lien};            ///< address of the link file
+    std::string page{common::adresses::telechargement};  ///< what the browser opens
+};
+
 /// The update check: compares the program's version with the published one, and on the player's
 /// word downloads the installer, opens it and ends the program. All of it runs in one call. The
 /// version file goes to the program's folder; the link and the installer go to the working folder.
 class MiseAJour {
   public:
-    MiseAJour(ui::Plateforme& plateforme, common::Voisins& voisins)
-        : plateforme_(plateforme), voisins_(voisins) {}
+    MiseAJour(ui::Plateforme& plateforme, common::Voisins& voisins, Publication publication = {})
+        : plateforme_(plateforme), voisins_(voisins), publication_(std::move(publication)) {}
 
     /// Throws `Faute` if the version file that was downloaded cannot be read.
     void verifier();
@@ -33,6 +42,7 @@ class MiseAJour {
 
     ui::Plateforme& plateforme_;
     common::Voisins& voisins_;
+    Publication publication_;
 };
 
 }  // namespace dialogs

@@ -4,11 +4,12 @@
 #include "adresses.h"
 #include "lignes.h"
 #include "miseajour.h"
+#include "textesmiseajour.h"
 #include "voisinage.h"
 
 namespace {
 
-using essai::Journal;
+using namespace essai;
 using testing::HasSubstr;
 
 const std::string version(common::adresses::version);
@@ -20,27 +21,6 @@ const std::string chercherversion = "telecharger " + version + " > version_en_li
 const std::string chercherlien = "telecharger " + lien + " > downloadlink.txt";
 const std::string chercherinstalleur = "telecharger " + installeur + " > orvane_setup.exe";
 const std::string ouvrirpage = "ouvrir " + page;
-const std::string ajour = "information Votre logiciel est à jour.";
-const std::string echecverification =
-    "exclamation Erreur durant la vérification. Votre navigateur va s'ouvrir sur la page d'Orvane.";
-const std::string debuttelechargement =
-    "information Le programme va télécharger la nouvelle version, cela peut prendre quelques "
-    "secondes.";
-const std::string echeclien =
-    "exclamation Erreur durant le téléchargement automatisé, désolé. Votre navigateur va s'ouvrir "
-    "sur la page d'Orvane, vous pourrez ensuite télécharger la dernière version.";
-const std::string echecinstalleur =
-    "information Votre navigateur va s'ouvrir sur la page d'Orvane, vous pourrez ensuite "
-    "télécharger la dernière version.";
-const std::string aurevoir =
-    "information Orvane va maintenant se fermer et l'installation de la mise à jour va débuter. "
-    "Suivez les instructions puis cochez \"Lancer Orvane\" à la fin pour le relancer.";
-
-std::string proposer(const std::string& publiee) {
-    return "question Votre version actuelle est 2.68\nLa mise à jour " + publiee +
-           " est disponible. Voulez-vous la télécharger ?";
-}
-
 Journal suite(const Journal& debut, const Journal& fin) {
     Journal tout = debut;
     tout.insert(tout.end(), fin.begin(), fin.end());

@@ -1,136 +1,19 @@
 #pragma once
 
-// A machine and neighbours that write down what a dialog asks of them.
+// Neighbours that write down what a dialog asks of them.
 
-#include <algorithm>
-#include <array>
-#include <cstring>
-#include <map>
-#include <memory>
-#include <optional>
-#include <set>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
-#include <vector>
 
-#include "formulaire.h"
 #include "formulaires.h"
-#include "plateforme.h"
+#include "journal.h"
+#include "machine.h"
+#include "valeurs.h"
 
 namespace essai {
-
-using Journal = std::vector<std::string>;
-
-/// Files in memory; some of them refuse to be read, written or deleted.
-class Disque : public common::Disque {
-  public:
-    std::map<std::string, std::string, std::less<>> fichiers;
-    std::set<std::string, std::less<>> refuses;
-    std::set<std::string, std::less<>> indestructibles;  ///< refuse to be deleted only
-
-    std::error_code ouvrir(std::string_view chemin, std::unique_ptr<common::Flux>& flux) override {
-        const auto place = fichiers.find(chemin);
-        if (place == fichiers.end())
-            return std::make_error_code(std::errc::no_such_file_or_directory);
-        if (refuses.contains(chemin))
-            return std::make_error_code(std::errc::permission_denied);
-        flux = std::make_unique<Lecture>(place->second);
-        return {};
-    }
-    std::error_code ajouter(std::string_view chemin, std::string_view octets) override {
-        if (refuses.contains(chemin))
-            return std::make_error_code(std::errc::no_space_on_device);
-        fichiers[std::string(chemin)] += octets;
-        return {};
-    }
-    std::error_code remplacer(std::string_view chemin, std::string_view octets) override {
-        if (refuses.contains(chemin))
-            return std::make_error_code(std::errc::no_space_on_device);
-        fichiers[std::string(chemin)] = octets;
-        return {};
-    }
-    std::error_code creerdossier(std::string_view /*chemin*/) override { return {}; }
-    std::error_code supprimer(std::string_view chemin) override {
-        if (refuses.contains(chemin) || indestructibles.contains(chemin))
-            return std::make_error_code(std::errc::permission_denied);
-        return fichiers.erase(std::string(chemin)) > 0
-                   ? std::error_code()
-                   : std::make_error_code(std::errc::no_such_file_or_directory);
-    }
-    std::error_code renommer(std::string_view ancien, std::string_view nouveau) override {
-        auto noeud = fichiers.extract(std::string(ancien));
-        if (noeud.empty())
-            return std::make_error_code(std::errc::no_such_file_or_directory);
-        noeud.key() = std::string(nouveau);
-        fichiers.insert(std::move(noeud));
-        return {};
-    }
-    bool existe(std::string_view chemin) override { return fichiers.contains(chemin); }
-    bool estdossier(std::string_view /*chemin*/) override { return false; }
-
-  private:
-    class Lecture : public common::Flux {
-      public:
-        explicit Lecture(std::string octets) : octets_(std::move(octets)) {}
-        std::error_code lire(std::span<char> tampon, std::size_t& lus) override {
-            // Few bytes at a time, as a slow disk may give them.
-            lus = std::min({tampon.size(), octets_.size() - place_, std::size_t{7}});
-            std::memcpy(tampon.data(), octets_.data() + place_, lus);
-            place_ += lus;
-            return {};
-        }
-
-      private:
-        std::string octets_;
-        std::size_t place_ = 0;
-    };
-};
-
-class Plateforme : public ui::Plateforme {
-  public:
-    Journal journal;
-    Disque lesfichiers;
-    std::map<std::string, std::string, std::less<>> reseau;  ///< address to content
-    ui::Reponse reponse = ui::Reponse::Oui;
-    std::string dossier;
-    std::string rapport;
-
-    common::Disque& disque() override { return lesfichiers; }
-    common::Hasard& hasard() override { return hasard_; }
-    common::Instant maintenant() override { return {}; }
-    void bip() override { journal.emplace_back("bip"); }
-    void ouvrir(std::string_view cible) override { noter("ouvrir ", cible); }
-    bool telecharger(std::string_view adresse, std::string_view chemin) override {
-        noter("telecharger ", std::string(adresse) + " > " + std::string(chemin));
-        const auto page = reseau.find(adresse);
-        if (page == reseau.end())
-            return false;
-        lesfichiers.fichiers[std::string(chemin)] = page->second;
-        return true;
-    }
-    std::string dossierprogramme() override { return dossier; }
-    void accueillir(ui::Formulaire& /*formulaire*/) override {}
-    void noter(std::string_view quoi, std::string_view valeur) {
-        journal.push_back(std::string(quoi) + std::string(valeur));
-    }
-
-  protected:
-    ui::Reponse demander(std::string_view texte, ui::Icone icone, bool ouinon) override {
-        static constexpr std::array genres{"message ", "information ", "exclamation ", "question "};
-        noter(genres.at(static_cast<std::size_t>(icone)), texte);
-        return ouinon ? reponse : ui::Reponse::Ok;
-    }
-    void jouer(std::string_view fichier) override { noter("jouer ", fichier); }
-    void pomper() override { journal.emplace_back("laisser courir"); }
-    void rapporter(std::string_view texte) override { rapport = texte; }
-    void arreter(int statut) override { noter("fin ", std::to_string(statut)); }
-
-  private:
-    common::HasardReel hasard_;
-};
 
 /// A colour as journals show it.
 inline std::string couleur(std::uint32_t rvb) {
@@ -139,42 +22,39 @@ inline std::string couleur(std::uint32_t rvb) {
 
 class Menu : public common::FaceMenu {
   public:
-    explicit Menu(Plateforme& plateforme) : plateforme_(plateforme) {}
-    void montrer() override { plateforme_.journal.emplace_back("menu montrer"); }
-    void maj() override { plateforme_.journal.emplace_back("menu maj"); }
+    explicit Menu(Journal& journal) : journal_(journal) {}
+    void montrer() override { journal_.emplace_back("menu montrer"); }
+    void maj() override { journal_.emplace_back("menu maj"); }
     std::uint32_t fond() override { return fond_; }
     void donnerfond(std::uint32_t rvb) override {
         fond_ = rvb;
-        plateforme_.noter("menu fond ", couleur(rvb));
+        noter(journal_, "menu fond ", couleur(rvb));
     }
     bool app() override { return false; }
-    void aide(std::string_view texte) override { plateforme_.noter("aide ", texte); }
+    void aide(std::string_view texte) override { noter(journal_, "aide ", texte); }
     void patienter(bool attente) override {
-        plateforme_.noter("menu pointeur ", attente ? "attente" : "normal");
+        noter(journal_, "menu pointeur ", attente ? "attente" : "normal");
     }
 
   private:
-    Plateforme& plateforme_;
+    Journal& journal_;
     std::uint32_t fond_ = 0;
 };
 
 class Serie : public common::FaceSerie {
   public:
-    Serie(Plateforme& plateforme, std::string nom)
-        : plateforme_(plateforme), nom_(std::move(nom)) {}
-    void patienter() override { plateforme_.noter(nom_, " patienter"); }
-    void coloration() override { plateforme_.noter(nom_, " coloration"); }
-    void montrer() override { plateforme_.noter(nom_, " montrer"); }
+    Serie(Journal& journal, std::string nom) : journal_(journal), nom_(std::move(nom)) {}
+    void patienter() override { noter(journal_, nom_, " patienter"); }
+    void coloration() override { noter(journal_, nom_, " coloration"); }
+    void montrer() override { noter(journal_, nom_, " montrer"); }
     void commencer(std::string_view chemin) override {
-        plateforme_.noter(nom_ + " commencer ", chemin);
+        noter(journal_, nom_ + " commencer ", chemin);
     }
-    void activerseuil(bool /*actif*/) override { plateforme_.noter(nom_, " activerseuil"); }
-    void donnerfond(std::uint32_t rvb) override {
-        plateforme_.noter(nom_ + " fond ", couleur(rvb));
-    }
+    void activerseuil(bool /*actif*/) override { noter(journal_, nom_, " activerseuil"); }
+    void donnerfond(std::uint32_t rvb) override { noter(journal_, nom_ + " fond ", couleur(rvb)); }
 
   private:
-    Plateforme& plateforme_;
+    Journal& journal_;
     std::string nom_;
 };
 
@@ -198,20 +78,21 @@ class Apropos : public common::FaceApropos {
     void verifiermiseajour() override {}
 };
 
-/// The machine, the shared variables as a new user has them, and all the neighbours.
-struct Voisinage {
-    Plateforme plateforme;
+/// A machine, the shared variables as a new user has them, and all the neighbours.
+template <class Machine>
+struct VoisinageSur {
+    Machine plateforme;
     common::VariablesForm3 form3;
     common::VariablesDialog2 dialog2;
-    Menu menu{plateforme};
-    Serie form1{plateforme, "Form1"};
-    Serie multi{plateforme, "Multi"};
+    Menu menu{plateforme.journal};
+    Serie form1{plateforme.journal, "Form1"};
+    Serie multi{plateforme.journal, "Multi"};
     Options options;
     Historique historique;
     Apropos apropos;
     common::Voisins voisins{form3, dialog2, menu, options, form1, multi, historique, apropos};
 
-    Voisinage() {
+    VoisinageSur() {
         form3.util = "Léa";
         form3.versionlocale = "2.68";
         form3.dateversion = "24/08/2019";
@@ -225,5 +106,7 @@ struct Voisinage {
     /// The journal, which starts anew.
     Journal relever() { return std::exchange(plateforme.journal, {}); }
 };
+
+using Voisinage = VoisinageSur<Plateforme>;
 
 }  // namespace essai

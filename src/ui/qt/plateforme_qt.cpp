@@ -44,7 +44,8 @@ QMessageBox* boitedemessage(QWidget* parent, QMessageBox::Icon icone, std::strin
 
 }  // namespace
 
-PlateformeQt::PlateformeQt() : fenetrier_(*this), telechargement_(fenetrier_.minuteur()) {}
+PlateformeQt::PlateformeQt(Telechargement::Limites limites)
+    : fenetrier_(*this), telechargement_(fenetrier_.minuteur(), limites) {}
 
 common::Instant PlateformeQt::maintenant() {
     const auto instant = QDateTime::currentDateTime();

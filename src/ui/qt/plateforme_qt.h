@@ -14,7 +14,7 @@ namespace ui::qt {
 /// application object of Qt must live longer.
 class PlateformeQt : public Plateforme {
   public:
-    PlateformeQt();
+    explicit PlateformeQt(Telechargement::Limites limites = {});
 
     common::Disque& disque() override { return disque_; }
     common::Hasard& hasard() override { return hasard_; }

@@ -37,6 +37,8 @@ std::optional<std::string> Telechargement::lire(std::string_view adresse) {
     });
     if (!venue || !reponse->isFinished() || reponse->error() != QNetworkReply::NoError)
         return std::nullopt;
+    if (reponse->bytesAvailable() > limites_.taille)  // came before any progress was told
+        return std::nullopt;
     return reponse->readAll().toStdString();
 }
 

@@ -1,0 +1,329 @@
+// The update check against a web server on 127.0.0.1, through the download that players get.
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "journal.h"
+#include "lignes.h"
+#include "miseajour.h"
+#include "plateforme_qt.h"
+#include "serveur.h"
+#include "textesmiseajour.h"
+#include "voisinage.h"
+
+namespace {
+
+using namespace essai;
+namespace fs = std::filesystem;
+
+constexpr const char* cheminversion = "/Orvane/version.txt";
+constexpr const char* cheminlien = "/Orvane/downloadlink.txt";
+constexpr const char* chemininstalleur = "/orvane_setup.exe";
+constexpr const char* page = "https://www.orvane.example/orvane.php#telechargement";
+const std::string ouvrirpage = std::string("ouvrir ") + page;
+
+/// Qt for the whole program; what it warns of is a failure.
+class Bureau : public testing::Environment {
+  public:
+    void SetUp() override {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(execution_.path()));
+        qInstallMessageHandler(
+            [](QtMsgType genre, const QMessageLogContext& /*contexte*/, const QString& texte) {
+                if (genre != QtDebugMsg && genre != QtInfoMsg)
+                    ADD_FAILURE() << "Qt: " << texte.toStdString();
+            });
+        qt_.emplace(nombre_, arguments_);
+    }
+    void TearDown() override { qt_.reset(); }
+
+  private:
+    int nombre_ = 1;
+    char nom_[7] = "essais";
+    char* arguments_[2] = {nom_, nullptr};
+    QTemporaryDir execution_;
+    std::optional<QApplication> qt_;
+};
+
+const auto* const bureau = testing::AddGlobalTestEnvironment(new Bureau);
+
+/// The player's machine, its message boxes answered and its browser noted down.
+class Machine : public ui::qt::PlateformeQt {
+  public:
+    Machine() : PlateformeQt({.silence = 200, .duree = 600, .taille = 1000}) {}
+
+    Journal journal;
+    ui::Reponse reponse = ui::Reponse::Oui;
+
+    void ouvrir(std::string_view cible) override { noter(journal, "ouvrir ", cible); }
+
+  protected:
+    ui::Reponse demander(std::string_view texte, ui::Icone icone, bool ouinon) override {
+        noter(journal, genre(icone), texte);
+        return ouinon ? reponse : ui::Reponse::Ok;
+    }
+    void rapporter(std::string_view rapport) override { noter(journal, "faute ", rapport); }
+    void arreter(int statut) override { noter(journal, "fin ", std::to_string(statut)); }
+};
+
+std::optional<std::string> contenu(const char* fichier) {
+    std::ifstream flux(fichier, std::ios::binary);
+    if (!flux)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(flux), {});
+}
+
+class Reseau : public testing::Test {
+  protected:
+    QTemporaryDir dossier{QDir::tempPath() + QStringLiteral("/mise à jour XXXXXX")};
+    fs::path ancien = fs::current_path();
+    Serveur serveur;
+    VoisinageSur<Machine> v;
+
+    Reseau() { fs::current_path(dossier.path().toStdString()); }
+    ~Reseau() override { fs::current_path(ancien); }
+
+    Journal verifier() { return verifier(serveur); }
+    Journal verifier(const Serveur& ou) {
+        dialogs::MiseAJour verification(v.plateforme, v.voisins,
+                                        {ou.adresse(cheminversion), ou.adresse(cheminlien), page});
+        v.plateforme.executer([&] { verification.verifier(); });
+        return v.relever();
+    }
+    void publier(const QByteArray& version) { serveur.pages[cheminversion] = {version}; }
+    void toutpublier() {
+        publier("2.7\r\n");
+        serveur.pages[cheminlien] = {QByteArray::fromStdString(serveur.adresse(chemininstalleur)) +
+                                     "\r\n"};
+        serveur.pages[chemininstalleur] = {"MZ\0programme"};
+    }
+    /// The journal of a check that has asked for the link, and then `suite`.
+    static Journal telechargement(const Journal& suite) {
+        Journal tout{proposer("2.7"), debuttelechargement, "menu pointeur attente",
+                     "aide Téléchargement en cours"};
+        tout.insert(tout.end(), suite.begin(), suite.end());
+        return tout;
+    }
+    static Journal echecdelinstalleur() {
+        return telechargement({"menu pointeur normal", echecinstalleur, ouvrirpage});
+    }
+};
+
+TEST_F(Reseau, personne_a_l_adresse) {
+    serveur.fermer();
+    EXPECT_EQ(verifier(), (Journal{echecverification, ouvrirpage}));
+    EXPECT_EQ(contenu("version_en_ligne.txt"), std::nullopt);
+}
+
+/// An answer to the request of the version that is no version.
+struct Echec {
+    const char* nom;
+    Page page;
+};
+
+void PrintTo(const Echec& cas, std::ostream* sortie) {
+    *sortie << cas.nom;
+}
+
+class Manque : public Reseau, public testing::WithParamInterface<Echec> {};
+
+TEST_P(Manque, ouvre_la_page_et_laisse_le_fichier_d_avant) {
+    std::ofstream("version_en_ligne.txt") << "avant";
+    serveur.pages[cheminversion] = GetParam().page;
+    EXPECT_EQ(verifier(), (Journal{echecverification, ouvrirpage}));
+    EXPECT_FALSE(serveur.demandes.empty());
+    EXPECT_EQ(contenu("version_en_ligne.txt"), "avant");
+    EXPECT_EQ(std::distance(fs::directory_iterator("."), {}), 1) << "nothing half downloaded";
+}
+
+const Echec echecs[] = {
+    {"page_absente", {"absente", 404}},
+    {"serveur_en_panne", {"2.68\r\n", 500}},
+    {"coupee_en_route", {"2.68\r\n", 200, 100}},
+    {"coupee_avant_le_premier_octet", {"", 200, 100}},
+    {"jamais_de_reponse", {.muette = true}},
+    {"octets_sans_fin", {.corps = "2.68\r\n", .goutte = true}},
+    {"trop_longue", {QByteArray(1001, 'x')}},
+    {"renvoi_sans_fin",
+     {.statut = 302, .entetes = QByteArray("Location: ") + cheminversion + "\r\n"}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Reseau, Manque, testing::ValuesIn(echecs), nommer<Echec>);
+
+TEST_F(Reseau, meme_version) {
+    publier("2.680\r\n");
+    EXPECT_EQ(verifier(), Journal{ajour});
+    EXPECT_EQ(contenu("version_en_ligne.txt"), "2.680\r\n");
+}
+
+TEST_F(Reseau, autres_versions_proposees_puis_refusees) {
+    v.plateforme.reponse = ui::Reponse::Non;
+    for (const auto* version : {"2.7", "2.6", "2,68", ""}) {
+        publier(version);
+        EXPECT_EQ(verifier(), Journal{proposer(version)});
+    }
+    EXPECT_EQ(contenu("downloadlink.txt"), std::nullopt);
+}
+
+TEST_F(Reseau, ce_qui_est_publie_se_voit_aussitot) {
+    serveur.pages[cheminversion] = {.corps = "2.68\r\n",
+                                    .entetes = "Cache-Control: max-age=100000\r\n"};
+    EXPECT_EQ(verifier(), Journal{ajour});
+    v.plateforme.reponse = ui::Reponse::Non;
+    serveur.pages[cheminversion].corps = "2.7\r\n";
+    EXPECT_EQ(verifier(), Journal{proposer("2.7")});
+    ASSERT_EQ(serveur.demandes.size(), 2U);
+    EXPECT_THAT(serveur.demandes[1].toLower().toStdString(),
+                testing::HasSubstr("cache-control: no-cache"));
+}
+
+TEST_F(Reseau, un_renvoi_est_suivi) {
+    serveur.pages[cheminversion] = {.statut = 302, .entetes = "Location: /ailleurs\r\n"};
+    serveur.pages["/ailleurs"] = {"2.68\r\n"};
+    EXPECT_EQ(verifier(), Journal{ajour});
+}
+
+TEST_F(Reseau, lien_absent) {
+    publier("2.7\r\n");
+    EXPECT_EQ(verifier(), telechargement({echeclien, ouvrirpage}));
+    EXPECT_EQ(contenu("downloadlink.txt"), std::nullopt);
+}
+
+TEST_F(Reseau, lien_coupe_en_route) {
+    toutpublier();
+    serveur.pages[cheminlien].coupe = 5;
+    EXPECT_EQ(verifier(), telechargement({echeclien, ouvrirpage}));
+}
+
+TEST_F(Reseau, lien_vide) {
+    toutpublier();
+    serveur.pages[cheminlien].corps.clear();
+    EXPECT_EQ(verifier(), telechargement({}));
+    EXPECT_EQ(contenu("downloadlink.txt"), "");
+    EXPECT_FALSE(v.plateforme.fini());
+}
+
+TEST_F(Reseau, lien_vers_autre_chose_que_le_web) {
+    std::ofstream("secret") << "secret";
+    for (const std::string& lien :
+         {std::string(), std::string("file://") + fs::absolute("secret").string(),
+          std::string("orvane_setup.exe"), std::string("http://")}) {
+        toutpublier();
+        serveur.pages[cheminlien] = {QByteArray::fromStdString(lien) + "\r\n"};
+        EXPECT_EQ(verifier(), echecdelinstalleur()) << lien;
+        EXPECT_EQ(contenu("orvane_setup.exe"), std::nullopt);
+    }
+}
+
+TEST_F(Reseau, installeur_absent) {
+    toutpublier();
+    serveur.pages.erase(chemininstalleur);
+    EXPECT_EQ(verifier(), echecdelinstalleur());
+}
+
+TEST_F(Reseau, installeur_coupe_en_route_ne_s_ouvre_pas) {
+    toutpublier();
+    serveur.pages[chemininstalleur].coupe = 1;
+    EXPECT_EQ(verifier(), echecdelinstalleur());
+    EXPECT_EQ(contenu("orvane_setup.exe"), std::nullopt);
+}
+
+TEST_F(Reseau, installeur_qui_ne_vient_jamais) {
+    toutpublier();
+    serveur.pages[chemininstalleur].muette = true;
+    EXPECT_EQ(verifier(), echecdelinstalleur());
+}
+
+TEST_F(Reseau, tout_va_bien) {
+    toutpublier();
+    EXPECT_EQ(verifier(), telechargement({"menu pointeur normal", aurevoir,
+                                          "ouvrir orvane_setup.exe", "fin 0"}));
+    EXPECT_EQ(contenu("orvane_setup.exe"), "MZ");
+    EXPECT_EQ(contenu("downloadlink.txt"), std::nullopt);
+    EXPECT_EQ(contenu("version_en_ligne.txt"), std::nullopt);
+    EXPECT_EQ(v.plateforme.statut(), 0);
+}
+
+/// A key and a certificate that nobody has signed, for 127.0.0.1.
+class Certifie : public Reseau {
+  protected:
+    QSslCertificate certificat;
+    int poignees = 0;  ///< handshakes begun
+
+    Serveur https() {
+        const QStringList ordre{"req",
+                                "-x509",
+                                "-newkey",
+                                "ec",
+                                "-pkeyopt",
+                                "ec_paramgen_curve:prime256v1",
+                                "-nodes",
+                                "-days",
+                                "2",
+                                "-subj",
+                                "/CN=essai",
+                                "-addext",
+                                "subjectAltName=IP:127.0.0.1",
+                                "-keyout",
+                                "cle.pem",
+                                "-out",
+                                "certificat.pem"};
+        QProcess openssl;
+        openssl.start("openssl", ordre);
+        if (!openssl.waitForFinished() || openssl.exitCode() != 0)
+            qFatal("openssl : %s", openssl.readAllStandardError().constData());
+        certificat = QSslCertificate::fromPath("certificat.pem").value(0);
+        const auto cle = contenu("cle.pem").value_or("");
+        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+        tls.setLocalCertificate(certificat);
+        tls.setPrivateKey(QSslKey(QByteArray::fromStdString(cle), QSsl::Ec));
+        auto ecoute = std::make_unique<QSslServer>();
+        ecoute->setSslConfiguration(tls);
+        QObject::connect(ecoute.get(), &QSslServer::startedEncryptionHandshake, ecoute.get(),
+                         [this] { ++poignees; });
+        return Serveur(std::move(ecoute), "https");
+    }
+};
+
+TEST_F(Certifie, un_certificat_que_personne_n_a_signe_est_un_echec) {
+    auto sur = https();
+    sur.pages[cheminversion] = {"2.68\r\n"};
+    EXPECT_EQ(verifier(sur), (Journal{echecverification, ouvrirpage}));
+    EXPECT_EQ(poignees, 1);
+    EXPECT_TRUE(sur.demandes.empty()) << "nothing is asked of a server that is not trusted";
+}
+
+TEST_F(Certifie, un_certificat_reconnu_est_servi) {
+    auto sur = https();
+    sur.pages[cheminversion] = {"2.68\r\n"};
+    const auto defaut = QSslConfiguration::defaultConfiguration();
+    auto reconnue = defaut;
+    reconnue.addCaCertificate(certificat);
+    QSslConfiguration::setDefaultConfiguration(reconnue);
+    EXPECT_EQ(verifier(sur), Journal{ajour});
+    QSslConfiguration::setDefaultConfiguration(defaut);
+}
+
+TEST_F(Reseau, une_adresse_https_sur_un_serveur_qui_ne_l_est_pas) {
+    publier("2.68\r\n");
+    auto adresse = serveur.adresse(cheminversion);
+    adresse.replace(0, 4, "https");
+    dialogs::MiseAJour verification(v.plateforme, v.voisins, {adresse, "", page});
+    v.plateforme.executer([&] { verification.verifier(); });
+    EXPECT_EQ(v.relever(), (Journal{echecverification, ouvrirpage}));
+}
+
+}  // namespace
