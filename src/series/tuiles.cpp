@@ -5,6 +5,15 @@
 #include "texte.h"
 
 namespace series {
+namespace {
+
+/// Name for assistive technologies: number and letter of the tile.
+void nommer(ui::Controle& tuile, int rang) {
+    const auto nom = "Tuile " + std::to_string(rang + 1);
+    tuile.accessible = tuile.texte().empty() ? nom : nom + " : " + tuile.texte();
+}
+
+}  // namespace
 
 Tuiles::Tuiles(ui::Formulaire& formulaire) {
     constexpr double taille = 24;
@@ -14,7 +23,7 @@ Tuiles::Tuiles(ui::Formulaire& formulaire) {
         tuile.fond = ui::couleurs::tuile;
         tuile.taille = taille;
         tuile.gras = true;
-        tuile.accessible = "Tuile " + std::to_string(rang + 1);
+        nommer(tuile, rang);
         tuile.clic = [this, rang] { cliquer(rang); };
         tuiles_[static_cast<std::size_t>(rang)] = &tuile;
     }
@@ -32,6 +41,7 @@ void Tuiles::afficher(std::string_view tiragenet) {
     for (std::size_t i = 0; i < nombre; ++i) {
         tuiles_[i]->texte = i < lettres.size() ? lettres[i] : std::string();
         tuiles_[i]->gauche = gauche_ + static_cast<int>(i) * largeur_;
+        nommer(*tuiles_[i], static_cast<int>(i));
     }
 }
 
