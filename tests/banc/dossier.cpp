@@ -26,6 +26,21 @@ void ecrire(const fs::path& fichier, std::string_view octets) {
         throw fs::filesystem_error("écriture", fichier, std::make_error_code(std::errc::io_error));
 }
 
+/// Gives a file, or the files of a folder, a second name: nothing writes to them. Copies them where
+/// that cannot be.
+void lier(const fs::path& source, const fs::path& but) {
+    if (fs::is_directory(source)) {
+        fs::create_directories(but);
+        for (const auto& fichier : fs::directory_iterator(source))
+            lier(fichier.path(), but / fichier.path().filename());
+        return;
+    }
+    std::error_code impossible;
+    fs::create_hard_link(source, but, impossible);
+    if (impossible)
+        fs::copy_file(source, but);
+}
+
 }  // namespace
 
 Dossier::Dossier() : provisoire_(true) {
@@ -57,7 +72,7 @@ void garnir(const fs::path& dossier, const fs::path& jeu) {
     ecrire(dossier / notes, {});
     for (const auto* nom : {"images", "APP05.WAV"}) {
         if (fs::exists(jeu / nom))
-            fs::copy(jeu / nom, dossier / nom, fs::copy_options::recursive);
+            lier(jeu / nom, dossier / nom);
     }
 }
 

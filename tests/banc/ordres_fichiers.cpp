@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <fstream>
 
 #include "fichier.h"
 #include "ordres.h"
@@ -24,9 +25,10 @@ fs::path chemin(Seance& seance, std::string_view nom) {
 void ecrire(Seance& seance, std::string_view nom, std::string_view octets) {
     const auto fichier = chemin(seance, nom);
     fs::create_directories(fichier.parent_path());
-    common::DisqueReel disque;
-    if (const auto erreur = disque.remplacer(fichier.string(), octets))
-        throw Refus(common::rapportfichier("Écriture", nom, common::raison(erreur)));
+    if (!fs::is_directory(fichier))
+        fs::remove(fichier);  // a picture of the program may have this name too
+    if (!(std::ofstream(fichier, std::ios::binary) << octets).flush())
+        throw Refus("écriture impossible : " + std::string(nom));
 }
 
 std::string ordrefichier(Seance& seance, const Ordre& ordre) {
