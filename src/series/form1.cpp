@@ -1,6 +1,5 @@
 #include "form1.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace series {
@@ -9,12 +8,24 @@ namespace {
 constexpr std::int32_t dixheures = 36000;
 
 const Gabarit gabaritform1{
-    "Form1",       "ENTRAINEMENT AU SCRABBLE - Orvane",
-    "nbftot",      nbboitesform1,
-    nbboitesform1, {5001, 5001, 5001, 2501, 20001, 1001},
-    500001,        Lignesdemots::Paires,
-    true,          "-+(",
-    dixheures,
+    .nom = "Form1",
+    .titre = "ENTRAINEMENT AU SCRABBLE - Orvane",
+    .nbcadres = 3,
+    .nblignes = 5,
+    .nbtirages = nbboitesform1,
+    .nbboites = nbboitesform1,
+    .limiterangees = limiterangeesform1,
+    .comblement = Comblement::Dernier,
+    .longsgardentpolice = true,
+    .nomdesfautes = "nbftot",
+    .enmoinsde = "Eliminer un mot trouvé en moins de",
+    .troptard = "NON",
+    .limites = {5001, 5001, 5001, 2501, 20001, 1001},
+    .limitenotes = 500001,
+    .lignesdemots = Lignesdemots::Paires,
+    .notessurletirage = true,
+    .marquesgardees = "-+(",
+    .limitetotal = dixheures,
 };
 
 }  // namespace
@@ -47,28 +58,9 @@ void Form1::ordonner() {
 
 void Form1::coloration() {
     fond = ui::Couleur(voisins_.menu.fond());
-    for (auto* controle : {Frame1[0], Frame1[2], &chronos.Check1, &chronos.Label1, &chronos.Label2,
-                           &chronos.Label3, &Label4, &Label5, &Label6, &Label7, &Label8, &nbseries,
-                           &score, &police, &tps, &voyant, &fautesaffichees})
-        controle->fond = fond();
-}
-
-int Form1::nombredelaserie() const {
-    return std::min(rangees_.nbmots(), nbboitesform1);
-}
-
-std::int32_t Form1::tempsdeserie() const {
-    return std::int32_t{voisins_.dialog2.tempsparmot} * nbboitesform1;
-}
-
-std::string Form1::tiragedelarangee(int place) const {
-    const int rang = rangee(place);
-    return rang < 0 ? std::string() : rangees_.tirage(rang);
-}
-
-std::size_t Form1::lignedelarangee(int place) const {
-    const int rang = rangee(place);
-    return rang < 0 ? 0 : rangees_.ligne(rang);
+    Formserie::coloration();
+    for (auto* cadre : {Frame1[0], Frame1[2]})
+        cadre->fond = fond();
 }
 
 }  // namespace series

@@ -1,18 +1,21 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
 
 #include "formserie.h"
-#include "rangees.h"
 
 namespace series {
 
 /// Racks of a series on `Form1`.
 inline constexpr int nbboitesform1 = 30;
+/// Most rows of a list.
+inline constexpr std::size_t limiterangeesform1 = 15000;
 /// Different wrong rows that a list can hold (`motsfaux`).
 inline constexpr std::size_t limitemotsfaux = 5001;
 /// Largest sample.
@@ -44,33 +47,27 @@ class Form1 : public Formserie {
   private:
     void ordonner();
 
-    // form1_liste.cpp: the list, the draw, the elimination.
+    // form1_liste.cpp: the list, the criterion.
     void ouvrircritere();
-    void echantillonner();
-    void nouvelleserie() override;
-    void finserie();
-    [[nodiscard]] std::int32_t tempsdeserie() const override;
-    [[nodiscard]] std::string tiragedelarangee(int place) const override;
-    [[nodiscard]] std::size_t lignedelarangee(int place) const override;
+    [[nodiscard]] int tailleechantillon() const;
+    [[nodiscard]] std::string lignedelaliste(int rang) const override;
     void changercritere();
     void fixercritere(bool secondes);
 
     // form1_saisie.cpp: focus, keys, the second line of entry.
     void branchersaisie();
-    void quitterboite(int rang);
-    void suivante();
-    void toucheboite(int rang, ui::Touche& touche);
-    void validerrecherche();
-    void juger(int rang, std::string_view motsijuste);
+    [[nodiscard]] std::optional<int> boitevoisine(int rang, int code) const override;
+    void rendreletirage(int place) override;
+    void jugerboite(int rang) override { juger(rang, "OK"); }
+    void juger(int rang, std::string_view atemps);
 
     // form1_correction.cpp: marks, notes, judgement, wrong rows.
     void corrigerserie() override;
     void marquer(int nombre);
     void noter(int nombre);
     int jugerreponses(int nombre);
-    void compterfaute(int rang, std::vector<std::string>& fautes);
-    void garderfautes(const std::vector<std::string>& fautes, const std::vector<int>& boites);
-    void ouvrirmenumot(int rang, const ui::Controle& boite);
+    void montrerfaute(int rang);
+    void ouvrirmenu(int rang, const ui::Controle& boite);
 
     // form1_ecran.cpp: the two layouts.
     void disposer();
@@ -79,11 +76,7 @@ class Form1 : public Formserie {
     void rangernotes(bool listefinie) override;
     void placercritere();
 
-    /// Racks of the running series.
-    [[nodiscard]] int nombredelaserie() const;
-
     ui::Controle& Command6;
-    Rangees rangees_;
     std::int32_t nbmotsinitial_ = 0;
     std::unordered_set<std::string> motsfaux_;  ///< rows answered wrong in this list
     bool modecompact_ = false;

@@ -1,12 +1,11 @@
 // Form1: the correction of a series, the wrong rows and the word menu.
 
-#include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "faute.h"
 #include "fichier.h"
 #include "form1.h"
-#include "revision.h"
 #include "texte.h"
 
 namespace series {
@@ -42,10 +41,7 @@ std::vector<std::string> motsdesnotes(std::string_view tirage, std::string_view 
 }
 
 void Form1::corrigerserie() {
-    chronos.arreterserie();
-    chronos.quitterboite();
-    chronos.temps.fond = ui::couleurs::juste;
-    restart.actif = true;
+    arreterserie();
     const int nombre = nombredelaserie();
     if (rangee(derniereboite_) >= 0)
         tirage[static_cast<std::size_t>(derniereboite_)]->texte = tiragedelarangee(derniereboite_);
@@ -53,11 +49,7 @@ void Form1::corrigerserie() {
     noter(nombre);
     if (criteresecondes() && nombre > 0)
         juger(nombre - 1, "OUI");
-    corriger.actif = false;
-    for (auto* boite : tirage)
-        boite->fond = ui::couleurs::tirageaurepos;
-    for (auto* boite : solution)
-        boite->pressepapiers = false;
+    fermersaisie();
     const int justes = jugerreponses(nombre);
     if (criteresecondes()) {
         for (int i = 0; i < nombre; ++i)
@@ -65,15 +57,15 @@ void Form1::corrigerserie() {
                 rangees_.eliminer(rangee(i));
     }
     afficherscore(justes, nombre);
-    fautesaffichees.texte = std::to_string(motsfaux_.size());
-    finserie();
+    const auto fautes = static_cast<std::int64_t>(motsfaux_.size());
+    fautesaffichees.texte = std::to_string(fautes);
+    finserie(nbmotsinitial_, fautes);
 }
 
 void Form1::marquer(int nombre) {
     std::vector<std::string> mots;
-    mots.reserve(static_cast<std::size_t>(nombre));
     for (int i = 0; i < nombre; ++i)
-        mots.push_back(rangees_.solution(rangee(i)));
+        mots.push_back(rangees_.suite(rangee(i)));
     marques.montrer(mots);
 }
 
@@ -84,47 +76,55 @@ void Form1::noter(int nombre) {
     std::vector<std::string> mots;
     std::vector<int> boites;
     for (int i = 0; i < nombre && !sansnotes; ++i) {
-        auto motsdelarangee = motsdesnotes(tiragedelarangee(i), rangees_.solution(rangee(i)),
-                                           menu.typ, Label7.texte());
+        auto motsdelarangee =
+            motsdesnotes(tiragedelarangee(i), rangees_.suite(rangee(i)), menu.typ, Label7.texte());
         if (motsdelarangee.size() > limitevariantes) {
             throw common::Faute(common::rapportligne(
-                action, fich_, lignedelarangee(i),
+                action, fich_, lignedufichier(i),
                 "la solution d'un tirage à joker a trop de lettres ; la limite est de " +
                     std::to_string(limitevariantes)));
         }
         boites.insert(boites.end(), motsdelarangee.size(), i);
         std::move(motsdelarangee.begin(), motsdelarangee.end(), std::back_inserter(mots));
     }
-    montrernotes(cherchernotes(plateforme().disque(), fichierdesnotes, gabarit_.limitenotes,
-                               gabarit_.lignesdemots, Recherche(mots)),
-                 boites, mots);
+    montrernotes(mots, boites);
 }
 
 /// Colours each answer, counts and eliminates; the number of right ones.
 int Form1::jugerreponses(int nombre) {
     int justes = 0;
-    std::vector<std::string> fautes;
-    std::vector<int> boites;
-    const bool succes = !criteresecondes();
-    for (int i = 0; i < nombre; ++i) {
+    std::vector<Ratee> ratees;
+    int i = 0;
+    for (; i < nombre; ++i) {
         auto& reponse = *solution[static_cast<std::size_t>(i)];
-        if (reponse.texte() == rangees_.solution(rangee(i))) {
+        const auto mot = rangees_.suite(rangee(i));
+        if (reponse.texte() == mot) {
             reponse.fond = ui::couleurs::juste;
             ++justes;
-            if (succes && seuil() <= rangees_.reussir(rangee(i)))
+            if (!criteresecondes() && seuil() <= rangees_.reussir(rangee(i)))
                 rangees_.eliminer(rangee(i));
             continue;
         }
-        compterfaute(i, fautes);
-        boites.push_back(i);
+        auto ligne = tirage[static_cast<std::size_t>(i)]->texte() + ";" + mot;
+        if (motsfaux_.size() == limitemotsfaux && !motsfaux_.contains(ligne))
+            break;
+        montrerfaute(i);
+        motsfaux_.insert(ligne);
+        ratees.push_back({i, std::move(ligne)});
     }
     if (erreursaurevision())
-        garderfautes(fautes, boites);
+        garderenrevision(ratees);
+    if (i < nombre) {
+        throw common::Faute(
+            common::rapportligne(action, fich_, lignedufichier(i),
+                                 "trop de mots faux dans cette liste ; la limite est de " +
+                                     std::to_string(limitemotsfaux)));
+    }
     return justes;
 }
 
-/// Shows a wrong answer with its solution, and counts its row once in the list.
-void Form1::compterfaute(int rang, std::vector<std::string>& fautes) {
+/// Shows a wrong answer, or none, with the solution.
+void Form1::montrerfaute(int rang) {
     auto& reponse = *solution[static_cast<std::size_t>(rang)];
     auto& rack = *tirage[static_cast<std::size_t>(rang)];
     reponse.fond = ui::couleurs::faux;
@@ -137,45 +137,14 @@ void Form1::compterfaute(int rang, std::vector<std::string>& fautes) {
         reponse.infobulle = "Tirage: " + rack.texte();
         reponse.barre = true;
     }
-    const auto mot = rangees_.solution(rangee(rang));
-    fautes.push_back(rack.texte() + ";" + mot);
-    if (!motsfaux_.contains(fautes.back()) && motsfaux_.size() == limitemotsfaux) {
-        throw common::Faute(
-            common::rapportligne(action, fich_, lignedelarangee(rang),
-                                 "trop de mots faux dans cette liste ; la limite est de " +
-                                     std::to_string(limitemotsfaux)));
-    }
-    motsfaux_.insert(fautes.back());
-    rack.texte = mot;
+    rack.texte = rangees_.suite(rangee(rang));
     rack.fond = ui::couleurs::juste;
 }
 
-/// Appends the wrong rows that the revision file lacks, `fautes[i]` being the row of `boites[i]`.
-void Form1::garderfautes(const std::vector<std::string>& fautes, const std::vector<int>& boites) {
-    if (fautes.empty())
-        return;
-    const auto chemin = getnomfichierderev();
-    const auto presentes = presentsenrevision(plateforme().disque(), chemin, fautes);
-    std::vector<std::string> nouvelles;
-    for (std::size_t i = 0; i < fautes.size(); ++i) {
-        const bool deja = presentes[i] || std::find(nouvelles.begin(), nouvelles.end(),
-                                                    fautes[i]) != nouvelles.end();
-        if (deja)
-            continue;
-        nouvelles.push_back(fautes[i]);
-        enrevision_[static_cast<std::size_t>(boites[i])] = true;
-    }
-    ajouterenrevision(plateforme().disque(), chemin, nouvelles);
-}
-
-void Form1::ouvrirmenumot(int rang, const ui::Controle& boite) {
-    derniereboite_ = rang;
-    if (serieouverte() || boite.texte().empty() || rangee(rang) < 0)
-        return;
-    const auto place = static_cast<std::size_t>(rang);
-    menumot.surrevision = [this, place](bool dedans) { enrevision_[place] = dedans; };
-    const bool definition = boite.fond() == ui::couleurs::juste && voisins_.form3.typ != "rallong";
-    menumot.ouvrir({boite.texte(), ligneboite_[place], definition, enrevision_[place]});
+/// A definition is offered for the box that shows the right word.
+void Form1::ouvrirmenu(int rang, const ui::Controle& boite) {
+    const bool juste = boite.fond() == ui::couleurs::juste;
+    ouvrirmenumot(rang, boite, boite.texte(), juste && voisins_.form3.typ != "rallong");
 }
 
 }  // namespace series

@@ -7,15 +7,11 @@ namespace series {
 
 void Form1::branchersaisie() {
     for (int i = 0; i < nbboitesform1; ++i) {
-        auto& reponse = *solution[static_cast<std::size_t>(i)];
-        auto& rack = *tirage[static_cast<std::size_t>(i)];
-        reponse.sortie = [this, i] { quitterboite(i); };
-        reponse.toucheenfoncee = [this, i](ui::Touche& touche) { toucheboite(i, touche); };
-        reponse.doubleclic = [this, i, &reponse] { ouvrirmenumot(i, reponse); };
-        rack.doubleclic = [this, i, &rack] { ouvrirmenumot(i, rack); };
+        for (auto* boites : {&tirage, &solution}) {
+            auto& boite = *(*boites)[static_cast<std::size_t>(i)];
+            boite.doubleclic = [this, i, &boite] { ouvrirmenu(i, boite); };
+        }
     }
-    Command2.clic = [this] { suivante(); };
-    valider.clic = [this] { validerrecherche(); };
     recherche.change = [this] {
         const auto limite = common::longueur(tirage[static_cast<std::size_t>(boite_)]->texte());
         if (voisins_.form3.typ == "rallong" || common::longueur(recherche.texte()) <= limite)
@@ -31,73 +27,34 @@ void Form1::branchersaisie() {
         peindreautres(boite_);
         peindrecourante(boite_);
     };
-    recherche.clic = [this] {
-        mettredefaut(valider);
-        if (!serieouverte())
-            return;
-        tirage[0]->fond = ui::couleurs::tirageaurepos;
-        solution[0]->fond = ui::couleurs::courante;
-    };
+    recherche.clic = [this] { cliquerrecherche(0); };
 }
 
-void Form1::suivante() {
-    focaliserboite((boite_ + 1) % nbboitesform1);
-}
-
-void Form1::toucheboite(int rang, ui::Touche& touche) {
-    switch (touche.code) {
+std::optional<int> Form1::boitevoisine(int rang, int code) const {
+    switch (code) {
+        case ui::touches::entree:
         case ui::touches::bas:
-            suivante();
-            touche.avalee = true;
-            break;
+            return (rang + 1) % nbboitesform1;
         case ui::touches::haut:
-            focaliserboite((rang + nbboitesform1 - 1) % nbboitesform1);
-            touche.avalee = true;
-            break;
-        case ui::touches::suppr:
-            touche.avalee = !serieouverte();
-            break;
+            return (rang + nbboitesform1 - 1) % nbboitesform1;
         default:
-            break;
+            return std::nullopt;
     }
 }
 
-void Form1::quitterboite(int rang) {
-    chronos.quitterboite();
-    auto& rack = *tirage[static_cast<std::size_t>(rang)];
-    if (saisieassistee()) {
-        if (rangee(rang) >= 0)
-            rack.texte = tiragedelarangee(rang);
-        else if (!lettres_.tiragenet().empty())
-            rack.texte = lettres_.tiragenet();
-    }
-    if (rangee(rang) < 0 || !serieouverte())
-        return;
-    if (criteresecondes())
-        juger(rang, "OK");
-    peindreaurepos(rang);
+void Form1::rendreletirage(int place) {
+    auto& rack = *tirage[static_cast<std::size_t>(place)];
+    if (rangee(place) >= 0)
+        rack.texte = tiragedelarangee(place);
+    else if (!lettres_.tiragenet().empty())
+        rack.texte = lettres_.tiragenet();
 }
 
-/// The seconds criterion: a box passes if it is right and was left in time; once failed, it stays
-/// failed in this series.
-void Form1::juger(int rang, std::string_view motsijuste) {
-    const auto place = static_cast<std::size_t>(rang);
-    const bool bon =
-        seuil() > chronos.tempsmot() && solution[place]->texte() == rangees_.solution(rangee(rang));
-    if (bon && rapide_[place] == 0)
-        return;
-    rapide_[place] = bon ? 1 : 0;
-    voyant.texte = bon ? std::string(motsijuste) : "NON";
-}
-
-void Form1::validerrecherche() {
-    auto& reponse = *solution[static_cast<std::size_t>(boite_)];
-    if (serieouverte())
-        reponse.texte = recherche.texte();
-    recherche.texte = "";
-    donnerfocus(reponse);
-    suivante();
-    donnerfocus(recherche);
+/// A box passes if it is right and was left in time.
+void Form1::juger(int rang, std::string_view atemps) {
+    const bool juste =
+        solution[static_cast<std::size_t>(rang)]->texte() == rangees_.suite(rangee(rang));
+    retenirrapide(rang, juste && seuil() > chronos.tempsmot(), atemps);
 }
 
 }  // namespace series

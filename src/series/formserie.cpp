@@ -1,28 +1,17 @@
 #include "formserie.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
-#include "hist.h"
-#include "nombre.h"
 #include "polices.h"
-#include "revision.h"
 
 namespace series {
 namespace {
 
-constexpr std::string_view sonduliste = "APP05.WAV";
-constexpr std::string_view bravo = "BRAVO!";
 constexpr std::string_view aucuneserie = "0 série déjà réalisée";
 
 std::string numerote(std::string_view quoi, std::size_t rang) {
     return std::string(quoi) + " " + std::to_string(rang + 1);
-}
-
-void annoter(ui::Controle& boite, const std::string& note) {
-    boite.infobulle = note;
-    boite.pointeur = ui::Pointeur::Texte;
 }
 
 }  // namespace
@@ -31,13 +20,11 @@ Formserie::Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const
     : Formulaire(plateforme, std::string(gabarit.nom)),
       voisins_(voisins),
       gabarit_(gabarit),
-      rangboite_(static_cast<std::size_t>(gabarit.nbtirages), -1),
-      ligneboite_(rangboite_.size()),
-      enrevision_(rangboite_.size(), false),
+      rangees_(gabarit.limiterangees),
       rapide_(static_cast<std::size_t>(gabarit.nbboites), -1),
       boitesutiles_(gabarit.nbboites),
-      Frame1(rangerde(ui::Genre::Cadre, "Frame1", 3)),
-      lignes(rangerde(ui::Genre::Ligne, "Line", 5, 1)),
+      Frame1(rangerde(ui::Genre::Cadre, "Frame1", gabarit.nbcadres)),
+      lignes(rangerde(ui::Genre::Ligne, "Line", gabarit.nblignes, 1)),
       tirage(rangerde(ui::Genre::Boite, "tirage", gabarit.nbtirages)),
       solution(rangerde(ui::Genre::Boite, "solution", gabarit.nbboites)),
       Label7(ajouter(ui::Genre::Etiquette, "Label7")),
@@ -66,12 +53,17 @@ Formserie::Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const
       police(ajouter(ui::Genre::Etiquette, "police")),
       marques(*this, solution.size(), gabarit.limites),
       InfoSourisText(ajouter(ui::Genre::Boite, "InfoSourisText")),
-      menumot(*this) {
+      menumot(*this),
+      rangboite_(tirage.size(), -1),
+      lignesdufichier_(tirage.size()),
+      ligneboite_(tirage.size()),
+      enrevision_(tirage.size(), false) {
     texte = std::string(gabarit.titre);
     habillerboites();
     habillerpanneaux();
     brancher();
     brancherboites();
+    brancherrecherche();
 }
 
 std::vector<ui::Controle*> Formserie::rangerde(ui::Genre genre, std::string_view nomcommun,
@@ -96,7 +88,14 @@ void Formserie::charger() {
         boite->pointeur = ui::Pointeur::Fleche;
     for (auto* boite : solution)
         boite->pointeur = ui::Pointeur::Fleche;
-    chronos.donner(tempsdeserie());
+    initchrono();
+}
+
+void Formserie::coloration() {
+    for (auto* controle :
+         {&chronos.Check1, &chronos.Label1, &chronos.Label2, &chronos.Label3, &Label4, &Label5,
+          &Label6, &Label7, &Label8, &nbseries, &score, &police, &tps, &voyant, &fautesaffichees})
+        controle->fond = fond();
 }
 
 void Formserie::habillerboites() {
@@ -155,7 +154,8 @@ void Formserie::habillerpanneaux() {
     Command2.focalisable = false;
     InfoSourisText.multiligne = true;
     motsleft.aspect = ui::Aspect::Horloge;
-    corriger.aspect = ui::Aspect::Principal;
+    for (auto* bouton : {&corriger, &restart})
+        bouton->aspect = ui::Aspect::Principal;
     Label7.aspect = ui::Aspect::Titre;
     for (auto* resultat : {&score, &tps}) {
         resultat->gras = true;
@@ -192,137 +192,27 @@ void Formserie::brancher() {
     chronos.serieouverte = [this] { return serieouverte(); };
     chronos.surpause = [this](bool pause) {
         recherche.actif = !pause;
-        for (int i = 0; i < boitesutiles_; ++i)
-            solution[static_cast<std::size_t>(i)]->verrou = pause;
+        for (int i = 0; i < gabarit_.nbboites; ++i)
+            solution[static_cast<std::size_t>(i)]->verrou = pause && i < boitesutiles_;
     };
     menumot.fichier = [this] { return getnomfichierderev(); };
 }
 
-std::string Formserie::getnomfichierderev() const {
-    return nomfichierderevision(fich_, voisins_.form3.toue, voisins_.form3.util);
+std::vector<ui::Controle*> Formserie::boitesvisibles() const {
+    auto boites = tirage;
+    boites.insert(boites.end(), solution.begin(), solution.begin() + boitesutiles_);
+    return boites;
 }
 
 void Formserie::changerpolice() {
     const bool droite = numpolice_ >= 3;  // the last two fonts are set upright
-    for (auto* boites : {&tirage, &solution}) {
-        for (auto* boite : *boites) {
-            boite->police = std::string(cycledespolices[numpolice_]);
-            if (droite)
-                boite->italique = false;
-        }
+    for (auto* boite : boitesvisibles()) {
+        boite->police = std::string(cycledespolices[numpolice_]);
+        if (droite)
+            boite->italique = false;
     }
     numpolice_ = (numpolice_ + 1) % cycledespolices.size();
     police.texte = std::to_string(numpolice_ + 1);
-}
-
-double Formserie::seuil() const {
-    return common::valeur(seuiltxt.texte());
-}
-
-bool Formserie::criterelibre() const {
-    return voisins_.form3.toue == "R" || voisins_.menu.app();
-}
-
-bool Formserie::erreursaurevision() const {
-    return voisins_.form3.toue != "R" && !voisins_.menu.app();
-}
-
-void Formserie::effacerserie(int nbmots) {
-    marques.cacher();
-    for (auto* boites : {&tirage, &solution}) {
-        for (auto* boite : *boites) {
-            boite->infobulle = "";
-            boite->pointeur = ui::Pointeur::Fleche;
-        }
-    }
-    motsleft.texte = std::to_string(nbmots);
-    for (auto* resultat : {&score, &tps, &InfoSourisText})
-        resultat->visible = false;
-    InfoSourisText.texte = "";
-    if (chronos.enpause())
-        chronos.basculerpause();
-}
-
-void Formserie::prendrerevisions(std::vector<std::string> lignesdelaserie) {
-    std::fill(enrevision_.begin(), enrevision_.end(), false);
-    const auto presents =
-        presentsenrevision(plateforme().disque(), getnomfichierderev(), lignesdelaserie);
-    std::copy(presents.begin(), presents.end(), enrevision_.begin());
-    std::move(lignesdelaserie.begin(), lignesdelaserie.end(), ligneboite_.begin());
-}
-
-void Formserie::ouvrirserie() {
-    pointeur = ui::Pointeur::Normal;
-    seuiltxt.fond = ui::Couleur::fenetre();
-    for (auto* boite : solution)
-        boite->pressepapiers = true;
-    corriger.actif = true;
-    restart.actif = false;
-    lettres_.annoncer("");
-    // By way of the clock, so that box 0 is entered even if it has the focus.
-    donnerfocus(chronos.temps);
-    focaliserboite(0);
-    chronos.temps.fond = ui::Couleur::fenetre();
-    chronos.donner(tempsdeserie());
-    chronos.lancer();
-}
-
-void Formserie::afficherscore(int justes, int tirages) {
-    score.texte = std::to_string(justes) + "/" + std::to_string(tirages);
-    score.visible = true;
-    nbseriesfaites_ =
-        common::entier16(std::int64_t{nbseriesfaites_} + 1, "Nombre de séries réalisées");
-    nbseries.texte = std::to_string(nbseriesfaites_) + " série(s) déjà réalisée(s).";
-    tps.texte = chronos.utilise();
-    tps.visible = true;
-}
-
-void Formserie::montrernotes(std::span<const Note> notes, std::span<const int> boites,
-                             std::span<const std::string> mots) {
-    if (notes.empty())
-        return;
-    std::vector<const Note*> parboite;
-    for (const auto& note : notes)
-        parboite.push_back(&note);
-    const auto boite = [&](const Note* note) { return boites[note->mot]; };
-    std::stable_sort(parboite.begin(), parboite.end(),
-                     [&](const Note* a, const Note* b) { return boite(a) < boite(b); });
-    std::string textedesnotes;
-    for (const auto* note : parboite) {
-        const auto rang = static_cast<std::size_t>(boite(note));
-        annoter(*solution[rang], note->texte);
-        if (gabarit_.notessurletirage)
-            annoter(*tirage[rang % tirage.size()], note->texte);
-        textedesnotes += mots[note->mot] + " " + note->texte + "\n";
-    }
-    InfoSourisText.texte = textedesnotes;
-    InfoSourisText.visible = true;
-    InfoSourisText.premierplan();
-}
-
-void Formserie::finirliste(std::int64_t base, std::int64_t fautes) {
-    chronos.arretertotal();
-    chronos.tempstot.fond = ui::couleurs::juste;
-    const auto& menu = voisins_.form3;
-    if (base != 0) {
-        const auto pourc = profiles::pourcentage(base, fautes);
-        fautesaffichees.texte = fautesaffichees.texte() + " - " + common::textenombre(pourc) + " %";
-        const auto nom = profiles::nomcourt(fich_, menu.toue, menu.util);
-        profiles::ajouterhist(
-            plateforme().disque(), menu.util,
-            profiles::enregistrement(plateforme().maintenant(), pourc, menu.toue, nom));
-    }
-    tuiles.peindre(ui::couleurs::faux);
-    motsleft.texte = "0";
-    lettres_.annoncer(bravo);
-    afficherlettres();
-    if (InfoSourisText.visible())
-        rangernotes(true);
-    restart.actif = false;
-    plateforme().laissercourir();
-    if (voisins_.options.check1())
-        plateforme().jouerson(sonduliste);
-    quitter.fond = ui::couleurs::tuile;
 }
 
 void Formserie::quitterserie() {
@@ -330,7 +220,7 @@ void Formserie::quitterserie() {
     chronos.quitterboite();
     tuiles.peindre(ui::couleurs::tuile);
     rangernotes(false);
-    chronos.donner(tempsdeserie());
+    initchrono();
     chronos.remettretotal();
     nbseriesfaites_ = 0;
     tuiles.oublier();
@@ -344,17 +234,12 @@ void Formserie::quitterserie() {
 
 void Formserie::reglerpolices(std::size_t longueur) {
     const bool longs = longueur > longueurgrandetaille;
-    for (auto* boites : {&tirage, &solution}) {
-        for (auto* boite : *boites)
-            boite->taille = longs ? petitetaille : grandetaille;
+    for (auto* boite : boitesvisibles()) {
+        boite->taille = longs ? petitetaille : grandetaille;
+        const bool rack = boite->nom() == tirage.front()->nom();
+        if (rack || !longs || !gabarit_.longsgardentpolice)
+            boite->police = std::string(policedesseries);
     }
-    for (auto* boite : tirage)
-        boite->police = std::string(policedesseries);
-    // With long racks the answers keep the font that they had.
-    if (longs)
-        return;
-    for (auto* boite : solution)
-        boite->police = std::string(policedesseries);
 }
 
 }  // namespace series

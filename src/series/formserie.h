@@ -17,18 +17,27 @@
 #include "lettres.h"
 #include "marques.h"
 #include "menumot.h"
+#include "rangees.h"
 #include "reference.h"
+#include "tirage.h"
 #include "tuiles.h"
 
 namespace series {
 
 /// What tells the two forms apart in the pieces that they share.
 struct Gabarit {
-    std::string_view nom;             ///< design name of the form
-    std::string_view titre;           ///< of the window
-    std::string_view nomdesfautes;    ///< design name of the label of faults
+    std::string_view nom;    ///< design name of the form
+    std::string_view titre;  ///< of the window
+    int nbcadres = 0;        ///< frames and lines of the decoration
+    int nblignes = 0;
     int nbtirages = 0;                ///< racks on screen; box i belongs to rack i modulo this
     int nbboites = 0;                 ///< answer boxes, at most
+    std::size_t limiterangees = 0;    ///< most rows of a list
+    Comblement comblement{};          ///< of the draw of a series
+    bool longsgardentpolice = false;  ///< with long racks the answers keep the font that they had
+    std::string_view nomdesfautes;    ///< design name of the label of faults
+    std::string_view enmoinsde;       ///< `Label5` under the seconds criterion
+    std::string_view troptard;        ///< what `voyant` says of a failure under that criterion
     Limites limites{};                ///< most items of each reference list
     std::size_t limitenotes = 0;      ///< most lines of the notes
     Lignesdemots lignesdemots{};      ///< which lines of the notes are compared
@@ -41,8 +50,8 @@ class Formserie : public ui::Formulaire {
   public:
     /// The load operation, once per run of the program.
     virtual void charger();
-    /// Brings the labels to the background colour.
-    virtual void coloration() = 0;
+    /// Brings the labels to the background colour of the form.
+    virtual void coloration();
     /// Loads a list and draws its first series.
     virtual void commencer(std::string_view chemin) = 0;
     /// Path of the revision file of the running list.
@@ -53,16 +62,28 @@ class Formserie : public ui::Formulaire {
   protected:
     Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const Gabarit& gabarit);
 
+    /// A rack answered wrong in a series, and its row in list format.
+    struct Ratee {
+        int place = 0;
+        std::string ligne;
+    };
+
     // What each form has its own rules for.
-    virtual void nouvelleserie() = 0;
     virtual void corrigerserie() = 0;
-    /// Seconds given to a series.
-    [[nodiscard]] virtual std::int32_t tempsdeserie() const = 0;
-    /// Rack, in the list, of the row at a rack place; what a place without a row gives is the
-    /// form's own affair.
-    [[nodiscard]] virtual std::string tiragedelarangee(int place) const = 0;
-    /// Line of that row in the list's file, 0 if there is none.
-    [[nodiscard]] virtual std::size_t lignedelarangee(int place) const = 0;
+    /// A row as the revision file has it.
+    [[nodiscard]] virtual std::string lignedelaliste(int rang) const = 0;
+    /// The box to which a key leads from a box; none for a key that does not move.
+    [[nodiscard]] virtual std::optional<int> boitevoisine(int rang, int code) const = 0;
+    /// The rack whose letters an answer may take.
+    [[nodiscard]] virtual std::string tirageasaisir(int place) const {
+        return tiragedelarangee(place);
+    }
+    /// Gives a rack back the letters that assisted entry took off it.
+    virtual void rendreletirage(int place) = 0;
+    /// There is a rack to judge at this place.
+    [[nodiscard]] virtual bool occupee(int place) const { return rangee(place) >= 0; }
+    /// The seconds criterion, at the departure from a box.
+    virtual void jugerboite(int rang) = 0;
     /// Puts the notes where they stand while a list runs (false) or once it is done (true).
     virtual void rangernotes(bool listefinie) = 0;
 
@@ -73,57 +94,79 @@ class Formserie : public ui::Formulaire {
     /// Rebuilds the pool and the rack from what its box holds, under assisted entry.
     void recalculerlettres(int rang);
     [[nodiscard]] bool saisieassistee() const;
-    /// The focus has come to an answer box.
-    void entrerboite(int rang);
-    /// A character typed in an answer box.
-    void frapper(int rang, int& code);
     void peindrecourante(int rang);
     void peindreaurepos(int rang);
     /// All boxes in use but one, and all racks but its own, at rest.
     void peindreautres(int rang);
-    /// Gives the focus to a box.
-    void focaliserboite(int rang) { donnerfocus(*solution[static_cast<std::size_t>(rang)]); }
+    /// A click in the second line of entry: the first rack at rest, this box in the current colour.
+    void cliquerrecherche(int rang);
 
-    // The series and the list.
+    // The list.
+    /// Takes a list's rows, for a run that starts.
+    void ouvrirliste(std::string_view chemin);
+    /// Keeps only so many rows, drawn by chance.
+    void echantillonner(int taille);
+    void nouvelleserie();
+    /// Takes the eliminated rows out. With none left it closes the list: percent of `base` less
+    /// the faults (none if `base` is 0), record, sound; leaving is all that is left.
+    void finserie(std::int64_t base, std::int64_t fautes);
+    /// Racks of the running series.
+    [[nodiscard]] int nombredelaserie() const;
     [[nodiscard]] int placede(int rang) const { return rang % gabarit_.nbtirages; }
+    /// Row shown at a rack place, -1 for none.
     [[nodiscard]] int rangee(int place) const {
         return rangboite_[static_cast<std::size_t>(place)];
     }
-    [[nodiscard]] bool serieouverte() const { return corriger.actif(); }
+    /// Rack, in the list, of that row; empty for none.
+    [[nodiscard]] std::string tiragedelarangee(int place) const;
+    /// Line of that row in the list's file, 0 for none.
+    [[nodiscard]] std::size_t lignedufichier(int place) const {
+        return lignesdufichier_[static_cast<std::size_t>(place)];
+    }
+    /// Seconds given to a series.
+    [[nodiscard]] std::int32_t tempsdeserie() const;
+    /// The series clock at its start, and only the boxes in use on screen.
+    void initchrono();
+    /// Font and size of the boxes, from the longest rack of a list.
+    void reglerpolices(std::size_t longueur);
+
+    // The criterion of elimination.
     [[nodiscard]] bool criteresecondes() const { return Label6.texte().starts_with('s'); }
+    /// Words the criterion.
+    void libellercritere(bool secondes);
     /// Numeric value of the threshold.
     [[nodiscard]] double seuil() const;
     /// The user may set the criterion: a revision run, or the menu's "Apprentissage" is ticked.
     [[nodiscard]] bool criterelibre() const;
+    /// Takes a judgement of the seconds criterion: once failed, a box stays failed in this series.
+    void retenirrapide(int rang, bool bon, std::string_view atemps);
+
+    // The correction.
+    [[nodiscard]] bool serieouverte() const { return corriger.actif(); }
+    /// Stops the clocks of the series; the next one may be drawn.
+    void arreterserie();
+    /// No answer can be changed any more; all racks at rest.
+    void fermersaisie();
     /// Missed rows go to the revision file by themselves.
     [[nodiscard]] bool erreursaurevision() const;
-    /// Hides marks, notes and results, empties hover texts, and ends a pause.
-    void effacerserie(int nbmots);
-    /// Looks the rows of the series up in the revision file.
-    void prendrerevisions(std::vector<std::string> lignes);
-    /// Opens the series that has been drawn: entry, focus and clocks.
-    void ouvrirserie();
+    /// Appends the rows that the revision file lacks, in one write.
+    void garderenrevision(std::span<const Ratee> ratees);
     /// Shows what a correction counted, and the time that the series took.
     void afficherscore(int justes, int tirages);
     /// Adds the notes to their boxes and to the text of notes; `boites[i]` is the box of word i.
-    void montrernotes(std::span<const Note> notes, std::span<const int> boites,
-                      std::span<const std::string> mots);
-    /// Closes the list: percent over `base` (none if it is 0), record, sound; leaving is all that
-    /// is left.
-    void finirliste(std::int64_t base, std::int64_t fautes);
-    /// Font and size of the boxes, from the longest rack of a list.
-    void reglerpolices(std::size_t longueur);
+    void montrernotes(std::span<const std::string> mots, std::span<const int> boites);
+    /// Opens the word menu on the row of a rack place, if the series is corrected and the box that
+    /// was clicked holds text.
+    void ouvrirmenumot(int place, const ui::Controle& boite, std::string_view mot, bool definition);
 
     common::Voisins& voisins_;
     Gabarit gabarit_;
     std::string fich_;
-    std::vector<int> rangboite_;           ///< by rack place: the row shown, -1 for none
-    std::vector<std::string> ligneboite_;  ///< by rack place: that row in list format
-    std::vector<bool> enrevision_;         ///< by rack place: that row is in the revision file
-    std::vector<int> rapide_;              ///< by box: -1 not judged, 0 failed, 1 passed in time
-    int boitesutiles_;                     ///< boxes in use by this list
-    int boite_ = 0;                        ///< box that has the focus, or had it last
-    int derniereboite_ = 0;                ///< box last entered or double-clicked
+    Rangees rangees_;
+    std::vector<int> rapide_;  ///< by box: -1 not judged, 0 failed, 1 passed in time
+    int boitesutiles_;         ///< boxes in use by this list
+    int boite_ = 0;            ///< box that has the focus, or had it last
+    int derniereboite_ = 0;    ///< box last entered or double-clicked
     Lettres lettres_;
 
     std::vector<ui::Controle*> Frame1;
@@ -164,10 +207,31 @@ class Formserie : public ui::Formulaire {
     void habillerboites();
     void habillerpanneaux();
     void brancher();
-    void brancherboites();
+    /// The racks and the answer boxes in use.
+    [[nodiscard]] std::vector<ui::Controle*> boitesvisibles() const;
     void changerpolice();
     void quitterserie();
 
+    void brancherboites();
+    void brancherrecherche();
+    void entrerboite(int rang);
+    void quitterboite(int rang);
+    void frapper(int rang, int& code);
+    void toucheboite(int rang, ui::Touche& touche);
+    void suivante();
+    void validerrecherche();
+    void focaliserboite(int rang) { donnerfocus(*solution[static_cast<std::size_t>(rang)]); }
+
+    void effacerserie();
+    void tirerrangees();
+    void prendrerevisions();
+    void ouvrirserie();
+    void finirliste(std::int64_t base, std::int64_t fautes);
+
+    std::vector<int> rangboite_;                ///< by rack place: the row shown, -1 for none
+    std::vector<std::size_t> lignesdufichier_;  ///< by rack place: line of that row in the list
+    std::vector<std::string> ligneboite_;       ///< by rack place: that row in list format
+    std::vector<bool> enrevision_;              ///< by rack place: that row is in the revision file
     std::int16_t nbseriesfaites_ = 0;
     std::size_t numpolice_ = 0;  ///< of the next font, from 0
 };

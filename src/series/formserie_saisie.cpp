@@ -1,5 +1,5 @@
 // Entry of answers, as both series forms have it: the pool of letters, the keys that are taken or
-// refused, the colours of the current box.
+// refused, the walk of the focus, the second line of entry, the colours of the current box.
 
 #include <algorithm>
 #include <string>
@@ -12,10 +12,12 @@
 namespace series {
 namespace {
 
-constexpr int minusculea = 'a';
-constexpr int minusculez = 'z';
 constexpr std::string_view benjamins = "Benjamins uniques";
 constexpr std::string_view rallonge = "rallong";
+
+int majuscule(int code) {
+    return code >= 'a' && code <= 'z' ? code - ('a' - 'A') : code;
+}
 
 bool lettre(int code) {
     return code >= 'A' && code <= 'Z';
@@ -44,6 +46,8 @@ void Formserie::brancherboites() {
     for (int i = 0; i < gabarit_.nbboites; ++i) {
         auto& boite = *solution[static_cast<std::size_t>(i)];
         boite.entree = [this, i] { entrerboite(i); };
+        boite.sortie = [this, i] { quitterboite(i); };
+        boite.toucheenfoncee = [this, i](ui::Touche& touche) { toucheboite(i, touche); };
         boite.caractere = [this, i](int& code) { frapper(i, code); };
         boite.toucherelachee = [this, i](int code) {
             const bool efface = code == ui::touches::retour || code == ui::touches::suppr;
@@ -51,10 +55,45 @@ void Formserie::brancherboites() {
                 recalculerlettres(i);
         };
     }
-    recherche.caractere = [](int& code) {
-        if (code >= minusculea && code <= minusculez)
-            code -= 'a' - 'A';
-    };
+    Command2.clic = [this] { suivante(); };
+}
+
+void Formserie::brancherrecherche() {
+    recherche.caractere = [](int& code) { code = majuscule(code); };
+    valider.clic = [this] { validerrecherche(); };
+}
+
+void Formserie::suivante() {
+    if (const auto boite = boitevoisine(boite_, ui::touches::entree))
+        focaliserboite(*boite);
+}
+
+void Formserie::toucheboite(int rang, ui::Touche& touche) {
+    if (touche.code == ui::touches::suppr)
+        touche.avalee = !serieouverte();
+    const auto boite = boitevoisine(rang, touche.code);
+    if (!boite)
+        return;
+    touche.avalee = true;
+    focaliserboite(*boite);
+}
+
+void Formserie::validerrecherche() {
+    auto& reponse = *solution[static_cast<std::size_t>(boite_)];
+    if (serieouverte())
+        reponse.texte = recherche.texte();
+    recherche.texte = "";
+    donnerfocus(reponse);
+    suivante();
+    donnerfocus(recherche);
+}
+
+void Formserie::cliquerrecherche(int rang) {
+    mettredefaut(valider);
+    if (!serieouverte())
+        return;
+    tirage.front()->fond = ui::couleurs::tirageaurepos;
+    solution[static_cast<std::size_t>(rang)]->fond = ui::couleurs::courante;
 }
 
 bool Formserie::saisieassistee() const {
@@ -65,7 +104,7 @@ bool Formserie::saisieassistee() const {
 void Formserie::lirelettres(std::string_view texteduntirage, int place) {
     if (lettres_.lirelettres(texteduntirage))
         return;
-    throw common::Faute(common::rapportligne("Saisie d'une réponse", fich_, lignedelarangee(place),
+    throw common::Faute(common::rapportligne("Saisie d'une réponse", fich_, lignedufichier(place),
                                              "le tirage « " + std::string(texteduntirage) +
                                                  " » a trop de lettres ; la limite est de " +
                                                  std::to_string(Lettres::limite)));
@@ -97,6 +136,18 @@ void Formserie::entrerboite(int rang) {
         recalculerlettres(rang);
 }
 
+void Formserie::quitterboite(int rang) {
+    chronos.quitterboite();
+    const int place = placede(rang);
+    if (saisieassistee())
+        rendreletirage(place);
+    if (!occupee(place) || !serieouverte())
+        return;
+    if (criteresecondes())
+        jugerboite(rang);
+    peindreaurepos(rang);
+}
+
 void Formserie::peindrecourante(int rang) {
     tirage[static_cast<std::size_t>(placede(rang))]->fond = ui::couleurs::juste;
     solution[static_cast<std::size_t>(rang)]->fond = ui::couleurs::courante;
@@ -117,8 +168,7 @@ void Formserie::peindreautres(int rang) {
 }
 
 void Formserie::frapper(int rang, int& code) {
-    if (code >= minusculea && code <= minusculez)
-        code -= 'a' - 'A';
+    code = majuscule(code);
     if (!serieouverte()) {
         if (lettre(code))
             code = 0;
@@ -131,7 +181,7 @@ void Formserie::frapper(int rang, int& code) {
         // The letter will replace the whole answer: the letters of the rack are free again.
         const bool remplace = boite.selection() == common::longueur(boite.texte());
         if (remplace && lettre(code))
-            lirelettres(tiragedelarangee(place), place);
+            lirelettres(tirageasaisir(place), place);
         const auto touchetexte =
             common::utf8(common::caractere1252(static_cast<unsigned char>(code)));
         const bool prise = lettres_.prendre(touchetexte);

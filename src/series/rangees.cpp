@@ -18,7 +18,7 @@ constexpr std::string_view action = "Lecture de la liste";
 std::size_t separateur(std::string_view ligne, std::string_view chemin, std::size_t numero) {
     const auto place = ligne.find(';');
     if (place == std::string_view::npos)
-        mauvaise(chemin, numero, "il manque le « ; » entre le tirage et la solution");
+        mauvaise(chemin, numero, "il manque le « ; » derrière le tirage");
     if (place >= Rangees::positionlimite) {
         mauvaise(chemin, numero,
                  "le « ; » vient trop tard ; la limite est la position " +
@@ -41,8 +41,9 @@ void Rangees::lire(common::Disque& disque, std::string_view chemin) {
             ligne.remove_suffix(1);
         i = saut + 1;
         const auto place = separateur(ligne, chemin, numero);
-        if (numero > limite) {
-            mauvaise(chemin, numero, "trop de lignes ; la limite est de " + std::to_string(limite));
+        if (numero > limite_) {
+            mauvaise(chemin, numero,
+                     "trop de lignes ; la limite est de " + std::to_string(limite_));
         }
         rangees_.push_back({ligne.substr(0, place), ligne.substr(place + 1),
                             static_cast<std::uint32_t>(numero), 0});
@@ -63,13 +64,13 @@ std::string Rangees::tirage(int rang) const {
     return common::depuis1252(rangee(rang).tirage);
 }
 
-std::string Rangees::solution(int rang) const {
-    return common::depuis1252(rangee(rang).solution);
+std::string Rangees::suite(int rang) const {
+    return common::depuis1252(rangee(rang).suite);
 }
 
 void Rangees::eliminer(int rang) {
     rangee(rang).tirage = {};
-    rangee(rang).solution = {};
+    rangee(rang).suite = {};
 }
 
 void Rangees::compacter() {

@@ -1,6 +1,7 @@
 #pragma once
 
-// The row store of `Form1`: racks with one solution. List format: docs/formats.md.
+// The row store of a series form: the rows of a list, each a rack and what follows it. List
+// formats: docs/formats.md.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,14 +14,15 @@
 
 namespace series {
 
-/// The rows of a list: rack, solution and right answers given, aligned. An eliminated row keeps
+/// The rows of a list: rack, solutions and right answers given, aligned. An eliminated row keeps
 /// its place, with empty texts, until `compacter`.
 class Rangees {
   public:
-    /// Most rows of a list.
-    static constexpr std::size_t limite = 15000;
     /// The ";" that ends the rack stands at this position at most (counted from 1).
     static constexpr std::size_t positionlimite = 32767;
+
+    /// `limite`: most rows of a list.
+    explicit Rangees(std::size_t limite) : limite_(limite) {}
 
     /// Reads a list file, replacing all rows. Throws `Faute`, naming the line, on a row without
     /// ";" (an empty line too) and on a row over the limit.
@@ -31,7 +33,10 @@ class Rangees {
     /// Rows in the working set (`nbmots`).
     [[nodiscard]] int nbmots() const { return static_cast<int>(rangees_.size()); }
     [[nodiscard]] std::string tirage(int rang) const;
-    [[nodiscard]] std::string solution(int rang) const;
+    /// What stands behind the rack and its ";": the solution, or the solutions.
+    [[nodiscard]] std::string suite(int rang) const;
+    /// The same as it stands in the file, in bytes of Windows-1252.
+    [[nodiscard]] std::string_view octetsdelasuite(int rang) const { return rangee(rang).suite; }
     /// Line of the row in its file, from 1.
     [[nodiscard]] std::size_t ligne(int rang) const { return rangee(rang).ligne; }
     /// Length in characters of the rack of the last line read, 0 for an empty list.
@@ -46,7 +51,7 @@ class Rangees {
   private:
     struct Rangee {
         std::string_view tirage;  ///< bytes of `octets_`
-        std::string_view solution;
+        std::string_view suite;
         std::uint32_t ligne = 0;
         int reussites = 0;
     };
@@ -55,6 +60,7 @@ class Rangees {
     }
     [[nodiscard]] Rangee& rangee(int rang) { return rangees_.at(static_cast<std::size_t>(rang)); }
 
+    std::size_t limite_;
     std::string octets_;  ///< the file as it stands
     std::vector<Rangee> rangees_;
     std::size_t longueurdernier_ = 0;
