@@ -49,9 +49,8 @@ void Boite::montrer(Champs champs) {
 
 void Boite::composer() {
     const double bord = marge * unite();
-    const auto place = QRectF(rect()).adjusted(bord, margehaute * unite(),
-                                               -bord - margedroite() * unite(),
-                                               -margehaute * unite());
+    const auto place = QRectF(rect()).adjusted(
+        bord, margehaute * unite(), -bord - margedroite() * unite(), -margehaute * unite());
     ligne_.composer(texte(), fonte(), place, controle()->alignement(), *this);
 }
 
@@ -110,10 +109,9 @@ void Boite::paintEvent(QPaintEvent* /*evenement*/) {
                        .survole = underMouse() && !controle()->verrou(),
                        .rayon = horloge ? rayonhorloge : rayoncase});
     }
-    ligne_.peindre(peintre,
-                   isEnabled() ? encreqt(controle()->couleur())
-                               : QColor::fromRgb(teintes::encrepale),
-                   focus);
+    ligne_.peindre(
+        peintre, isEnabled() ? encreqt(controle()->couleur()) : QColor::fromRgb(teintes::encrepale),
+        focus);
     if (focus && !eteint_)
         peintre.fillRect(ligne_.curseur(epaisseurcurseur * unite()),
                          QColor::fromRgb(teintes::encre));
@@ -157,9 +155,8 @@ void Boite::mouseReleaseEvent(QMouseEvent* evenement) {
     if (std::exchange(glisse_, false) && controle()->selection() > 0)
         bloc->setText(versqt(controle()->texteselectionne()), QClipboard::Selection);
     if (evenement->button() == Qt::MiddleButton && bloc->supportsSelection()) {
-        executer([&] {
-            controle()->formulaire().coller(depuisqt(bloc->text(QClipboard::Selection)));
-        });
+        executer(
+            [&] { controle()->formulaire().coller(depuisqt(bloc->text(QClipboard::Selection))); });
     }
 }
 
@@ -185,19 +182,19 @@ void Boite::contextMenuEvent(QContextMenuEvent* evenement) {
                 executer(suite);
         };
     };
-    deroulermenuedition(
-        *this, evenement->globalPos(),
-        {.couper = {libre && controle()->selection() > 0, seulement([this, bloc] {
-                        bloc->setText(versqt(controle()->formulaire().couper()));
-                    })},
-         .copier = {controle()->selection() > 0, seulement([this, bloc] {
-                        bloc->setText(versqt(controle()->texteselectionne()));
-                    })},
-         .coller = {libre && !bloc->text().isEmpty(), seulement([this, bloc] {
-                        controle()->formulaire().coller(depuisqt(bloc->text()));
-                    })},
-         .toutselectionner = {!text().isEmpty(),
-                              seulement([this] { controle()->toutselectionner(); })}});
+    deroulermenuedition(*this, evenement->globalPos(),
+                        {.couper = {libre && controle()->selection() > 0, seulement([this, bloc] {
+                                        bloc->setText(versqt(controle()->formulaire().couper()));
+                                    })},
+                         .copier = {controle()->selection() > 0, seulement([this, bloc] {
+                                        bloc->setText(versqt(controle()->texteselectionne()));
+                                    })},
+                         .coller = {libre && !bloc->text().isEmpty(), seulement([this, bloc] {
+                                        controle()->formulaire().coller(depuisqt(bloc->text()));
+                                    })},
+                         .toutselectionner = {!text().isEmpty(), seulement([this] {
+                                                  controle()->toutselectionner();
+                                              })}});
 }
 
 void Boite::inputMethodEvent(QInputMethodEvent* evenement) {

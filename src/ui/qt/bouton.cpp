@@ -11,13 +11,15 @@
 namespace ui::qt {
 namespace {
 
-constexpr double margelaterale = 6;  // pixels of the design
+constexpr double margelaterale = 6;           // pixels of the design
+constexpr double margeproportionnelle = .12;  // of a small button's width
 constexpr double margeverticale = 2;
 constexpr double lettredetuile = .62;  // of the tile's side
 
-QSizeF place(const QSize& taille, double unite) {
-    return {std::max(1.0, taille.width() - 2 * margelaterale * unite),
-            std::max(1.0, taille.height() - 2 * margeverticale * unite)};
+QSizeF placetexte(const QSize& taille, double unite) {
+    const double l = std::min(margelaterale * unite, margeproportionnelle * taille.width());
+    const double h = std::min(margeverticale * unite, margeproportionnelle / 2 * taille.height());
+    return {std::max(1.0, taille.width() - 2 * l), std::max(1.0, taille.height() - 2 * h)};
 }
 
 }  // namespace
@@ -42,7 +44,7 @@ void Bouton::montrer(Champs champs) {
         const double bord = 2 * margeverticale * unite();
         ajustee_ = ajusterligne(grande, texte(), QSizeF(width() - 2 * bord, height() * 2), *this);
     } else {
-        ajustee_ = ajuster(fonte(), texte(), place(size(), unite()), *this);
+        ajustee_ = ajuster(fonte(), texte(), placetexte(size(), unite()), *this);
     }
 }
 
@@ -70,15 +72,18 @@ void Bouton::paintEvent(QPaintEvent* /*evenement*/) {
     const auto encre =
         dessin::bouton(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()), genre,
                        etat(), encreqt(controle()->couleur()));
-    const double l = margelaterale * unite();
     const double enfonce = isDown() ? unite() : 0;
     peintre.setFont(ajustee_);
     peintre.setPen(encre);
-    peintre.drawText(QRectF(rect()).adjusted(l / 2, enfonce - unite() / 2, -l / 2, enfonce),
+    peintre.drawText(QRectF(rect()).adjusted(0, enfonce - unite() / 2, 0, enfonce),
                      Qt::AlignCenter | Qt::TextWordWrap, texte());
 }
 
 void Bouton::peindretuile(QPainter& peintre) {
+    if (controle()->texte().empty()) {
+        dessin::alveole(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()), etat());
+        return;
+    }
     const auto dessus =
         dessin::tuile(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()), etat());
     peintre.setFont(ajustee_);

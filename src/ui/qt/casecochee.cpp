@@ -33,7 +33,7 @@ QRectF CaseCochee::carre() const {
     return {marge * unite(), (height() - c) / 2, c, c};
 }
 
-QRectF CaseCochee::place() const {
+QRectF CaseCochee::placetexte() const {
     return QRectF(rect()).adjusted(carre().right() + ecart * unite(), 0, -marge * unite(), 0);
 }
 
@@ -41,7 +41,7 @@ void CaseCochee::montrer(Champs champs) {
     if ((champs & ensemble(Champ::Coche)) != 0)
         setChecked(controle()->coche());
     if ((champs & (champsplace | champsfonte | ensemble(Champ::Texte))) != 0)
-        ajustee_ = ajuster(fonte(), texte(), place().size(), *this);
+        ajustee_ = ajuster(fonte(), texte(), placetexte().size(), *this);
 }
 
 void CaseCochee::paintEvent(QPaintEvent* /*evenement*/) {
@@ -60,7 +60,7 @@ void CaseCochee::paintEvent(QPaintEvent* /*evenement*/) {
     peintre.setFont(ajustee_);
     peintre.setPen(isEnabled() ? encreqt(controle()->couleur())
                                : QColor::fromRgb(teintes::encrepale));
-    peintre.drawText(place(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, texte());
+    peintre.drawText(placetexte(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, texte());
     if (alefocus())
         dessin::anneau(peintre, QRectF(rect()), unite(), rayon);
 }

@@ -22,7 +22,7 @@ class CaseCochee : public VueDe<QCheckBox> {
 
   private:
     [[nodiscard]] QRectF carre() const;
-    [[nodiscard]] QRectF place() const;
+    [[nodiscard]] QRectF placetexte() const;
 
     QFont ajustee_;
 };

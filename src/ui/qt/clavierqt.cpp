@@ -73,8 +73,7 @@ std::optional<Frappe> frappe(const QKeyEvent& evenement) {
     f.touche.maj = modificateurs.testFlag(Qt::ShiftModifier) || evenement.key() == Qt::Key_Backtab;
     if (!ctrl || altgr)
         f.caracteres = caracteres(evenement.text());
-    std::erase_if(f.caracteres,
-                  [](char32_t c) { return c < premiervisible || c == effacement; });
+    std::erase_if(f.caracteres, [](char32_t c) { return c < premiervisible || c == effacement; });
     f.touche.ctrl = ctrl && f.caracteres.empty();
     if (altgr && f.caracteres.empty())
         return std::nullopt;

@@ -1,5 +1,8 @@
 #include "decor.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QPainter>
 
 #include "dessin.h"
@@ -24,8 +27,8 @@ void Image::paintEvent(QPaintEvent* /*evenement*/) {
         return;
     QPainter peintre(this);
     const auto taille = vignette.deviceIndependentSize();
-    peintre.drawPixmap(
-        QPointF((width() - taille.width()) / 2, (height() - taille.height()) / 2), vignette);
+    peintre.drawPixmap(QPointF((width() - taille.width()) / 2, (height() - taille.height()) / 2),
+                       vignette);
 }
 
 void Cadre::paintEvent(QPaintEvent* /*evenement*/) {
@@ -43,6 +46,17 @@ void Cadre::paintEvent(QPaintEvent* /*evenement*/) {
     peintre.setPen(encreqt(controle()->couleur()));
     peintre.drawText(QRectF(rect()).adjusted(margetitre * unite(), hauttitre * unite(), 0, 0),
                      Qt::AlignLeft | Qt::AlignTop, texte());
+}
+
+/// A line of the design has no thickness; its widget needs one to be seen.
+QRect Ligne::place() const {
+    auto place = VueDe::place();
+    const int mince = static_cast<int>(std::ceil(dessin::trait(unite()))) + 1;
+    if (place.width() >= place.height())
+        place.setHeight(std::max(place.height(), mince));
+    else
+        place.setWidth(std::max(place.width(), mince));
+    return place;
 }
 
 void Ligne::paintEvent(QPaintEvent* /*evenement*/) {

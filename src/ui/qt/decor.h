@@ -33,6 +33,7 @@ class Ligne : public VueDe<QFrame> {
     using VueDe::VueDe;
 
   protected:
+    [[nodiscard]] QRect place() const override;
     void paintEvent(QPaintEvent* evenement) override;
 };
 

@@ -24,17 +24,31 @@ QColor voile(QColor couleur, double opacite) {
     return couleur;
 }
 
-/// A rectangle of which a stroke of this width stays inside `place`.
-QRectF dedans(const QRectF& place, double largeur) {
-    const double d = largeur / 2;
-    return place.adjusted(d, d, -d, -d);
+QRectF dedans(const QRectF& place, double marge) {
+    return place.adjusted(marge, marge, -marge, -marge);
 }
 
-void arrondi(QPainter& peintre, const QRectF& place, double rayon, const QBrush& fond,
-             const QPen& trace = Qt::NoPen) {
-    peintre.setPen(trace);
+void arrondi(QPainter& peintre, const QRectF& place, double rayon, const QBrush& fond) {
+    peintre.setPen(Qt::NoPen);
     peintre.setBrush(fond);
     peintre.drawRoundedRect(place, rayon, rayon);
+}
+
+/// A rounded rectangle with an edge: two fills, which cost a fifth of a stroke.
+void borde(QPainter& peintre, const QRectF& place, double rayon, const QBrush& fond,
+           const QColor& bord, double largeur) {
+    arrondi(peintre, place, rayon, bord);
+    arrondi(peintre, dedans(place, largeur), std::max(0.0, rayon - largeur), fond);
+}
+
+void contour(QPainter& peintre, const QRectF& place, double rayon, const QColor& couleur,
+             double largeur) {
+    const auto interieur = dedans(place, largeur);
+    const double reste = std::max(0.0, rayon - largeur);
+    QPainterPath trace;
+    trace.addRoundedRect(place, rayon, rayon);
+    trace.addRoundedRect(interieur, reste, reste);
+    peintre.fillPath(trace, couleur);
 }
 
 struct Visage {
@@ -69,18 +83,16 @@ double trait(double unite) {
 void anneau(QPainter& peintre, const QRectF& place, double unite, double rayon) {
     const double large = std::max(2.0, 2.4 * unite);
     const double fin = trait(unite);
-    arrondi(peintre, dedans(place, large), rayon * unite, Qt::NoBrush,
-            QPen(QColor::fromRgb(teintes::anneau), large));
-    const auto interieur = place.adjusted(large, large, -large, -large);
-    arrondi(peintre, dedans(interieur, fin), std::max(0.0, rayon * unite - large), Qt::NoBrush,
-            QPen(blanc, fin));
+    contour(peintre, place, rayon * unite, QColor::fromRgb(teintes::anneau), large);
+    contour(peintre, dedans(place, large), std::max(0.0, rayon * unite - large), blanc, fin);
 }
 
 QColor bouton(QPainter& peintre, const QRectF& place, double unite, const QColor& face,
               Bouton genre, const Etat& etat, const QColor& encre) {
     peintre.setRenderHint(QPainter::Antialiasing);
     const double fin = trait(unite);
-    const double rayon = std::min(rayonbouton * unite, place.height() / 2);
+    const double rayon =
+        std::min(rayonbouton * unite, .3 * std::min(place.width(), place.height()));
     const auto v = visage(face, genre, etat);
     const auto corps = place.adjusted(0, 0, 0, -fin);
     const bool plat = genre == Bouton::Discret && !etat.survole && !etat.enfonce;
@@ -91,14 +103,30 @@ QColor bouton(QPainter& peintre, const QRectF& place, double unite, const QColor
     degrade.setColorAt(1, plat ? voile(blanc, .2) : v.bas);
     const bool marque = etat.defaut && etat.actif && genre != Bouton::Principal;
     const double bord = marque ? 2 * fin : fin;
-    arrondi(peintre, dedans(corps, bord), rayon, degrade,
-            QPen(marque ? QColor::fromRgb(teintes::accent) : v.bord, bord));
+    if (plat) {
+        arrondi(peintre, corps, rayon, degrade);
+        contour(peintre, corps, rayon, v.bord, bord);
+    } else {
+        borde(peintre, corps, rayon, degrade, marque ? QColor::fromRgb(teintes::accent) : v.bord,
+              bord);
+    }
     if (etat.focus)
         anneau(peintre, corps, unite, rayon / unite);
     if (!etat.actif)
         return QColor::fromRgb(teintes::encrepale);
     const bool clair = genre == Bouton::Principal && encre == noir;
     return clair ? blanc : encre;
+}
+
+void alveole(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
+             const Etat& etat) {
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const auto creux = dedans(place, 3 * unite);
+    const double rayon = rayontuile * unite;
+    borde(peintre, creux, rayon, melange(fond, blanc, etat.survole ? .75 : .55),
+          melange(fond, noir, .18), trait(unite));
+    if (etat.focus)
+        anneau(peintre, creux, unite, rayontuile);
 }
 
 QRectF tuile(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
@@ -119,11 +147,8 @@ QRectF tuile(QPainter& peintre, const QRectF& place, double unite, const QColor&
     lumiere.setColorAt(.55, melange(fond, blanc, etat.survole ? .35 : .1));
     lumiere.setColorAt(1, melange(fond, noir, etat.survole ? 0 : .06));
     const double fin = trait(unite);
-    arrondi(peintre, dedans(dessus, fin), rayon - fin / 2, lumiere,
-            QPen(melange(fond, noir, .3), fin));
-    const auto reflet = dessus.adjusted(fin, fin, -fin, -fin);
-    arrondi(peintre, dedans(reflet, fin), rayon - 1.5 * fin, Qt::NoBrush,
-            QPen(voile(blanc, .55), fin));
+    borde(peintre, dessus, rayon, lumiere, melange(fond, noir, .3), fin);
+    contour(peintre, dedans(dessus, fin), rayon - fin, voile(blanc, .55), fin);
     if (etat.focus)
         anneau(peintre, dessus, unite, rayontuile);
     return dessus;
@@ -138,7 +163,7 @@ void boite(QPainter& peintre, const QRectF& place, double unite, const QColor& f
     auto bord = etat.actif ? bordde(fond) : melange(bordde(fond), blanc, .4);
     if (etat.survole && etat.actif)
         bord = melange(bord, noir, .35);
-    arrondi(peintre, dedans(place, fin), rayon, pale, QPen(bord, fin));
+    borde(peintre, place, rayon, pale, bord, fin);
     if (etat.focus)
         anneau(peintre, place, unite, rayon / unite);
 }
@@ -146,8 +171,8 @@ void boite(QPainter& peintre, const QRectF& place, double unite, const QColor& f
 void carte(QPainter& peintre, const QRectF& place, double unite, const QColor& fond) {
     peintre.setRenderHint(QPainter::Antialiasing);
     const double fin = trait(unite);
-    arrondi(peintre, dedans(place, fin), rayoncarte * unite, melange(fond, blanc, .55),
-            QPen(melange(fond, noir, .16), fin));
+    borde(peintre, place, rayoncarte * unite, melange(fond, blanc, .55), melange(fond, noir, .16),
+          fin);
 }
 
 void coche(QPainter& peintre, const QRectF& place, double unite, bool cochee, const Etat& etat) {
@@ -156,8 +181,8 @@ void coche(QPainter& peintre, const QRectF& place, double unite, bool cochee, co
     const auto accent = QColor::fromRgb(etat.actif ? teintes::accent : 0xFF9AA3B4);
     const auto vide = etat.actif ? (etat.survole ? QColor::fromRgb(0xFFEAF0FB) : blanc)
                                  : QColor::fromRgb(0xFFE9EBEF);
-    arrondi(peintre, dedans(place, fin), rayoncoche * unite, cochee ? accent : vide,
-            QPen(cochee || etat.survole ? accent : QColor::fromRgb(0xFF8A92A2), fin));
+    borde(peintre, place, rayoncoche * unite, cochee ? accent : vide,
+          cochee || etat.survole ? accent : QColor::fromRgb(0xFF8A92A2), fin);
     if (!cochee)
         return;
     const double c = place.width();

@@ -27,6 +27,9 @@ QColor bouton(QPainter& peintre, const QRectF& place, double unite, const QColor
 /// A letter tile. Returns where its letter belongs.
 QRectF tuile(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
              const Etat& etat);
+/// The place of a tile that holds no letter.
+void alveole(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
+             const Etat& etat);
 
 struct Boite {
     bool actif = true;

@@ -18,9 +18,7 @@ struct Echelle {
     QPointF origine;                     ///< of the design in the window
 
     /// Size in pixels of a length told in pixels of the design.
-    [[nodiscard]] double unite(double pixels = 1) const {
-        return pixels * twipsparpixel * partwip;
-    }
+    [[nodiscard]] double unite(double pixels = 1) const { return pixels * twipsparpixel * partwip; }
     /// Height in pixels of a font of so many points.
     [[nodiscard]] double corps(double points) const { return points * twipsparpoint * partwip; }
     /// Edges are rounded each by itself, so that controls that touch in the design touch here.

@@ -29,7 +29,7 @@ Qt::Alignment alignementqt(Alignement alignement) {
 
 }  // namespace
 
-QRectF Etiquette::place() const {
+QRectF Etiquette::placetexte() const {
     const double bord = sansfond() ? 0 : marge * unite();
     return QRectF(rect()).adjusted(bord, 0, -bord, 0);
 }
@@ -41,7 +41,7 @@ void Etiquette::montrer(Champs champs) {
         champsplace | champsfonte | ensemble(Champ::Texte, Champ::Fond, Champ::Fondu);
     if ((champs & mesures) == 0)
         return;
-    ajustee_ = ajuster(fonte(), texte(), place().size(), *this);
+    ajustee_ = ajuster(fonte(), texte(), placetexte().size(), *this);
     const auto ligne = QFontMetricsF(fonte(), this).height();
     verticale_ = height() > lignesdunparagraphe * ligne ? Qt::AlignTop : Qt::AlignVCenter;
 }
@@ -66,7 +66,7 @@ void Etiquette::paintEvent(QPaintEvent* /*evenement*/) {
     peintre.setPen(isEnabled() ? encreqt(controle()->couleur())
                                : QColor::fromRgb(teintes::encrepale));
     const auto horizontale = alignementqt(controle()->alignement());
-    peintre.drawText(place(), static_cast<int>(horizontale | verticale_) | Qt::TextWordWrap,
+    peintre.drawText(placetexte(), static_cast<int>(horizontale | verticale_) | Qt::TextWordWrap,
                      texte());
 }
 

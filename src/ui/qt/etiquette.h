@@ -16,7 +16,7 @@ class Etiquette : public VueDe<QLabel> {
     void paintEvent(QPaintEvent* evenement) override;
 
   private:
-    [[nodiscard]] QRectF place() const;
+    [[nodiscard]] QRectF placetexte() const;
 
     QFont ajustee_;
     Qt::Alignment verticale_;

@@ -25,9 +25,9 @@ constexpr unsigned bit(ChampFormulaire champ) {
 // The design that a screen of 1366 by 768 shows one to one. Smaller forms take its scale, so that
 // all windows of the program speak in the same size.
 constexpr QSize designdereference(20490, 10980);
-constexpr int decor = 36;            // pixels that a title bar takes, at the most
-constexpr double plusgrande = 2;     // scale that a window doesn't pass by itself
-constexpr double pluspetite = .35;   // under it nobody could read
+constexpr int decor = 36;           // pixels that a title bar takes, at the most
+constexpr double plusgrande = 2;    // scale that a window doesn't pass by itself
+constexpr double pluspetite = .35;  // under it nobody could read
 
 double partwip(const QSize& place, const QSize& design) {
     return std::min(static_cast<double>(place.width()) / design.width(),
@@ -210,7 +210,6 @@ void Fenetre::apparaitre() {
             windowHandle()->setTransientParent(voisine->windowHandle());
     }
     show();
-    raise();
     activateWindow();
 }
 

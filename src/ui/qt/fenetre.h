@@ -97,8 +97,8 @@ class Fenetre : public QWidget, public VueFormulaire {
     std::unique_ptr<MenuContextuel> deroulant_;
     const Controle* defaut_ = nullptr;  ///< default button, as drawn
     const Controle* focus_ = nullptr;   ///< control with the focus, as drawn
-    std::size_t entrees_ = 0;  ///< controls without a widget: entries of menus
-    QSize design_;  ///< twips, at the last fitting
+    std::size_t entrees_ = 0;           ///< controls without a widget: entries of menus
+    QSize design_;                      ///< twips, at the last fitting
     unsigned champs_ = ~0U;
     bool dimensionnee_ = false;
     bool accord_ = false;  ///< the focus of Qt is being put where the model has it

@@ -40,7 +40,8 @@ Fenetrier::~Fenetrier() {
 
 void Fenetrier::accueillir(Formulaire& formulaire) {
     auto* fenetre = new Fenetre(*this, formulaire);  // deleted here, or by Qt once it is orphaned
-    fenetre->setWindowIcon(iconeprogramme([this](std::string_view image) { return chemin(image); }));
+    fenetre->setWindowIcon(
+        iconeprogramme([this](std::string_view image) { return chemin(image); }));
     fenetres_.push_back(fenetre);
     if (reglages_.minuteries)
         minuteur_.accueillir(formulaire);
@@ -60,9 +61,9 @@ QWidget* Fenetrier::widget(const Controle& controle) const {
 }
 
 Fenetre* Fenetrier::fenetre(const Formulaire& formulaire) const {
-    const auto trouvee =
-        std::find_if(fenetres_.begin(), fenetres_.end(),
-                     [&](const Fenetre* f) { return &f->formulaire() == &formulaire; });
+    const auto trouvee = std::find_if(fenetres_.begin(), fenetres_.end(), [&](const Fenetre* f) {
+        return &f->formulaire() == &formulaire;
+    });
     return trouvee == fenetres_.end() ? nullptr : *trouvee;
 }
 

@@ -76,7 +76,7 @@ class Fenetrier : public QObject {
     Minuteur minuteur_;
     std::vector<Fenetre*> fenetres_;
     std::vector<QPointer<Fenetre>> partantes_;  ///< windows of forms that are gone
-    Fenetre* derniere_ = nullptr;  ///< last one activated
+    Fenetre* derniere_ = nullptr;               ///< last one activated
     bool demande_ = false;
     bool encours_ = false;
     bool sale_ = false;

@@ -39,15 +39,16 @@ QString choisir(const QString& chemin, const QSize& voulue) {
 
 QPixmap image(const QString& chemin, const QSize& taille, double densite) {
     const auto voulue = (QSizeF(taille) * densite).toSize();
-    const auto cle = QStringLiteral("%1 %2 %3").arg(chemin).arg(voulue.width()).arg(voulue.height());
+    const auto cle =
+        QStringLiteral("%1 %2 %3").arg(chemin).arg(voulue.width()).arg(voulue.height());
     QPixmap vignette;
     if (QPixmapCache::find(cle, &vignette))
         return vignette;
     const QImage originale(choisir(chemin, voulue));
     if (originale.isNull() || voulue.isEmpty())
         return {};
-    vignette = QPixmap::fromImage(
-        originale.scaled(voulue, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    vignette =
+        QPixmap::fromImage(originale.scaled(voulue, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     vignette.setDevicePixelRatio(densite);
     QPixmapCache::insert(cle, vignette);
     return vignette;

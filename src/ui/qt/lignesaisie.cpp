@@ -72,8 +72,8 @@ QRectF LigneSaisie::curseur(double epaisseur) const {
 }
 
 void LigneSaisie::peindre(QPainter& peintre, const QColor& encre, bool avecselection) const {
-    const double base =
-        place_.center().y() + (QFontMetricsF(fonte_).ascent() - QFontMetricsF(fonte_).descent()) / 2;
+    const double base = place_.center().y() +
+                        (QFontMetricsF(fonte_).ascent() - QFontMetricsF(fonte_).descent()) / 2;
     const QPointF origine(depart_ - glisse_, base);
     peintre.setFont(fonte_);
     peintre.setPen(encre);

@@ -66,7 +66,8 @@ void Liste::derouler() {
     menu->setFont(fonte());
     for (const auto& entree : controle()->choix()) {
         // A menu would read a mnemonic into "&".
-        auto* ligne = menu->addAction(versqt(entree).replace(QLatin1String("&"), QLatin1String("&&")));
+        auto* ligne =
+            menu->addAction(versqt(entree).replace(QLatin1String("&"), QLatin1String("&&")));
         ligne->setCheckable(true);
         ligne->setChecked(entree == controle()->texte());
         if (ligne->isChecked())

@@ -18,8 +18,8 @@ class Minuteur : public QObject {
   public:
     /// Milliseconds of a clock that only goes forward.
     using Horloge = std::function<std::int64_t()>;
-    static constexpr std::int64_t periode = 1000;   ///< milliseconds
-    static constexpr std::int64_t ensemble = 20;    ///< ticks this near are due together
+    static constexpr std::int64_t periode = 1000;  ///< milliseconds
+    static constexpr std::int64_t ensemble = 20;   ///< ticks this near are due together
 
     /// `executer` runs an event in the model.
     explicit Minuteur(std::function<void(const std::function<void()>&)> executer,

@@ -78,8 +78,8 @@ bool PlateformeQt::telecharger(std::string_view adresse, std::string_view chemin
 Reponse PlateformeQt::demander(std::string_view texte, Icone icone, bool ouinon) {
     fenetrier_.rafraichir();
     const QPointer<QMessageBox> boite = boitedemessage(fenetrier_.enavant(), iconeqt(icone), texte);
-    const auto* oui =
-        boite->addButton(ouinon ? QStringLiteral("Oui") : QStringLiteral("OK"), QMessageBox::YesRole);
+    const auto* oui = boite->addButton(ouinon ? QStringLiteral("Oui") : QStringLiteral("OK"),
+                                       QMessageBox::YesRole);
     if (ouinon)
         boite->setEscapeButton(boite->addButton(QStringLiteral("Non"), QMessageBox::NoRole));
     boite->exec();

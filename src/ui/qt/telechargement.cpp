@@ -15,11 +15,13 @@ namespace ui::qt {
 
 std::optional<std::string> Telechargement::lire(std::string_view adresse) {
     const QUrl url(versqt(adresse).trimmed());
-    const bool connue = url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+    const bool connue =
+        url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
     if (!url.isValid() || !connue)
         return std::nullopt;
     QNetworkRequest demande(url);
-    demande.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    demande.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
+                         QNetworkRequest::AlwaysNetwork);
     demande.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
     demande.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::NoLessSafeRedirectPolicy);

@@ -14,9 +14,9 @@ class Minuteur;
 class Telechargement {
   public:
     struct Limites {
-        int silence = 20'000;                  ///< milliseconds without a byte
-        int duree = 15 * 60'000;               ///< milliseconds in all
-        std::int64_t taille = 512LL << 20U;    ///< bytes
+        int silence = 20'000;                ///< milliseconds without a byte
+        int duree = 15 * 60'000;             ///< milliseconds in all
+        std::int64_t taille = 512LL << 20U;  ///< bytes
     };
 
     explicit Telechargement(Minuteur& minuteur) : Telechargement(minuteur, Limites()) {}

@@ -13,12 +13,12 @@ class QApplication;
 namespace ui::qt {
 
 namespace teintes {
-inline constexpr QRgb encre = 0xFF1B2130;       ///< texts that the rules leave black
-inline constexpr QRgb encrepale = 0xFF6A7180;   ///< texts of disabled controls
-inline constexpr QRgb accent = 0xFF2F5597;      ///< principal button, selection, tick
-inline constexpr QRgb anneau = 0xFF1D4ED8;      ///< focus ring
-inline constexpr QRgb face = 0xFFF6F7F9;        ///< face of a button
-inline constexpr QRgb bord = 0xFFAEB5C2;        ///< edge of a button or of a white box
+inline constexpr QRgb encre = 0xFF1B2130;      ///< texts that the rules leave black
+inline constexpr QRgb encrepale = 0xFF6A7180;  ///< texts of disabled controls
+inline constexpr QRgb accent = 0xFF2F5597;     ///< principal button, selection, tick
+inline constexpr QRgb anneau = 0xFF1D4ED8;     ///< focus ring
+inline constexpr QRgb face = 0xFFF6F7F9;       ///< face of a button
+inline constexpr QRgb bord = 0xFFAEB5C2;       ///< edge of a button or of a white box
 inline constexpr QRgb papier = 0xFFFFFFFF;
 }  // namespace teintes
 

@@ -62,16 +62,15 @@ void Vue::appliquer() {
     if (controle_ == nullptr)
         return;
     auto& cible = widget();
-    if ((champs & champsplace) != 0) {
-        cible.setGeometry(fenetre_.echelle().cadre({controle_->gauche(), controle_->haut(),
-                                                    controle_->largeur(), controle_->hauteur()}));
-    }
+    if ((champs & champsplace) != 0)
+        cible.setGeometry(place());
     if ((champs & (champsfonte | champsplace)) != 0)
         fonte_ = qt::fonte(*controle_, fenetre_.echelle().corps(controle_->taille()), cible);
     if ((champs & ensemble(Champ::Infobulle)) != 0)
         cible.setToolTip(bulle(controle_->infobulle()));
     if ((champs & ensemble(Champ::Accessible, Champ::Texte)) != 0) {
-        const auto nom = controle_->accessible().empty() ? texte() : versqt(controle_->accessible());
+        const auto nom =
+            controle_->accessible().empty() ? texte() : versqt(controle_->accessible());
         if (cible.accessibleName() != nom)
             cible.setAccessibleName(nom);
     }
@@ -87,11 +86,15 @@ void Vue::appliquer() {
 
 void Vue::montrer(Champs /*champs*/) {}
 
+QRect Vue::place() const {
+    return fenetre_.echelle().cadre(
+        {controle_->gauche(), controle_->haut(), controle_->largeur(), controle_->hauteur()});
+}
+
 void Vue::montrerpointeur() {
     auto& cible = widget();
     const bool attente = fenetre_.formulaire().pointeur() == Pointeur::Attente;
-    const bool etiquettecliquable =
-        controle_->clic && (controle_->genre() == Genre::Etiquette);
+    const bool etiquettecliquable = controle_->clic && (controle_->genre() == Genre::Etiquette);
     if (attente)
         cible.setCursor(Qt::WaitCursor);
     else if (controle_->pointeur() != Pointeur::Normal)
@@ -138,8 +141,8 @@ void Vue::apres(const QEvent& evenement) {
 void Vue::presser(const QMouseEvent& evenement) {
     if (evenement.button() != Qt::LeftButton)
         return;
-    const bool doublee = evenement.type() == QEvent::MouseButtonDblClick && !clicnatif() &&
-                         controle_->doubleclic;
+    const bool doublee =
+        evenement.type() == QEvent::MouseButtonDblClick && !clicnatif() && controle_->doubleclic;
     presse_ = !doublee;
     executer([&] {
         if (doublee)

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QFont>
+#include <QRect>
 #include <QWidget>
 
 #include "controle.h"
@@ -62,6 +63,8 @@ class Vue : public VueControle {
     virtual void montrer(Champs champs);
     /// The widget makes clicks out of presses and releases by itself.
     [[nodiscard]] virtual bool clicnatif() const { return false; }
+    /// Where the widget lies in the window.
+    [[nodiscard]] virtual QRect place() const;
     /// The user has clicked the control.
     virtual void cliquer();
 
