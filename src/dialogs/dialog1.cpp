@@ -8,8 +8,8 @@
 namespace dialogs {
 namespace {
 
-constexpr int largeurtexte = 8400;  // twips
-constexpr int hauteurtexte = 5400;
+constexpr int largeurtexte = 9300;  // twips
+constexpr int hauteurtexte = 4500;
 constexpr int marge = 240;
 constexpr int cotedeappui = 60;
 constexpr int twipsparpixel = 15;
@@ -43,8 +43,8 @@ Dialog1::Dialog1(ui::Plateforme& plateforme, common::Voisins& voisins)
       voisins_(voisins),
       image1_(ajouter(ui::Genre::Image, "Image1")),
       image2_(ajouter(ui::Genre::Image, "Image2")),
-      texte_(ajouter(ui::Genre::Boite, "Text1")),
-      appui_(ajouter(ui::Genre::Boite, "Text2")) {
+      appui_(ajouter(ui::Genre::Boite, "Text2")),
+      texte_(ajouter(ui::Genre::Boite, "Text1")) {
     image1_.image = images7lettres;
     image1_.accessible = "Tirages de 7 lettres avec 6 anagrammes et plus";
     image2_.image = images8lettres;
@@ -56,10 +56,8 @@ Dialog1::Dialog1(ui::Plateforme& plateforme, common::Voisins& voisins)
     texte_.accessible = "A propos d'Orvane";
     texte_.placer({marge, marge, largeurtexte - 2 * marge, hauteurtexte - 2 * marge});
     appui_.verrou = true;
-    appui_.fond = fond();
     appui_.accessible = "Fin du texte";
-    appui_.placer(
-        {largeurtexte - 2 * cotedeappui, hauteurtexte - 2 * cotedeappui, cotedeappui, cotedeappui});
+    appui_.placer({2 * marge, 2 * marge, cotedeappui, cotedeappui});  // behind the text
     tabulation({&texte_, &appui_});
     dimensionner(largeurtexte, hauteurtexte);
 }

@@ -28,8 +28,8 @@ class Dialog1 : public ui::Formulaire {
     common::Voisins& voisins_;
     ui::Controle& image1_;
     ui::Controle& image2_;
-    ui::Controle& texte_;
     ui::Controle& appui_;
+    ui::Controle& texte_;
 };
 
 }  // namespace dialogs
