@@ -131,7 +131,7 @@ class LecteurLexique {
             barre == std::string_view::npos ? std::string_view() : tete.substr(barre + 1);
         if (!liredrapeaux(drapeaux, entree) || !lirechamps(mots, entree))
             return std::nullopt;
-        if (ecarte(entree.capitales) || exclu(entree.mot))
+        if (ecarte(entree.capitales))
             return std::nullopt;
         if (entree.infinitifseul && thesaurus_.frequence(entree.mot) == 0)
             return std::nullopt;
@@ -200,6 +200,7 @@ class LecteurLexique {
             cree.texte = texte;
             cree.capitales = capitales;
             cree.frequence = thesaurus_.frequence(texte);
+            cree.injurieux = exclu(texte);
         }
         return place->second;
     }

@@ -25,6 +25,8 @@ struct Lemme {
     bool participe = false;       ///< has a past participle
     bool participevarie = false;  ///< has a past participle that agrees
 
+    bool injurieux = false;  ///< offends: no list asks it
+
     /// A verb that lacks a quarter or more of its conjugation.
     [[nodiscard]] bool defectif() const;
     /// A verb with past participles, none of which agrees.

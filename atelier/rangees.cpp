@@ -75,6 +75,10 @@ std::string tirageavecindice(const Mot& mot, const Selection& rivaux) {
     return '(' + std::string(mot.texte().substr(0, indice)) + ')' + std::string(reste.texte());
 }
 
+bool injurieuse(const Selection& mots) {
+    return std::any_of(mots.begin(), mots.end(), [](const Mot* mot) { return mot->injurieux; });
+}
+
 Contenu simples(const Vocabulaire& v, const Selection& selection) {
     Contenu contenu;
     contenu.rangees.reserve(selection.size());
@@ -106,6 +110,8 @@ Contenu indiques(const Vocabulaire& v, const Selection& selection, const Selecti
 
 void ajoutermultiple(Contenu& contenu, const Vocabulaire& v, const Tirage& tirage,
                      const Selection& solutions) {
+    if (injurieuse(solutions))
+        return;
     const std::string lettres(tirage.lettres.texte());
     std::string texte;
     for (const auto* mot : solutions) {

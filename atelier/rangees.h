@@ -29,16 +29,19 @@ struct Contenu {
 
 using Selection = std::vector<const Mot*>;
 
-/// The words of these lengths that are such, by length and alphabet.
+/// The words of these lengths that are such and that a list may ask, by length and alphabet.
 template <class Predicat>
 Selection choisir(const Vocabulaire& v, std::size_t min, std::size_t max, Predicat predicat) {
     Selection choisis;
     for (const auto& mot : v.mots(min, max)) {
-        if (predicat(mot))
+        if (!mot.injurieux && predicat(mot))
             choisis.push_back(&mot);
     }
     return choisis;
 }
+
+/// One of the words offends.
+[[nodiscard]] bool injurieuse(const Selection& mots);
 
 /// The words of a rack that are such, by alphabet.
 template <class Predicat>
@@ -92,7 +95,7 @@ Selection choisir(const Vocabulaire& v, const Tirage& tirage, Predicat predicat)
 [[nodiscard]] Contenu indiques(const Vocabulaire& v, const Selection& selection,
                                const Selection& rivaux);
 
-/// Adds a rack and its several solutions.
+/// Adds a rack and its several solutions; not one that asks an offending word.
 void ajoutermultiple(Contenu& contenu, const Vocabulaire& v, const Tirage& tirage,
                      const Selection& solutions);
 

@@ -15,6 +15,12 @@ bool conjugueenez(const Mot& mot) {
     return mot.conjugue && mot.finiten("EZ");
 }
 
+/// Adds the words that a list may ask.
+void demander(Selection& mots, const Selection& souhaites) {
+    std::copy_if(souhaites.begin(), souhaites.end(), std::back_inserter(mots),
+                 [](const Mot* mot) { return !mot->injurieux; });
+}
+
 /// All words of three letters with a dear letter.
 Contenu chere3(const Matiere& m) {
     const auto mots = choisir(m.mots, 3, 3, [](const Mot& mot) { return mot.chere; });
@@ -47,7 +53,7 @@ Contenu courts34(const Matiere& m, std::size_t taille) {
             souhaites = choisir(m.mots, tirage, tous);
         if (souhaites.front()->chere || souhaites.size() > souhaitesmax)
             continue;
-        mots.insert(mots.end(), souhaites.begin(), souhaites.end());
+        demander(mots, souhaites);
     }
     return indiques(m.mots, mots, mots);
 }
@@ -67,7 +73,7 @@ Contenu courts5(const Matiere& m, std::size_t total) {
             choisir(m.mots, tirage, [&](const Mot& mot) { return mot.rang == meilleur; });
         if (souhaites.size() > souhaitesmax5)
             continue;
-        mots.insert(mots.end(), souhaites.begin(), souhaites.end());
+        demander(mots, souhaites);
     }
     std::sort(mots.begin(), mots.end());
     return indiques(m.mots, couper(m.mots, mots, total, frequence), mots);

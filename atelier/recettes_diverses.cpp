@@ -72,7 +72,9 @@ Contenu faussestransitivites(const Matiere& m) {
             const auto tirage = parlettres.find(Capitales(faute).triees());
             if (tirage == parlettres.end() || tirage->second->mots != 1)
                 continue;
-            solutions.insert(&m.mots.mot(m.mots.places(*tirage->second).front()));
+            const auto& seul = m.mots.mot(m.mots.places(*tirage->second).front());
+            if (!seul.injurieux)
+                solutions.insert(&seul);
         }
     }
     return simples(m.mots, {solutions.begin(), solutions.end()});
@@ -97,14 +99,15 @@ Contenu sfinal(const Matiere& m) {
 Contenu benjamins(const Matiere& m) {
     constexpr std::size_t lettres = 3;
     std::map<const Mot*, Selection> parmot;
-    for (const auto& long_ : m.mots.mots(5 + lettres, 7 + lettres)) {
-        const auto* mot = m.mots.chercher(long_.texte().substr(lettres));
+    for (const auto& allongee : m.mots.mots(5 + lettres, 7 + lettres)) {
+        const auto* mot = m.mots.chercher(allongee.texte().substr(lettres));
         if (mot != nullptr && mot->entree)
-            parmot[mot].push_back(&long_);
+            parmot[mot].push_back(&allongee);
     }
     Contenu contenu;
     for (const auto& [mot, longs] : parmot) {
-        if (longs.size() != 1 || !longs.front()->entree)
+        if (longs.size() != 1 || !longs.front()->entree || longs.front()->injurieux ||
+            mot->injurieux)
             continue;
         const std::string texte(mot->texte());
         contenu.rangees.push_back(
@@ -115,47 +118,59 @@ Contenu benjamins(const Matiere& m) {
 }
 
 /// A verb with another verb's letters and one more, in another order than at an end.
-bool allonge(const Mot& verbe, const Mot& long_, char lettre) {
-    return long_.texte() == lettre + std::string(verbe.texte()) ||
-           long_.texte() == std::string(verbe.texte()) + lettre;
+bool allonge(const Mot& verbe, const Mot& allongee, char lettre) {
+    return allongee.texte() == lettre + std::string(verbe.texte()) ||
+           allongee.texte() == std::string(verbe.texte()) + lettre;
 }
 
-/// The commonest verb that makes a longer one with another letter.
+/// A verb, and the letter to add to it.
+struct Base {
+    const Mot* verbe = nullptr;
+    char lettre = 0;
+};
+
+using Verbes = std::map<Capitales, Selection>;  // by their letters
+
+/// The commonest verb that makes `cible` with another letter, by alphabet among equals.
+Base meilleurebase(const Vocabulaire& v, const Mot& cible, const Verbes& verbes) {
+    const auto& lettres = v.tirage(cible).lettres;
+    Base meilleure;
+    for (std::size_t i = 0; i < cible.taille(); ++i) {
+        std::string reste(lettres.texte());
+        const char lettre = reste[i];
+        reste.erase(i, 1);
+        const auto trouves = verbes.find(Capitales(reste));
+        if (trouves == verbes.end())
+            continue;
+        for (const auto* verbe : trouves->second) {
+            if (allonge(*verbe, cible, lettre))
+                continue;
+            const auto* m = meilleure.verbe;
+            if (m == nullptr || verbe->frequence > m->frequence ||
+                (verbe->frequence == m->frequence && verbe->texte() < m->texte()))
+                meilleure = {verbe, lettre};
+        }
+    }
+    return meilleure;
+}
+
+/// A verb and a letter on which exactly one verb stands.
 Contenu verbesplusun(const Matiere& m) {
     const auto& v = m.mots;
-    std::map<Capitales, Selection> parlettres;
+    Verbes verbes;
     for (const auto* verbe : choisir(v, 4, 7, infinitive)) {
         if (!defectif(v, *verbe))
-            parlettres[v.tirage(*verbe).lettres].push_back(verbe);
+            verbes[v.tirage(*verbe).lettres].push_back(verbe);
     }
     Contenu contenu;
     for (const auto* cible : choisir(v, 5, 8, infinitive)) {
-        const auto& tirage = v.tirage(*cible);
-        if (defectif(v, *cible) || choisir(v, tirage, infinitive).size() != 1)
+        if (defectif(v, *cible) || choisir(v, v.tirage(*cible), infinitive).size() != 1)
             continue;
-        const Mot* meilleur = nullptr;
-        char ajoutee = 0;
-        for (std::size_t i = 0; i < cible->taille(); ++i) {
-            std::string reste(tirage.lettres.texte());
-            const char lettre = reste[i];
-            reste.erase(i, 1);
-            const auto verbes = parlettres.find(Capitales(reste));
-            if (verbes == parlettres.end())
-                continue;
-            for (const auto* verbe : verbes->second) {
-                if (allonge(*verbe, *cible, lettre))
-                    continue;
-                if (meilleur == nullptr || verbe->frequence > meilleur->frequence ||
-                    (verbe->frequence == meilleur->frequence &&
-                     verbe->texte() < meilleur->texte())) {
-                    meilleur = verbe;
-                    ajoutee = lettre;
-                }
-            }
-        }
-        if (meilleur == nullptr)
+        const auto base = meilleurebase(v, *cible, verbes);
+        if (base.verbe == nullptr)
             continue;
-        contenu.rangees.push_back({plus(*meilleur, {&ajoutee, 1}), plus(*meilleur, "+") + ajoutee,
+        contenu.rangees.push_back({plus(*base.verbe, {&base.lettre, 1}),
+                                   plus(*base.verbe, "+") + base.lettre,
                                    std::string(cible->texte())});
         contenu.mots.push_back(place(v, *cible));
     }

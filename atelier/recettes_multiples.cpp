@@ -19,7 +19,8 @@ std::vector<const Tirage*> tiragesde(const Vocabulaire& v, std::size_t taille, s
         if (tirage.nonconjugues != nombre || (purete == Purete::pur && !pur) ||
             (purete == Purete::impur && pur))
             continue;
-        if (pluriels(v, choisir(v, tirage, nonconjugue), taille))
+        const auto souhaites = choisir(v, tirage, nonconjugue);
+        if (pluriels(v, souhaites, taille) || injurieuse(souhaites))
             continue;
         choisis.push_back(&tirage);
     }

@@ -30,7 +30,8 @@ Contenu rallonges(const Vocabulaire& v, std::size_t taille, Cote cote) {
         const auto texte = rallonge.texte();
         const auto* mot =
             v.chercher(cote == Cote::avant ? texte.substr(1) : texte.substr(0, taille));
-        if (mot == nullptr || (cote == Cote::arriere && memelemme(v, *mot, rallonge)))
+        if (mot == nullptr || mot->injurieux || rallonge.injurieux ||
+            (cote == Cote::arriere && memelemme(v, *mot, rallonge)))
             continue;
         auto& lettres = parmot[mot];
         lettres.lettres += cote == Cote::avant ? texte.front() : texte.back();

@@ -73,7 +73,7 @@ std::vector<std::string> Rangees::lire(std::string_view ligne) {
     if (ligne.empty())
         return {"ligne vide"};
     if (ligne.find(',') != std::string_view::npos || ligne.find('"') != std::string_view::npos)
-        ennuis.emplace_back("une virgule ou un guillemet couperait la ligne en deux");
+        return {"une virgule ou un guillemet couperait la ligne en deux"};
     auto solutions = champs(ligne);
     const auto tirage = solutions.front();
     solutions.erase(solutions.begin());
@@ -85,13 +85,14 @@ std::vector<std::string> Rangees::lire(std::string_view ligne) {
     if (!nouveau)
         ennuis.push_back("le tirage est déjà à la ligne " + std::to_string(premier->second));
     const auto lettres = nu(tirage, sorte_);
-    if (lettres.empty() || !capitales(lettres))
+    if (lettres.empty() || !capitales(lettres)) {
         ennuis.emplace_back("le tirage a autre chose que des lettres de A à Z");
-    if (lettres.size() > longueurmax)
+    } else if (lettres.size() > longueurmax) {
         ennuis.push_back("le tirage a " + std::to_string(lettres.size()) +
                          " lettres ; la limite est de " + std::to_string(longueurmax));
-    if (auto ennui = ennuidessolutions(lettres, solutions); !ennui.empty())
+    } else if (auto ennui = ennuidessolutions(lettres, solutions); !ennui.empty()) {
         ennuis.push_back(std::move(ennui));
+    }
     solutionsmax_ = std::max(solutionsmax_, solutions.size());
     dernier_ = lettres.size();
     pluslong_ = std::max(pluslong_, dernier_);

@@ -137,9 +137,11 @@ void Vocabulaire::qualifier(Mot& mot) const {
     bool pluriels = true;
     bool participe = false;
     mot.conjugue = true;
+    mot.injurieux = true;
     for (const auto& lecture : lectures(mot)) {
         mot.frequence = std::max(mot.frequence, lemme(lecture).frequence);
         mot.conjugue = mot.conjugue && lecture.finie();
+        mot.injurieux = mot.injurieux && lemme(lecture).injurieux;
         mot.infinitif = mot.infinitif || lecture.al(infinitif);
         participe = participe || lecture.al(participepresent | participepasse);
         if (!lecture.nonverbale())

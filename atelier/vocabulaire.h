@@ -29,7 +29,8 @@ struct Mot {
     bool plurielevident = false;  ///< of a noun or adjective: the singular and S or X
     bool entree = false;          ///< heads an article of a dictionary
     bool infinitif = false;
-    bool unique = false;  ///< the only word of its rack
+    bool injurieux = false;  ///< nothing but offending lemmas: a word like others, never asked
+    bool unique = false;     ///< the only word of its rack
 
     [[nodiscard]] std::size_t taille() const { return lettres.taille(); }
     [[nodiscard]] std::string_view texte() const { return lettres.texte(); }

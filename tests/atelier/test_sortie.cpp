@@ -1,0 +1,111 @@
+#include <fcntl.h>
+#include <filesystem>
+#include <string>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <gmock/gmock.h>
+
+#include "dossiertemporaire.h"
+#include "faute.h"
+#include "sortie.h"
+
+namespace {
+
+using namespace atelier;
+using essais::DossierTemporaire;
+using testing::HasSubstr;
+
+const std::vector<Fichier> neufs{{"listes/a.txt", "neuf a\r\n"},
+                                 {"listes/b.txt", "neuf b\r\n"},
+                                 {"infosouris.txt", "neuf\r\n"},
+                                 {"images/i.png", "image"}};
+
+/// A folder as an earlier run and a player left it.
+class Sortie : public testing::Test {
+  protected:
+    Sortie() {
+        std::filesystem::create_directories(dossier.chemin() / "listes");
+        std::filesystem::create_directories(dossier.chemin() / "images");
+        dossier.ecrire("listes/a.txt", "vieux a\r\n");
+        dossier.ecrire("listes/perso.txt", "du joueur\r\n");
+        dossier.ecrire("infosouris.txt", "vieux\r\n");
+        dossier.ecrire("images/autre.bmp", "autre");
+        dossier.ecrire("users.dat", "joueur");
+    }
+    [[nodiscard]] std::size_t entrees() const {
+        return static_cast<std::size_t>(
+            std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}));
+    }
+    DossierTemporaire dossier;
+};
+
+TEST_F(Sortie, met_les_neufs_a_la_place_des_vieux_et_ne_laisse_rien_trainer) {
+    installer(neufs, dossier.chemin());
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "neuf a\r\n");
+    EXPECT_EQ(dossier.lire("listes/b.txt"), "neuf b\r\n");
+    EXPECT_EQ(dossier.lire("infosouris.txt"), "neuf\r\n");
+    EXPECT_EQ(dossier.lire("images/i.png"), "image");
+    EXPECT_EQ(entrees(), 4U);
+}
+
+TEST_F(Sortie, garde_ce_qui_n_est_pas_d_elle) {
+    installer(neufs, dossier.chemin());
+    EXPECT_EQ(dossier.lire("listes/perso.txt"), "du joueur\r\n");
+    EXPECT_EQ(dossier.lire("images/autre.bmp"), "autre");
+    EXPECT_EQ(dossier.lire("users.dat"), "joueur");
+}
+
+TEST_F(Sortie, fait_le_dossier_qui_manque) {
+    const auto nouveau = dossier.chemin() / "un" / "deux";
+    installer(neufs, nouveau);
+    EXPECT_TRUE(std::filesystem::exists(nouveau / "listes" / "a.txt"));
+}
+
+TEST_F(Sortie, un_disque_plein_laisse_les_vieux) {
+    for (std::size_t places = 0; places < neufs.size(); ++places) {
+        std::size_t ecrits = 0;
+        const auto plein = [&](const std::filesystem::path& chemin, std::string_view octets) {
+            if (ecrits++ == places)
+                return std::make_error_code(std::errc::no_space_on_device);
+            return ecrirefichier(chemin, octets);
+        };
+        try {
+            installer(neufs, dossier.chemin(), plein);
+            FAIL() << "pas de faute";
+        } catch (const common::Faute& faute) {
+            EXPECT_THAT(faute.what(), HasSubstr("le disque est plein"));
+            EXPECT_THAT(faute.what(),
+                        HasSubstr(std::filesystem::path(neufs[places].chemin).filename().string()));
+        }
+        EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
+        EXPECT_EQ(dossier.lire("infosouris.txt"), "vieux\r\n");
+        EXPECT_FALSE(std::filesystem::exists(dossier.chemin() / "listes/b.txt"));
+        EXPECT_EQ(entrees(), 4U);
+    }
+}
+
+TEST_F(Sortie, ce_qu_une_fabrication_tuee_a_laisse_ne_gene_pas) {
+    std::filesystem::create_directories(dossier.chemin() / ".nouvelles-listes/listes");
+    dossier.ecrire(".nouvelles-listes/listes/debris.txt", "debris");
+    installer(neufs, dossier.chemin());
+    EXPECT_FALSE(std::filesystem::exists(dossier.chemin() / "listes/debris.txt"));
+    EXPECT_EQ(entrees(), 4U);
+}
+
+TEST_F(Sortie, deux_fabrications_ne_se_melent_pas) {
+    const int verrou = ::open(dossier.chemin().c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_GE(verrou, 0);
+    ASSERT_EQ(::flock(verrou, LOCK_EX), 0);
+    EXPECT_THROW(installer(neufs, dossier.chemin()), common::Faute);
+    ::close(verrou);
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
+    EXPECT_NO_THROW(installer(neufs, dossier.chemin()));
+}
+
+TEST_F(Sortie, un_fichier_a_la_place_du_dossier_est_une_faute) {
+    EXPECT_THROW(installer(neufs, dossier.chemin() / "users.dat"), common::Faute);
+    EXPECT_EQ(dossier.lire("users.dat"), "joueur");
+}
+
+}  // namespace
