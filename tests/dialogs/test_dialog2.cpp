@@ -45,7 +45,8 @@ class Dialog2 : public testing::Test {
     }
     [[nodiscard]] std::vector<std::string> tailles() const {
         std::vector<std::string> textes;
-        for (int i = 0; i < 5; ++i)
+        textes.reserve(dialogs::options::nbtailles);
+        for (int i = 0; i < static_cast<int>(dialogs::options::nbtailles); ++i)
             textes.push_back(texte("nbechan", i));
         return textes;
     }

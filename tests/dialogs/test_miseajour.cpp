@@ -142,13 +142,13 @@ TEST_F(MiseAJour, suppression_refusee_laisse_le_programme_ouvert) {
 }
 
 TEST_F(MiseAJour, les_deux_dossiers_sont_deux_notions) {
-    v.plateforme.dossier = "C:\\Jeux\\Orvane\\";
+    v.plateforme.dossier = R"(C:\Jeux\Orvane\)";
     toutpublier();
     const auto journal = verifier();
     EXPECT_EQ(journal.front(),
-              "telecharger " + version + " > C:\\Jeux\\Orvane\\version_en_ligne.txt");
+              "telecharger " + version + R"( > C:\Jeux\Orvane\version_en_ligne.txt)");
     EXPECT_THAT(journal, testing::Contains(chercherinstalleur));
-    EXPECT_EQ(journal.back(), "ouvrir C:\\Jeux\\Orvane\\orvane_setup.exe");
+    EXPECT_EQ(journal.back(), R"(ouvrir C:\Jeux\Orvane\orvane_setup.exe)");
     EXPECT_FALSE(v.plateforme.fini()) << "version_en_ligne.txt is not in the working folder";
 }
 

@@ -93,8 +93,8 @@ class Reseau : public testing::Test {
     Serveur serveur;
     VoisinageSur<Machine> v;
 
-    Reseau() { fs::current_path(dossier.path().toStdString()); }
-    ~Reseau() override { fs::current_path(ancien); }
+    void SetUp() override { fs::current_path(dossier.path().toStdString()); }
+    void TearDown() override { fs::current_path(ancien); }
 
     Journal verifier() { return verifier(serveur); }
     Journal verifier(const Serveur& ou) {
