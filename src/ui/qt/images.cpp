@@ -20,7 +20,8 @@ QString variante(const QString& chemin, const char* marque) {
     return point < 0 ? nom + QLatin1String(marque) : nom.insert(point, QLatin1String(marque));
 }
 
-/// The variant to draw from: the smallest one that is large enough, or else the largest.
+/// The variant to draw from: the smallest one that is large enough, or else the largest; none if
+/// no picture can be read.
 QString choisir(const QString& chemin, const QSize& voulue) {
     QString choix;
     for (const auto* marque : variantes) {
@@ -44,7 +45,8 @@ QPixmap image(const QString& chemin, const QSize& taille, double densite) {
     QPixmap vignette;
     if (QPixmapCache::find(cle, &vignette))
         return vignette;
-    const QImage originale(choisir(chemin, voulue));
+    const auto choix = choisir(chemin, voulue);
+    const auto originale = choix.isEmpty() ? QImage() : QImage(choix);
     if (originale.isNull() || voulue.isEmpty())
         return {};
     vignette =
