@@ -3,13 +3,17 @@
 
 #include <fstream>
 #include <iostream>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include <QApplication>
+
 #include "application.h"
 #include "pilotemodele.h"
+#include "piloteqt.h"
 #include "scenario.h"
 
 namespace {
@@ -63,8 +67,8 @@ void jouerfichier(const std::string& nom, const banc::Reglages& reglages, banc::
 
 int main(int argc, char** argv) {
     auto appel = analyser({argv, static_cast<std::size_t>(argc)});
-    if (!appel.bon || appel.qt) {
-        std::cerr << "banc [--dossier D] [FICHIER...]\n";
+    if (!appel.bon) {
+        std::cerr << "banc [--qt] [--dossier D] [FICHIER...]\n";
         return mauvaisappel;
     }
     auto& reglages = appel.reglages;
@@ -75,6 +79,14 @@ int main(int argc, char** argv) {
     reglages.fabriquepilote = [](banc::PlateformeSimulee& plateforme) {
         return std::make_unique<banc::PiloteModele>(plateforme);
     };
+    std::unique_ptr<QApplication> qt;
+    if (appel.qt) {
+        qt = banc::preparerqt(argc, argv);
+        reglages.pilote = banc::Destination::Qt;
+        reglages.fabriquepilote = [](banc::PlateformeSimulee& plateforme) {
+            return std::make_unique<banc::PiloteQt>(plateforme, plateforme.disque().systeme(""));
+        };
+    }
     banc::Bilan bilan;
     for (const auto& fichier : appel.fichiers)
         jouerfichier(fichier, reglages, bilan);

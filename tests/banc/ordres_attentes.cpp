@@ -10,6 +10,11 @@
 namespace banc {
 namespace {
 
+void accorder(const std::string& desaccord, const std::string& nom) {
+    if (!desaccord.empty())
+        throw Refus("l'écran et le modèle diffèrent : " + nom + " : " + desaccord);
+}
+
 /// The value of "Form1.solution(3).texte" or "Form1.focus".
 std::string valeur(Seance& seance, const std::string& nom) {
     const auto point = nom.rfind('.');
@@ -22,13 +27,12 @@ std::string valeur(Seance& seance, const std::string& nom) {
         if (cible.controle->genre() == ui::Genre::Entree && !proposee(*cible.controle))
             throw Refus("le menu de cette entrée n'est pas ouvert : " + nom);
         lu = lire(*cible.controle, propriete);
-        const auto ecart = seance.pilote->desaccord(*cible.controle);
-        if (!ecart.empty())
-            throw Refus("l'écran et le modèle diffèrent : " + ecart);
+        accorder(seance.pilote->desaccord(*cible.controle), nom);
     } else if (cible.minuterie != nullptr) {
         lu = lire(*cible.minuterie, propriete);
     } else {
         lu = lire(*cible.formulaire, propriete);
+        accorder(seance.pilote->desaccord(*cible.formulaire), nom);
     }
     if (!lu)
         throw OrdreFaux("propriété inconnue : " + nom);

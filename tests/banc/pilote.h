@@ -43,7 +43,12 @@ class Pilote {
     virtual void fermer(ui::Formulaire& formulaire) = 0;
     /// A picture of the visible windows; false if there are none to be seen.
     [[nodiscard]] virtual bool capturer(const std::filesystem::path& fichier) = 0;
-    /// What the screen shows of a control otherwise than the model says; empty if it agrees.
+    /// Lets the screen follow what the program has just done. What went wrong there, if anything
+    /// did.
+    [[nodiscard]] virtual std::string poser() = 0;
+    /// What the screen shows of a form, or of a control, otherwise than the model says; empty if
+    /// it agrees.
+    [[nodiscard]] virtual std::string desaccord(const ui::Formulaire& formulaire) = 0;
     [[nodiscard]] virtual std::string desaccord(const ui::Controle& controle) = 0;
 };
 

@@ -22,6 +22,10 @@ class PiloteModele : public Pilote {
     void fermermenu(ui::Formulaire& formulaire) override;
     void fermer(ui::Formulaire& formulaire) override;
     [[nodiscard]] bool capturer(const std::filesystem::path& /*fichier*/) override { return false; }
+    [[nodiscard]] std::string poser() override { return {}; }
+    [[nodiscard]] std::string desaccord(const ui::Formulaire& /*formulaire*/) override {
+        return {};
+    }
     [[nodiscard]] std::string desaccord(const ui::Controle& /*controle*/) override { return {}; }
 
   private:

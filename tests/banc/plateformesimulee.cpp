@@ -58,8 +58,7 @@ void PlateformeSimulee::relier(std::string_view fin, std::optional<std::string> 
     reseau_.push_back({std::string(fin), std::move(fichier)});
 }
 
-ui::Reponse PlateformeSimulee::demander(std::string_view texte, ui::Icone /*icone*/, bool ouinon) {
-    journal.messages.emplace_back(texte);
+ui::Reponse PlateformeSimulee::reponsesuivante(std::string_view texte, bool ouinon) {
     const auto parDefaut = ouinon ? ui::Reponse::Oui : ui::Reponse::Ok;
     if (reponses_.empty())
         return parDefaut;
@@ -69,6 +68,18 @@ ui::Reponse PlateformeSimulee::demander(std::string_view texte, ui::Icone /*icon
         return reponse;
     incident_ = "la réponse prévue n'est pas un bouton de la boîte : " + std::string(texte);
     return parDefaut;
+}
+
+ui::Reponse PlateformeSimulee::demander(std::string_view texte, ui::Icone icone, bool ouinon) {
+    journal.messages.emplace_back(texte);
+    const auto reponse = reponsesuivante(texte, ouinon);
+    return boite ? boite(texte, icone, ouinon, reponse) : reponse;
+}
+
+void PlateformeSimulee::rapporter(std::string_view rapport) {
+    rapport_ = rapport;
+    if (affichage)
+        affichage(rapport);
 }
 
 void PlateformeSimulee::pomper() {

@@ -54,16 +54,22 @@ class PlateformeSimulee : public ui::Plateforme {
     std::function<void(ui::Formulaire&)> fenetre;
     /// Lets the pending events of the windows run.
     std::function<void()> pompe;
+    /// Opens a message box and gives it this answer; the answer that came of it.
+    std::function<ui::Reponse(std::string_view, ui::Icone, bool ouinon, ui::Reponse)> boite;
+    /// Shows the report of a fault.
+    std::function<void(std::string_view)> affichage;
 
   protected:
     [[nodiscard]] ui::Reponse demander(std::string_view texte, ui::Icone icone,
                                        bool ouinon) override;
     void jouer(std::string_view fichier) override { journal.sons.emplace_back(fichier); }
     void pomper() override;
-    void rapporter(std::string_view rapport) override { rapport_ = rapport; }
+    void rapporter(std::string_view rapport) override;
     void arreter(int /*statut*/) override {}
 
   private:
+    [[nodiscard]] ui::Reponse reponsesuivante(std::string_view texte, bool ouinon);
+
     struct Adresse {
         std::string fin;
         std::optional<std::string> fichier;

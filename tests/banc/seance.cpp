@@ -55,7 +55,17 @@ std::string Seance::executer(const Ordre& ordre) {
         throw OrdreFaux("l'ordre ne prend pas de lignes : " + ordre.nom);
     if (plateforme.fini() && !commande->apreslafin)
         throw Refus("le programme est terminé");
-    return commande->faire(*this, ordre);
+    auto valeur = commande->faire(*this, ordre);
+    verifier();
+    return valeur;
+}
+
+/// The order went through, but not without trouble.
+void Seance::verifier() {
+    const auto ecran = pilote->poser();
+    const auto incident = plateforme.incident();
+    if (!ecran.empty() || !incident.empty())
+        throw OrdreFaux(incident.empty() ? ecran : incident);
 }
 
 std::string Seance::repondre(const Ordre& ordre) {
@@ -65,9 +75,6 @@ std::string Seance::repondre(const Ordre& ordre) {
         const auto valeur = executer(ordre);
         if (!valeur.empty())
             reponse = valeur;
-        const auto incident = plateforme.incident();
-        if (!incident.empty())
-            throw Refus(incident);
     } catch (const OrdreFaux& ennui) {
         return "erreur: " + enligne(ennui.what());
     } catch (const Refus& ennui) {

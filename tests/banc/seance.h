@@ -47,6 +47,9 @@ class Seance {
     std::unique_ptr<Pilote> pilote;
     std::unique_ptr<Programme> programme;
     bool demarree = false;  ///< the order `demarrer` was given
+
+  private:
+    void verifier();
 };
 
 /// What carries out the orders of a name.
