@@ -101,6 +101,8 @@ void Formulaire::doublecliquer(Controle& controle) {
 
 void Formulaire::choisir(Controle& liste, std::string_view entree) {
     liste.texte = std::string(entree);
+    const auto bout = std::string::npos;
+    liste.selectionner(bout, bout);
     declencher(liste.clic);
 }
 

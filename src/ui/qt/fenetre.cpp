@@ -178,7 +178,8 @@ void Fenetre::dimensionner() {
         std::min(partwip(place.size() - QSize(0, decor), design_.expandedTo(designdereference)),
                  plusgrande / Echelle::twipsparpixel);
     const auto taille = enpixels(design_, facteur);
-    setMinimumSize(enpixels(design_, pluspetite / Echelle::twipsparpixel));
+    setMinimumSize(
+        enpixels(design_, pluspetite / Echelle::twipsparpixel).boundedTo(place.size() / 2));
     resize(taille);
     const auto reste = place.size() - taille - QSize(0, decor);
     move(place.topLeft() + QPoint(std::max(0, reste.width() / 2), std::max(0, reste.height() / 2)));

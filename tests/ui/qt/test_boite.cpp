@@ -1,0 +1,273 @@
+// Text boxes: caret, selection, clipboard, input methods.
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include "bureauqt.h"
+
+namespace {
+
+using essais::BureauQt;
+
+class Boites : public BureauQt {
+  protected:
+    void SetUp() override {
+        BureauQt::SetUp();
+        forme->donnerfocus(*solution[0]);
+        fenetrier->rafraichir();
+        QGuiApplication::clipboard()->clear();
+    }
+    [[nodiscard]] QLineEdit& saisie(const ui::Controle& controle) const {
+        return static_cast<QLineEdit&>(widget(controle));
+    }
+    void ecrire(const std::string& texte) {
+        solution[0]->texte = texte;
+        const auto bout = std::string::npos;
+        solution[0]->selectionner(bout, bout);
+        fenetrier->rafraichir();
+    }
+    /// Entry of the box's own menu.
+    static QAction* entree(const QString& texte) {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (auto* action : menu == nullptr ? QList<QAction*>() : menu->actions()) {
+            if (action->text() == texte)
+                return action;
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(Boites, curseur_et_selection_du_modele_se_montrent) {
+    ecrire("ABCDE");
+    EXPECT_EQ(saisie(*solution[0]).cursorPosition(), 5);
+    solution[0]->selectionner(1, 4);
+    fenetrier->rafraichir();
+    EXPECT_EQ(saisie(*solution[0]).selectedText(), "BCD");
+    solution[0]->selectionner(2, 2);
+    fenetrier->rafraichir();
+    EXPECT_FALSE(saisie(*solution[0]).hasSelectedText());
+    EXPECT_EQ(saisie(*solution[0]).cursorPosition(), 2);
+}
+
+TEST_F(Boites, la_souris_pose_le_curseur_et_selectionne) {
+    ecrire("ABCDE");
+    cliquer(*solution[0], QPoint(2, 20));
+    EXPECT_EQ(solution[0]->curseur(), 0U);
+    cliquer(*solution[0], QPoint(148, 20));
+    EXPECT_EQ(solution[0]->curseur(), 5U);
+    cliquer(*solution[0], QPoint(75, 20));
+    EXPECT_GE(solution[0]->curseur(), 2U);
+    EXPECT_LE(solution[0]->curseur(), 3U);
+    EXPECT_EQ(solution[0]->selection(), 0U);
+    cliquer(*solution[0], QPoint(148, 20), Qt::ShiftModifier);
+    EXPECT_EQ(solution[0]->curseur(), 5U);
+    EXPECT_GE(solution[0]->selection(), 2U);
+}
+
+TEST_F(Boites, la_souris_qui_glisse_etend_la_selection) {
+    ecrire("ABCDE");
+    auto& boite = widget(*solution[0]);
+    QTest::mousePress(&boite, Qt::LeftButton, Qt::NoModifier, QPoint(2, 20));
+    QTest::mouseMove(&boite, QPoint(148, 20));
+    QMouseEvent glisse(QEvent::MouseMove, QPointF(148, 20), boite.mapToGlobal(QPointF(148, 20)),
+                       Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&boite, &glisse);
+    EXPECT_EQ(solution[0]->texteselectionne(), "ABCDE");
+    QTest::mouseRelease(&boite, Qt::LeftButton, Qt::NoModifier, QPoint(148, 20));
+    EXPECT_EQ(solution[0]->texteselectionne(), "ABCDE");
+}
+
+TEST_F(Boites, entrer_dans_une_boite_ne_selectionne_rien) {
+    solution[1]->texte = "MOT";
+    forme->donnerfocus(*solution[1]);
+    fenetrier->rafraichir();
+    EXPECT_FALSE(saisie(*solution[1]).hasSelectedText());
+    EXPECT_EQ(solution[1]->selection(), 0U);
+}
+
+TEST_F(Boites, un_double_clic_sans_autre_sens_selectionne_le_texte) {
+    ecrire("ABCDE");
+    doublecliquer(*solution[0]);
+    EXPECT_EQ(solution[0]->texteselectionne(), "ABCDE");
+    ecrire("ABCDE");
+    int menus = 0;
+    solution[0]->doubleclic = [&menus] { ++menus; };
+    doublecliquer(*solution[0]);
+    EXPECT_EQ(menus, 1);
+    EXPECT_EQ(solution[0]->selection(), 0U);
+}
+
+TEST_F(Boites, copier_couper_coller_passent_par_le_modele) {
+    std::string tapes;
+    solution[0]->caractere = [&tapes](int& code) {
+        tapes += static_cast<char>(code);
+        if (code == '1')
+            code = 0;
+    };
+    QGuiApplication::clipboard()->setText("A1B");
+    touche(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(tapes, "A1B");
+    EXPECT_EQ(solution[0]->texte(), "AB");
+    touche(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(solution[0]->texteselectionne(), "AB");
+    touche(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "AB");
+    QGuiApplication::clipboard()->clear();
+    touche(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "AB");
+    EXPECT_EQ(solution[0]->texte(), "");
+    touche(Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(solution[0]->texte(), "AB");
+}
+
+TEST_F(Boites, une_boite_verrouillee_se_copie_et_ne_se_coupe_ni_ne_se_colle) {
+    ecrire("ABC");
+    solution[0]->verrou = true;
+    solution[0]->toutselectionner();
+    fenetrier->rafraichir();
+    touche(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "ABC");
+    touche(Qt::Key_X, Qt::ControlModifier);
+    touche(Qt::Key_V, Qt::ControlModifier);
+    taper("Z");
+    EXPECT_EQ(solution[0]->texte(), "ABC");
+}
+
+TEST_F(Boites, le_menu_de_la_boite_est_en_francais_et_passe_par_le_modele) {
+    ecrire("ABC");
+    solution[0]->toutselectionner();
+    QGuiApplication::clipboard()->setText("XY");
+    QContextMenuEvent demande(QContextMenuEvent::Mouse, QPoint(10, 10),
+                              widget(*solution[0]).mapToGlobal(QPoint(10, 10)));
+    QApplication::sendEvent(&widget(*solution[0]), &demande);
+    ASSERT_NE(entree("Coller"), nullptr);
+    EXPECT_TRUE(entree("Couper")->isEnabled());
+    EXPECT_TRUE(entree("Copier")->isEnabled());
+    entree("Coller")->trigger();
+    EXPECT_EQ(solution[0]->texte(), "XY");
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(Boites, le_bouton_du_milieu_colle_la_selection_de_la_souris) {
+    auto* bloc = QGuiApplication::clipboard();
+    if (!bloc->supportsSelection()) {
+        cliquer(*solution[1], Qt::MiddleButton);
+        EXPECT_EQ(solution[1]->texte(), "");
+        return;
+    }
+    bloc->setText("Q", QClipboard::Selection);
+    cliquer(*solution[1], Qt::MiddleButton);
+    EXPECT_EQ(solution[1]->texte(), "Q");
+}
+
+TEST_F(Boites, rien_ne_se_depose) {
+    for (const auto* controle : {solution[0], notes, user})
+        EXPECT_FALSE(widget(*controle).acceptDrops()) << controle->nomcomplet();
+    EXPECT_FALSE(static_cast<QPlainTextEdit&>(widget(*notes)).viewport()->acceptDrops());
+}
+
+TEST_F(Boites, un_texte_compose_arrive_caractere_par_caractere) {
+    std::vector<int> codes;
+    solution[0]->caractere = [&codes](int& code) { codes.push_back(code); };
+    QInputMethodEvent evenement;
+    evenement.setCommitString("êA");
+    QApplication::sendEvent(&widget(*solution[0]), &evenement);
+    EXPECT_EQ(codes, (std::vector<int>{0xEA, 'A'}));
+    EXPECT_EQ(solution[0]->texte(), "êA");
+}
+
+TEST_F(Boites, un_texte_trop_long_est_reduit_et_non_coupe) {
+    solution[0]->taille = 24;
+    ecrire("WWWWWWWW");
+    const auto encre = [this] {
+        const auto vue = image(*solution[0]).copy(4, 4, 142, 32);
+        int gauche = vue.width();
+        int droite = 0;
+        for (int x = 0; x < vue.width(); ++x) {
+            for (int y = 0; y < vue.height(); ++y) {
+                if (vue.pixelColor(x, y).lightness() < 60) {
+                    gauche = std::min(gauche, x);
+                    droite = std::max(droite, x);
+                }
+            }
+        }
+        return std::pair(gauche, droite);
+    };
+    forme->donnerfocus(*solution[1]);
+    fenetrier->rafraichir();
+    const auto [gauche, droite] = encre();
+    EXPECT_GT(gauche, 0);
+    EXPECT_LT(droite, 141);
+    EXPECT_GT(droite - gauche, 100);
+}
+
+TEST_F(Boites, dans_un_texte_qui_deborde_le_curseur_reste_en_vue) {
+    ecrire(std::string(200, 'M'));
+    const auto curseur = [this] {
+        return widget(*solution[0]).inputMethodQuery(Qt::ImCursorRectangle).toRectF();
+    };
+    EXPECT_LE(curseur().right(), 150);
+    touche(Qt::Key_Home);
+    EXPECT_GE(curseur().left(), 0);
+    EXPECT_LT(curseur().left(), 20);
+}
+
+TEST_F(Boites, la_boite_de_plusieurs_lignes_rapporte_ce_qui_y_est_tape) {
+    forme->donnerfocus(*notes);
+    fenetrier->rafraichir();
+    taper("ab");
+    touche(Qt::Key_Return);
+    taper("c");
+    EXPECT_EQ(notes->texte(), "ab\nc");
+    touche(Qt::Key_Tab);
+    EXPECT_EQ(notes->texte(), "ab\nc");
+    EXPECT_NE(forme->focus(), notes);
+}
+
+TEST_F(Boites, la_boite_de_plusieurs_lignes_garde_ses_fins_de_ligne) {
+    notes->texte = "un\r\ndeux\r\n";
+    forme->donnerfocus(*notes);
+    fenetrier->rafraichir();
+    touche(Qt::Key_End, Qt::ControlModifier);
+    taper("x");
+    EXPECT_EQ(notes->texte(), "un\r\ndeux\r\nx");
+}
+
+TEST_F(Boites, la_boite_de_plusieurs_lignes_verrouillee_ne_change_pas) {
+    notes->texte = "lire";
+    notes->verrou = true;
+    forme->donnerfocus(*notes);
+    fenetrier->rafraichir();
+    taper("x");
+    touche(Qt::Key_Delete);
+    EXPECT_EQ(notes->texte(), "lire");
+}
+
+TEST_F(Boites, la_liste_s_ouvre_et_rend_l_entree_choisie) {
+    forme->donnerfocus(*user);
+    fenetrier->rafraichir();
+    touche(Qt::Key_Down);
+    auto* entrees = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(entrees, nullptr);
+    ASSERT_EQ(entrees->actions().size(), 2);
+    journal.clear();
+    entrees->actions().at(1)->trigger();
+    EXPECT_EQ(user->texte(), "Zoé & fils");
+    EXPECT_EQ(journal, std::vector<std::string>{"user!"});
+    entrees->close();
+    taper("!");
+    EXPECT_EQ(user->texte(), "Zoé & fils!");
+}
+
+TEST_F(Boites, un_clic_dans_le_texte_d_une_liste_n_est_pas_un_choix) {
+    cliquer(*user, QPoint(20, 15));
+    EXPECT_EQ(forme->focus(), user);
+    EXPECT_EQ(std::count(journal.begin(), journal.end(), "user!"), 0);
+}
+
+}  // namespace

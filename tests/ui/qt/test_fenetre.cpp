@@ -1,0 +1,149 @@
+// The window of a form: scale, showing and hiding, closing, leaving.
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QTest>
+
+#include "bureauqt.h"
+
+namespace {
+
+using essais::BureauQt;
+
+class Fenetres : public BureauQt {
+  protected:
+    [[nodiscard]] QRect place(const ui::Controle& controle) const {
+        return widget(controle).geometry();
+    }
+};
+
+TEST_F(Fenetres, porte_le_titre_de_la_forme) {
+    EXPECT_EQ(fenetre().windowTitle(), "Essai");
+    forme->texte = "Autre titre";
+    fenetrier->rafraichir();
+    EXPECT_EQ(fenetre().windowTitle(), "Autre titre");
+}
+
+TEST_F(Fenetres, a_la_taille_du_dessin_un_pixel_vaut_quinze_twips) {
+    EXPECT_EQ(place(*solution[1]), QRect(180, 100, 150, 40));
+}
+
+TEST_F(Fenetres, tout_grandit_ensemble) {
+    fenetre().resize(1200, 800);
+    EXPECT_EQ(place(*solution[1]), QRect(360, 200, 300, 80));
+}
+
+TEST_F(Fenetres, garde_ses_proportions_au_milieu_de_la_place) {
+    fenetre().resize(800, 400);
+    EXPECT_EQ(place(*solution[1]), QRect(100 + 180, 100, 150, 40));
+    fenetre().resize(600, 500);
+    EXPECT_EQ(place(*solution[1]), QRect(180, 50 + 100, 150, 40));
+}
+
+TEST_F(Fenetres, des_controles_qui_se_touchent_se_touchent_a_toute_echelle) {
+    auto& voisine = poser(ui::Genre::Bouton, "Command1", 1, {406, 100, 56, 56});
+    forme->texte = "Essai 2";
+    for (int largeur = 601; largeur < 700; largeur += 7) {
+        fenetre().resize(largeur, largeur * 2 / 3);
+        fenetrier->rafraichir();
+        EXPECT_EQ(place(*tuile).right() + 1, place(voisine).left()) << largeur;
+    }
+}
+
+TEST_F(Fenetres, au_depart_tient_dans_l_ecran) {
+    ui::Formulaire grande(plateforme, "Multi");
+    grande.largeur = 40000;
+    grande.hauteur = 11000;
+    fenetrier->accueillir(grande);
+    montrer(grande);
+    const auto ecran = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto* vue = fenetrier->fenetre(grande);
+    EXPECT_LE(vue->width(), ecran.width());
+    EXPECT_LE(vue->height(), ecran.height());
+    EXPECT_EQ(vue->width(), ecran.width());
+}
+
+TEST_F(Fenetres, un_dessin_qui_change_change_la_fenetre) {
+    forme->largeur = 300 * twips;
+    forme->hauteur = 350 * twips;
+    fenetrier->rafraichir();
+    EXPECT_EQ(fenetre().size(), QSize(300, 350));
+    EXPECT_EQ(place(*etiquette), QRect(20, 10, 200, 24));
+}
+
+TEST_F(Fenetres, la_case_de_fermeture_va_au_modele) {
+    int fermetures = 0;
+    forme->fermeture = [&fermetures] { ++fermetures; };
+    EXPECT_FALSE(fenetre().close());
+    EXPECT_EQ(fermetures, 1);
+    EXPECT_TRUE(fenetre().isVisible());
+    forme->fermeture = nullptr;
+    fenetre().close();
+    EXPECT_FALSE(forme->visible());
+    EXPECT_FALSE(fenetre().isVisible());
+}
+
+TEST_F(Fenetres, une_forme_cachee_puis_montree_dans_le_meme_evenement_ne_bouge_pas) {
+    fenetrier->executer([this] {
+        forme->visible = false;
+        forme->visible = true;
+    });
+    EXPECT_TRUE(fenetre().isVisible());
+}
+
+TEST_F(Fenetres, une_forme_dechargee_pendant_son_propre_evenement_s_en_va_sans_dommage) {
+    const QPointer<ui::qt::Fenetre> vue = &fenetre();
+    auto* bouton = &widget(*valider);
+    valider->clic = [this] { plateforme.apres([this] { forme.reset(); }); };
+    QTest::mouseClick(bouton, Qt::LeftButton);
+    EXPECT_EQ(forme, nullptr);
+    ASSERT_FALSE(vue.isNull());
+    EXPECT_FALSE(vue->isVisible());
+    QTest::mouseClick(bouton, Qt::LeftButton);
+    QTest::keyClick(vue.data(), Qt::Key_F8);
+    laisser();
+    EXPECT_TRUE(vue.isNull());
+    EXPECT_TRUE(fenetrier->fenetres().empty());
+}
+
+TEST_F(Fenetres, le_fenetrier_peut_partir_avant_les_formes) {
+    fenetrier.reset();
+    EXPECT_EQ(forme->vue, nullptr);
+    EXPECT_EQ(valider->vue, nullptr);
+    valider->texte = "Encore";
+    forme->texte = "Encore";
+    SUCCEED();
+}
+
+TEST_F(Fenetres, un_handler_qui_finit_le_programme_est_le_dernier) {
+    valider->clic = [] { ui::Plateforme::terminer(); };
+    cliquer(*valider);
+    EXPECT_TRUE(plateforme.fini());
+    journal.clear();
+    cliquer(*tuile);
+    EXPECT_EQ(journal, std::vector<std::string>{});
+}
+
+TEST_F(Fenetres, une_faute_est_rapportee_et_non_propagee) {
+    valider->clic = [] { throw std::runtime_error("rien ne va"); };
+    cliquer(*valider);
+    EXPECT_TRUE(plateforme.fini());
+    EXPECT_EQ(plateforme.statut(), 1);
+}
+
+TEST_F(Fenetres, une_forme_devant_s_ouvre_sur_celle_qui_est_active) {
+    ui::Formulaire options(plateforme, "Dialog2");
+    options.largeur = 200 * twips;
+    options.hauteur = 100 * twips;
+    options.devant = true;
+    fenetrier->accueillir(options);
+    montrer(options);
+    const auto* vue = fenetrier->fenetre(options);
+    ASSERT_NE(vue->windowHandle(), nullptr);
+    EXPECT_EQ(vue->windowHandle()->transientParent(), fenetre().windowHandle());
+    EXPECT_EQ(vue->windowModality(), Qt::NonModal);
+}
+
+}  // namespace
