@@ -33,12 +33,13 @@ Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
       perso_(ajouter(Genre::Boite, "Text2")),
       persook_(poser(Genre::Bouton, "Command16", -1, "OK", {})),
       total_(poser(Genre::Etiquette, "Label12", -1, "", {})),
+      cadrepied_(ajouter(Genre::Cadre, "cadreaide")),
       aide_(poser(Genre::Etiquette, "Label11", -1, "", {})),
       message_(poser(Genre::Etiquette, "Label13", -1, "", {})),
-      app_(poser(Genre::Case, "app", -1, "Apprentissage", {7560, 8655, 2100, 420})),
-      options_(poser(Genre::Bouton, "Command12", -1, "Options", {9450, 8640, 2010, 480})),
+      app_(poser(Genre::Case, "app", -1, "Apprentissage", {7560, 8610, 1860, 480})),
+      options_(poser(Genre::Bouton, "Command12", -1, "Options", {9450, 8610, 2010, 480})),
       apropos_(
-          poser(Genre::Bouton, "Command13", -1, "A propos de Orvan", {11640, 8640, 2010, 480})),
+          poser(Genre::Bouton, "Command13", -1, "A propos de Orvan", {11640, 8610, 2010, 480})),
       miseajour_(poser(Genre::Bouton, "Command17", -1, "Vérifier la mise à jour",
                        {7560, 9240, 3900, 480})),
       quitter_(poser(Genre::Bouton, "Command10", -1, "Quitter", {11640, 9240, 2010, 480})) {

@@ -102,7 +102,7 @@ class Form3 : public ui::Formulaire {
 
     common::Voisins& voisins_;
     Controles acces_;    ///< in the order of `lesacces`
-    Controles entetes_;  ///< headings of the columns
+    Controles entetes_;  ///< what is on show with any panel
     std::vector<Ligne> lignes_;
     Controles verbes_;  ///< badges: as many of each as a panel can need
     Controles cheres_;
@@ -110,6 +110,7 @@ class Form3 : public ui::Formulaire {
     ui::Controle& perso_;
     ui::Controle& persook_;
     ui::Controle& total_;
+    ui::Controle& cadrepied_;
     ui::Controle& aide_;
     ui::Controle& message_;
     ui::Controle& app_;

@@ -41,7 +41,12 @@ constexpr std::array<int, nbparties> colonnesparties{8400, 8615, 8825, 9035};
 constexpr int largeurpartie = 220;
 constexpr int hauteurpartie = 240;
 
+constexpr ui::Cadrage cadretable{45, 2250, 13710, 6180};
+constexpr ui::Cadrage cadretotal{colonnetout, hautentete, 5250, hauteurtexte};
+constexpr ui::Couleur encreentete{0x4A4438};
+
 // The foot: the help box, the message line over its end, and the buttons beside it.
+constexpr ui::Cadrage cadrepied{45, 8505, 7395, 1290};
 constexpr ui::Cadrage cadreaide{120, 8600, 7215, 1000};
 constexpr ui::Cadrage cadremessage{120, 9240, 7215, 495};
 constexpr std::string_view policeaide = "Times New Roman";
@@ -62,6 +67,7 @@ Form3::Controles Form3::poseracces() {
         auto& bouton = poser(Genre::Bouton, acces.nom, acces.index, acces.libelle, acces.cadre);
         if (acces.groupe == Groupe::Aucun) {
             bouton.gras = true;
+            bouton.taille = 9;
             bouton.aspect = ui::Aspect::Principal;
         }
         boutons.push_back(&bouton);
@@ -69,6 +75,7 @@ Form3::Controles Form3::poseracces() {
     return boutons;
 }
 
+/// A card under the table, and the headings of its columns.
 Form3::Controles Form3::poserentetes() {
     struct Entete {
         std::string_view nom;
@@ -80,13 +87,16 @@ Form3::Controles Form3::poserentetes() {
         Entete{"Label2", "Listes", colonnenom, largeurnom},
         Entete{"Label3", "Nombre", colonnenombre, largeurnombre},
         Entete{"Label7", "Date", colonnedate, largeurdate},
-        Entete{"Label9", "Dernier pourcentage", colonneresultat, largeurresultat - 210},
-        Entete{"Label8", "%", colonneresultat + largeurresultat - 180, 180},
+        Entete{"Label9", "Dernier pourcentage", colonneresultat - 120, largeurresultat},
+        Entete{"Label8", "%", colonneresultat + largeurresultat - 150, 210},
     };
-    Controles poses;
-    for (const auto& e : entetes)
-        poses.push_back(&poser(Genre::Etiquette, e.nom, -1, e.libelle,
-                               {e.gauche, hautentete, e.largeur, hauteurtexte}));
+    Controles poses{&poser(Genre::Cadre, "cadretable", -1, "", cadretable)};
+    for (const auto& e : entetes) {
+        auto& entete = poser(Genre::Etiquette, e.nom, -1, e.libelle,
+                             {e.gauche, hautentete, e.largeur, hauteurtexte});
+        entete.couleur = encreentete;
+        poses.push_back(&entete);
+    }
     return poses;
 }
 
@@ -162,7 +172,10 @@ void Form3::dresser() {
     perso_.texte = "perso.txt";
     perso_.accessible = "Fichier personnel";
     persook_.placer({colonnenom + 1860, sommet + 60, 570, 375});
-    total_.placer({colonnenombre, 8250, 2400, hauteurtexte});
+    total_.placer(cadretotal);
+    total_.alignement = ui::Alignement::Droite;
+    total_.gras = true;
+    cadrepied_.placer(cadrepied);
     aide_.placer(cadreaide);
     aide_.police = std::string(policeaide);
     aide_.taille = 12;
