@@ -3,93 +3,22 @@ of the list, and back. What is true is read from the files and from the accessib
 
 import sys
 
-from scene import Echec, Scene, attendre
+from joueur import (MENU, REFERENCES, SERIE, connecternouveau, lancer, ouvrirpanneau, tous, tuiles,
+                    verifier)
+from scene import Scene, attendre
 
-MENU = "Orvane - Menu"
-SERIE = "ENTRAINEMENT AU SCRABBLE - Orvane"
 PANNEAU7 = ["7up", "7v6", "7v0", "7v5", "7v1", "7v4", "7v2", "7v3"]
 SOLUTIONS = {"AABC": "CABA", "EIRST": "TIERS", "AGINS": "GAINS"}
-
-
-def verifier(condition, quoi):
-    if not condition:
-        raise Echec(quoi)
 
 
 def preparer(scene):
     for liste in PANNEAU7:
         scene.ecrire(f"listes\\{liste}.txt", "AB;BA")
     scene.ecrire("listes\\7v6.txt", *(f"{t};{s}" for t, s in SOLUTIONS.items()))
-    for liste in ["ods5", "ods6", "ods7", "vbi", "vbt4-10", "inv"]:
+    for liste in REFERENCES:
         scene.ecrire(f"listes\\{liste}.txt")
     scene.ecrire("listes\\inv.txt", "GAINS")
     scene.ecrire("infosouris.txt", "TIERS", "Troisième partie")
-
-
-def connecter(scene):
-    """A first start: a new player is made, then logs in."""
-    objets = scene.objets("Bienvenue")
-    scene.cliquer(objets["Nouvel utilisateur ?"])
-    nom = attendre(lambda: scene.objets("Bienvenue").get("Nom du nouvel utilisateur"), "la boîte du nom")
-    attendre(lambda: scene.etat(nom, "FOCUSED"), "le focus dans la boîte du nom")
-    scene.taper("Anne")
-    scene.touche("Return")
-    attendre(lambda: scene.etat(scene.objets("Bienvenue")["COMMENCER"], "ENABLED"), "COMMENCER actif")
-    scene.cliquer(scene.objets("Bienvenue")["COMMENCER"])
-    scene.fenetre(MENU)
-    verifier(scene.lire("users.dat") == ["Anne"], "users.dat")
-    verifier(scene.lire("Anne\\hist.dat") == [], "hist.dat vide")
-
-
-def lancer(scene, rang=1):
-    """Opens the panel of seven letters and its second list."""
-    scene.cliquer(scene.objets(MENU)["SCRABBLES UNIQUES"])
-    sept = attendre(lambda: scene.objets(MENU).get("7 lettres"), "le bouton 7 lettres")
-    scene.cliquer(sept)
-    attendre(lambda: scene.objets(MENU).get("7L poids 6"), "le panneau des 7 lettres")
-    boutons = [o for o in tous(scene.fenetre(MENU)) if o.name.startswith("Tout") and visible(scene, o)]
-    boutons.sort(key=lambda o: o.queryComponent().getExtents(0).y)
-    verifier(len(boutons) == len(PANNEAU7), "un bouton Tout par liste")
-    scene.cliquer(boutons[rang])
-    scene.fenetre(SERIE)
-
-
-def tous(objet):
-    yield objet
-    for enfant in objet:
-        if enfant is not None:
-            yield from tous(enfant)
-
-
-def visible(scene, objet):
-    return scene.etat(objet, "SHOWING")
-
-
-class Serie:
-    """The window of a series, read afresh at each look."""
-
-    def __init__(self, scene):
-        self.scene = scene
-        self.objets = scene.objets(SERIE)
-
-    def lire(self, nom):
-        return self.scene.texte(self.objets[nom])
-
-    def tirage(self, rang):
-        return self.lire(f"Tirage {rang}")
-
-    def reponse(self, rang):
-        return self.lire(f"Réponse {rang}")
-
-    def attendre(self, nom, valeur):
-        attendre(lambda: self.lire(nom) == valeur, f"{nom} = « {valeur} » (lu « {self.lire(nom)} »)")
-
-    def focus(self, nom):
-        attendre(lambda: self.scene.etat(self.objets[nom], "FOCUSED"), f"le focus sur {nom}")
-
-    def actif(self, nom, oui=True):
-        attendre(lambda: self.scene.etat(self.objets[nom], "ENABLED") == oui,
-                 f"{nom} {'actif' if oui else 'inactif'}")
 
 
 def parcourir(scene, serie):
@@ -122,16 +51,11 @@ def saisirassiste(scene, serie):
     serie.focus("Réponse 2")
 
 
-def echangertuiles(scene, serie):
-    def tuiles():
-        liste = [o for o in tous(scene.fenetre(SERIE)) if o.name.startswith("Tuile ") and " : " in o.name]
-        liste.sort(key=lambda o: o.queryComponent().getExtents(0).x)
-        return liste
-
-    avant = [o.name for o in tuiles()]
-    scene.cliquer(tuiles()[0])
-    scene.cliquer(tuiles()[-1])
-    attendre(lambda: [o.name for o in tuiles()] == [avant[-1], *avant[1:-1], avant[0]],
+def echangertuiles(scene):
+    avant = [o.name for o in tuiles(scene)]
+    scene.cliquer(tuiles(scene)[0])
+    scene.cliquer(tuiles(scene)[-1])
+    attendre(lambda: [o.name for o in tuiles(scene)] == [avant[-1], *avant[1:-1], avant[0]],
              "les tuiles échangées")
 
 
@@ -163,8 +87,7 @@ def validerparlaligne(scene, serie):
 
 def corriger(scene, serie, faux):
     bon, manque = serie.tirage(1), serie.tirage(3)
-    scene.touche("F12")
-    serie.actif("Corriger (F12)", False)
+    serie.corriger()
     serie.actif("Nouvelle série(F8)")
     serie.attendre("Tirage 1", bon)
     serie.attendre("Tirage 2", SOLUTIONS[faux])
@@ -203,10 +126,7 @@ def finir(scene, serie):
     attendre(lambda: scene.lire("Anne\\hist.dat"), "le résultat dans hist.dat")
     record = scene.lire("Anne\\hist.dat")
     verifier(len(record) == 1 and record[0].endswith(" - 33.3% - T - 7v6.txt"), f"résultat {record}")
-    lettres = [o.name[-1] for o in sorted(
-        (o for o in tous(scene.fenetre(SERIE)) if o.name.startswith("Tuile ")),
-        key=lambda o: o.queryComponent().getExtents(0).x) if " : " in o.name]
-    verifier("".join(lettres) == "BRAVO!", f"BRAVO! sur les tuiles ({lettres})")
+    verifier("".join(o.name[-1] for o in tuiles(scene)) == "BRAVO!", "BRAVO! sur les tuiles")
     serie.attendre("Tirages restants", "0")
     serie.actif("Nouvelle série(F8)", False)
     scene.photographier("bravo")
@@ -216,12 +136,14 @@ def main(programme, jeu, captures):
     with Scene(programme, jeu, captures) as scene:
         preparer(scene)
         scene.demarrer()
-        connecter(scene)
-        lancer(scene)
-        serie = Serie(scene)
+        connecternouveau(scene, "Anne")
+        verifier(scene.lire("users.dat") == ["Anne"], "users.dat")
+        verifier(scene.lire("Anne\\hist.dat") == [], "hist.dat vide")
+        ouvrirpanneau(scene, "SCRABBLES UNIQUES", "7 lettres")
+        serie = lancer(scene, "Tout", "7L poids 6")
         parcourir(scene, serie)
         saisirassiste(scene, serie)
-        echangertuiles(scene, serie)
+        echangertuiles(scene)
         faireunepause(scene, serie)
         faux = validerparlaligne(scene, serie)
         corriger(scene, serie, faux)
@@ -229,7 +151,7 @@ def main(programme, jeu, captures):
         menudumot(scene, serie, faux)
         finir(scene, serie)
         scene.fermer(SERIE)
-        scene.fenetre(MENU)
+        scene.devant(MENU)
         attendre(lambda: any("33.3% - T" in o.name for o in tous(scene.fenetre(MENU))),
                  "le résultat dans le tableau")
         scene.photographier("menu")

@@ -13,7 +13,7 @@ import subprocess
 import tempfile
 import time
 
-ATTENTE = 20  # seconds after which a condition that has not come is a failure
+ATTENTE = 40  # seconds after which a condition that has not come is a failure
 
 
 class Echec(AssertionError):
@@ -45,6 +45,13 @@ class Scene:
         self.processus = None
 
     def __enter__(self):
+        try:
+            return self._dresser()
+        except BaseException:
+            self.pile.close()
+            raise
+
+    def _dresser(self):
         self.captures.mkdir(parents=True, exist_ok=True)
         self.dossier = pathlib.Path(tempfile.mkdtemp(prefix="partie d'été "))
         self.pile.callback(shutil.rmtree, self.dossier, ignore_errors=True)
@@ -52,10 +59,12 @@ class Scene:
         shutil.copy(self.jeu / "APP05.WAV", self.dossier)
         lecture, ecriture = os.pipe()
         self._lancer(["Xvfb", "-displayfd", str(ecriture), "-screen", "0", self.taille + "x24",
-                      "-nolisten", "tcp"], pass_fds=(ecriture,))
+                      "-nolisten", "tcp", "-noreset"], pass_fds=(ecriture,))
         os.close(ecriture)
         with os.fdopen(lecture) as tube:
             os.environ["DISPLAY"] = ":" + tube.readline().strip()
+        # The keyboard of the players: accented letters have keys of their own.
+        subprocess.run(["setxkbmap", "fr"], check=True, capture_output=True)
         self._lancer(["openbox", "--sm-disable"])
         attendre(lambda: subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"],
                                         capture_output=True, text=True).stdout.count("0x"),
@@ -152,6 +161,11 @@ class Scene:
 
         return attendre(chercher, f"la fenêtre « {titre} »")
 
+    def devant(self, titre):
+        """The window, once it has come in front."""
+        attendre(lambda: self.etat(self.fenetre(titre), "ACTIVE"), f"« {titre} » devant")
+        return self.fenetre(titre)
+
     def objets(self, titre):
         """Every object of a window, by accessible name."""
         parnom = {}
@@ -187,9 +201,19 @@ class Scene:
         self.xdotool("type", "--delay", "15", texte)
 
     def cliquer(self, objet, fois=1):
-        boite = objet.queryComponent().getExtents(0)
-        self.xdotool("mousemove", str(boite.x + boite.width // 2), str(boite.y + boite.height // 2),
-                     "click", "--repeat", str(fois), "--delay", "60", "1")
+        def place():
+            boite = objet.queryComponent().getExtents(0)
+            return boite.x + boite.width // 2, boite.y + boite.height // 2
+
+        def posee():
+            avant = place()
+            time.sleep(0.05)
+            return avant == place()
+
+        attendre(posee, "une place stable")  # its window may still be on its way
+        x, y = place()
+        self.xdotool("mousemove", str(x), str(y), "click", "--repeat", str(fois), "--delay", "60",
+                     "1")
 
     def nombrefenetres(self):
         """Windows of the program on the screen, menus included."""

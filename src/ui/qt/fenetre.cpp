@@ -10,6 +10,7 @@
 #include <QWindow>
 
 #include "fenetrier.h"
+#include "fonte.h"
 #include "menucontextuel.h"
 #include "texteqt.h"
 #include "theme.h"
@@ -26,6 +27,7 @@ constexpr unsigned bit(ChampFormulaire champ) {
 // all windows of the program speak in the same size.
 constexpr QSize designdereference(20490, 10980);
 constexpr int decor = 36;           // pixels that a title bar takes, at the most
+constexpr double corpsdemenu = 10;  // points
 constexpr double plusgrande = 2;    // scale that a window doesn't pass by itself
 constexpr double pluspetite = .35;  // under it nobody could read
 
@@ -89,6 +91,10 @@ void Fenetre::filtrer(QWidget& widget, Controle& controle) {
 Vue* Fenetre::vuede(const Controle& controle) const {
     const auto trouve = parcontrole_.find(&controle);
     return trouve == parcontrole_.end() ? nullptr : trouve->second;
+}
+
+QFont Fenetre::fontedemenu() const {
+    return fonte({}, echelle_.corps(corpsdemenu), *this);
 }
 
 QMenu* Fenetre::menu() const {
@@ -160,8 +166,19 @@ void Fenetre::montrerformulaire() {
         if (taille == size())
             remettreechelle();
         else
-            resize(taille.boundedTo(screen()->availableSize()));
+            redimensionner(taille);
     }
+}
+
+/// Takes another size, and moves only as far as it must to stay on the screen.
+void Fenetre::redimensionner(const QSize& voulue) {
+    const auto place = screen()->availableGeometry();
+    const auto taille = voulue.boundedTo(place.size() - QSize(0, decor));
+    resize(taille);
+    const auto limite = place.size() - taille - QSize(0, decor);
+    const auto ecart = pos() - place.topLeft();
+    move(place.topLeft() + QPoint(std::clamp(ecart.x(), 0, std::max(0, limite.width())),
+                                  std::clamp(ecart.y(), 0, std::max(0, limite.height()))));
 }
 
 QSize Fenetre::tailledessinee() const {

@@ -31,6 +31,7 @@ class Fenetre : public QWidget, public VueFormulaire {
     /// The form is gone; the window only waits for its end.
     [[nodiscard]] bool orpheline() const { return formulaire_ == nullptr; }
     [[nodiscard]] const Echelle& echelle() const { return echelle_; }
+    [[nodiscard]] QFont fontedemenu() const;
     [[nodiscard]] Vue* vuede(const Controle& controle) const;
     [[nodiscard]] QMenu* menu() const;
     /// The window, or a pop-up menu of its own, is the one that the user works in.
@@ -70,6 +71,7 @@ class Fenetre : public QWidget, public VueFormulaire {
     void filtrer(QWidget& widget, Controle& controle);
     void montrerformulaire();
     void dimensionner();
+    void redimensionner(const QSize& voulue);
     void remettreechelle();
     void accorderfocus();
     void accorderdefaut();

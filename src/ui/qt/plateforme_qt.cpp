@@ -53,7 +53,8 @@ void PlateformeQt::jouer(std::string_view fichier) {
 
 void PlateformeQt::pomper() {
     fenetrier_.rafraichir();
-    QCoreApplication::processEvents();
+    // The player's own events wait: they must not find a list or a login half done.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void PlateformeQt::rapporter(std::string_view rapport) {
