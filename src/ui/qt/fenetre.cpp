@@ -170,11 +170,16 @@ void Fenetre::montrerformulaire() {
     }
 }
 
-/// Takes another size, and moves only as far as it must to stay on the screen.
+/// Takes another size, and moves only as far as it must to stay on the screen. A hidden window
+/// comes back in the middle.
 void Fenetre::redimensionner(const QSize& voulue) {
     const auto place = screen()->availableGeometry();
     const auto taille = voulue.boundedTo(place.size() - QSize(0, decor));
     resize(taille);
+    if (!isVisible()) {
+        centrer(place);
+        return;
+    }
     const auto limite = place.size() - taille - QSize(0, decor);
     const auto ecart = pos() - place.topLeft();
     move(place.topLeft() + QPoint(std::clamp(ecart.x(), 0, std::max(0, limite.width())),
@@ -198,9 +203,13 @@ void Fenetre::dimensionner() {
     setMinimumSize(
         enpixels(design_, pluspetite / Echelle::twipsparpixel).boundedTo(place.size() / 2));
     resize(taille);
-    const auto reste = place.size() - taille - QSize(0, decor);
-    move(place.topLeft() + QPoint(std::max(0, reste.width() / 2), std::max(0, reste.height() / 2)));
+    centrer(place);
     remettreechelle();
+}
+
+void Fenetre::centrer(const QRect& place) {
+    const auto reste = place.size() - size() - QSize(0, decor);
+    move(place.topLeft() + QPoint(std::max(0, reste.width() / 2), std::max(0, reste.height() / 2)));
 }
 
 void Fenetre::remettreechelle() {

@@ -72,6 +72,8 @@ class Fenetre : public QWidget, public VueFormulaire {
     void montrerformulaire();
     void dimensionner();
     void redimensionner(const QSize& voulue);
+    /// Puts a window that is not shown in the middle of a screen.
+    void centrer(const QRect& place);
     void remettreechelle();
     void accorderfocus();
     void accorderdefaut();
