@@ -79,7 +79,7 @@ class LecteurLexique {
     Lexique lire() {
         const auto annoncees = lireentete();
         lexique_.formes.reserve(formesprevues);
-        numeros_.reserve(annoncees);
+        numeros_.reserve(std::min(annoncees, formesprevues));  // the announcement may be anything
         std::string_view ligne;
         std::size_t lues = 0;
         for (; lignes_.suivante(ligne); ++lues) {

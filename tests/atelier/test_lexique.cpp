@@ -165,6 +165,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Casse{"aucune_entree", "0\n", "aucun mot"},
                     Casse{"aucun_mot_jouable", "1\nParis po:npr\n", "aucun mot"},
                     Casse{"coupe", "200\nchat po:nom\n", "il annonce 200 entrées et en a 1"},
+                    Casse{"annonce_enorme", "18446744073709551615\nchat po:nom\n", "est coupé"},
                     Casse{"pas_utf8", "1\n\xE9t\xE9 po:nom\n", "UTF-8"},
                     Casse{"binaire",
                           std::string("\x7f"
