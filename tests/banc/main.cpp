@@ -11,24 +11,14 @@
 
 #include <QApplication>
 
-#include "application.h"
 #include "pilotemodele.h"
 #include "piloteqt.h"
+#include "programmereel.h"
 #include "scenario.h"
 
 namespace {
 
 constexpr int mauvaisappel = 2;
-
-class ProgrammeReel : public banc::Programme {
-  public:
-    explicit ProgrammeReel(ui::Plateforme& plateforme) : application_(plateforme) {}
-    void demarrer() override { application_.demarrer(); }
-    [[nodiscard]] common::Voisins& voisins() override { return application_.voisins(); }
-
-  private:
-    application::Application application_;
-};
 
 struct Appel {
     bool qt = false;
@@ -74,7 +64,7 @@ int main(int argc, char** argv) {
     auto& reglages = appel.reglages;
     reglages.jeu = ORVANE_JEU;
     reglages.programme = [](ui::Plateforme& plateforme) {
-        return std::make_unique<ProgrammeReel>(plateforme);
+        return std::make_unique<banc::ProgrammeReel>(plateforme);
     };
     reglages.fabriquepilote = [](banc::PlateformeSimulee& plateforme) {
         return std::make_unique<banc::PiloteModele>(plateforme);

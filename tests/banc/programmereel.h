@@ -1,0 +1,19 @@
+#pragma once
+
+#include "application.h"
+#include "programme.h"
+
+namespace banc {
+
+/// The program itself. For whoever links `orvane_application`.
+class ProgrammeReel : public Programme {
+  public:
+    explicit ProgrammeReel(ui::Plateforme& plateforme) : application_(plateforme) {}
+    void demarrer() override { application_.demarrer(); }
+    [[nodiscard]] common::Voisins& voisins() override { return application_.voisins(); }
+
+  private:
+    application::Application application_;
+};
+
+}  // namespace banc
