@@ -4,12 +4,15 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <compare>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace atelier {
 
@@ -34,17 +37,36 @@ class Capitales {
     /// The letters in alphabetical order: the rack of the word.
     [[nodiscard]] Capitales triees() const {
         Capitales rangees = *this;
-        std::sort(rangees.lettres_.begin(), rangees.lettres_.begin() + lettres_.back());
+        auto& l = rangees.lettres_;
+        for (std::size_t i = 1; i < taille(); ++i) {
+            for (std::size_t k = i; k > 0 && l[k] < l[k - 1]; --k)
+                std::swap(l[k], l[k - 1]);
+        }
         return rangees;
+    }
+
+    /// The letters and the length as two numbers that compare as the letters do.
+    [[nodiscard]] std::array<std::uint64_t, 2> nombres() const {
+        std::array<std::uint64_t, 2> moities{};
+        std::memcpy(moities.data(), lettres_.data(), lettres_.size());
+        if constexpr (std::endian::native == std::endian::little) {
+            for (auto& moitie : moities)
+                moitie = __builtin_bswap64(moitie);
+        }
+        return moities;
     }
 
     /// Shorter words first, then by alphabet.
     [[nodiscard]] std::strong_ordering operator<=>(const Capitales& autre) const {
+        const auto a = nombres();
+        const auto b = autre.nombres();
         if (taille() != autre.taille())
             return taille() <=> autre.taille();
-        return std::memcmp(lettres_.data(), autre.lettres_.data(), longueurmax) <=> 0;
+        return a[0] != b[0] ? a[0] <=> b[0] : a[1] <=> b[1];
     }
-    [[nodiscard]] bool operator==(const Capitales& autre) const = default;
+    [[nodiscard]] bool operator==(const Capitales& autre) const {
+        return nombres() == autre.nombres();
+    }
 
   private:
     std::array<char, longueurmax + 1> lettres_{};  // the last one is the length

@@ -25,7 +25,8 @@ std::size_t rang3(char a, char b, char c) {
 /// Number of bits of the fourth power of a count.
 std::uint8_t bits(std::uint64_t compte) {
     __extension__ using Large = unsigned __int128;
-    const auto carre = static_cast<Large>(compte * compte);
+    const auto large = static_cast<Large>(compte);
+    const auto carre = large * large;
     const auto puissance = carre * carre;
     const auto haut = static_cast<std::uint64_t>(puissance >> 64U);
     const auto largeur = haut != 0 ? 64 + std::bit_width(haut)

@@ -110,7 +110,9 @@ class Page {
     void poser(const Encre& encre, int gauche, int haut) {
         for (int y = 0; y < encre.hauteur; ++y) {
             for (int x = 0; x < encre.largeur; ++x) {
-                const auto part = encre.parts[static_cast<std::size_t>(y * encre.largeur + x)];
+                const auto part = encre.parts[static_cast<std::size_t>(y) *
+                                                  static_cast<std::size_t>(encre.largeur) +
+                                              static_cast<std::size_t>(x)];
                 auto& dessous = pixel(gauche + x, haut + y);
                 dessous = static_cast<std::uint8_t>(std::lround(dessous * (1 - part / opaque)));
             }

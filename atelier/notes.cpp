@@ -125,6 +125,7 @@ std::vector<Note> notes(const Vocabulaire& v, const Thesaurus& thesaurus,
               [&](const Candidate& a, const Candidate& b) { return utilite(a) < utilite(b); });
     candidates.resize(std::min(candidates.size(), notesmax));
     std::vector<Note> choisies;
+    choisies.reserve(candidates.size());
     for (auto& candidate : candidates)
         choisies.push_back(std::move(candidate.note));
     std::sort(choisies.begin(), choisies.end(),

@@ -50,7 +50,7 @@ class Lecteur {
     std::string valeur(const std::string& nom) {
         if (reste_.empty() || reste_.front().empty() || reste_.front().starts_with("--"))
             throw MauvaisUsage("L'option " + nom + " attend une valeur.");
-        const auto lue = reste_.front();
+        auto lue = reste_.front();
         reste_ = reste_.subspan(1);
         return lue;
     }

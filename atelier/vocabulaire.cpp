@@ -11,9 +11,7 @@ constexpr std::array valeurs{1, 3, 3, 2, 1, 4, 2, 4, 1, 8,  10, 1,  2,
                              1, 1, 3, 8, 1, 1, 1, 1, 4, 10, 10, 10, 10};
 
 std::size_t hachage(const Capitales& mot) {
-    std::array<std::uint64_t, 2> moities{};
-    static_assert(sizeof(Capitales) == sizeof moities);
-    std::memcpy(moities.data(), &mot, sizeof moities);
+    const auto moities = mot.nombres();
     auto h = (moities[0] ^ std::rotl(moities[1], 29)) * 0x9E3779B97F4A7C15ULL;
     h ^= h >> 32U;
     return static_cast<std::size_t>(h * 0xD6E8FEB86659FD93ULL >> 20U);

@@ -119,7 +119,7 @@ const Compte comptes[] = {
     {"8l_duos_sanstirage.txt", 1600},
     {"7l_trios_purs.txt", 345},
     {"7l_trios_impurs.txt", 169},
-    {"8l_trios_purs.txt", 253},
+    {"8l_trios_purs.txt", 252},
     {"8l_trios_impurs.txt", 137},
     {"7l_quatuors_purs.txt", 110},
     {"7l_quatuors_impurs.txt", 57},
