@@ -14,8 +14,8 @@ constexpr int marge = 240;
 constexpr int cotedeappui = 60;
 constexpr int twipsparpixel = 15;
 
-constexpr const char* images7lettres = "images\\7l_6anagrammes.bmp";
-constexpr const char* images8lettres = "images\\8l_6anagrammes.bmp";
+constexpr const char* images7lettres = "images\\7l_6anagrammes.png";
+constexpr const char* images8lettres = "images\\8l_6anagrammes.png";
 
 std::string textesurorvane(const common::VariablesForm3& menu) {
     using namespace common::adresses;

@@ -65,6 +65,11 @@ TEST_F(Dialog1, un_deuxieme_clic_recommence_le_texte) {
     EXPECT_EQ(form.texte(), "A propos de Orvane");
 }
 
+TEST_F(Dialog1, les_images_portent_le_nom_de_leurs_listes) {
+    EXPECT_EQ(controle("Image1").image(), R"(images\7l_6anagrammes.png)");
+    EXPECT_EQ(controle("Image2").image(), R"(images\8l_6anagrammes.png)");
+}
+
 TEST_F(Dialog1, l_index_1_montre_les_7_lettres_a_la_taille_de_l_image) {
     poser("Image1", 400, 300);
     form.montrerimage(1);
