@@ -34,7 +34,6 @@ Boite::Boite(QWidget& parent, Fenetre& fenetre, Controle& controle)
     setFrame(false);
     setDragEnabled(false);
     setAcceptDrops(false);
-    setAttribute(Qt::WA_Hover);
 }
 
 void Boite::montrer(Champs champs) {
@@ -182,7 +181,7 @@ void Boite::contextMenuEvent(QContextMenuEvent* evenement) {
                 executer(suite);
         };
     };
-    deroulermenuedition(*this, evenement->globalPos(),
+    deroulermenuedition(*this, evenement->globalPos(), fontedemenu(),
                         {.couper = {libre && controle()->selection() > 0, seulement([this, bloc] {
                                         bloc->setText(versqt(controle()->formulaire().couper()));
                                     })},

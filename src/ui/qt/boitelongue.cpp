@@ -103,7 +103,7 @@ void BoiteLongue::contextMenuEvent(QContextMenuEvent* evenement) {
     evenement->accept();
     const bool choisi = textCursor().hasSelection();
     const bool libre = !isReadOnly();
-    deroulermenuedition(*this, evenement->globalPos(),
+    deroulermenuedition(*this, evenement->globalPos(), fontedemenu(),
                         {.couper = {libre && choisi, [this] { cut(); }},
                          .copier = {choisi, [this] { copy(); }},
                          .coller = {libre && canPaste(), [this] { paste(); }},

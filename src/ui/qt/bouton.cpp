@@ -26,7 +26,6 @@ QSizeF placetexte(const QSize& taille, double unite) {
 
 Bouton::Bouton(QWidget& parent, Fenetre& fenetre, Controle& controle)
     : VueDe(parent, fenetre, controle) {
-    setAttribute(Qt::WA_Hover);
     QObject::connect(this, &QAbstractButton::clicked, this, [this] {
         if (this->controle() != nullptr)
             cliquer();

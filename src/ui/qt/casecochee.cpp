@@ -21,7 +21,6 @@ constexpr double rayon = 5;
 
 CaseCochee::CaseCochee(QWidget& parent, Fenetre& fenetre, Controle& controle)
     : VueDe(parent, fenetre, controle) {
-    setAttribute(Qt::WA_Hover);
     QObject::connect(this, &QAbstractButton::clicked, this, [this] {
         if (this->controle() != nullptr)
             cliquer();

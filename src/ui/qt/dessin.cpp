@@ -15,6 +15,7 @@ constexpr double rayonbouton = 7;
 constexpr double rayontuile = 8;
 constexpr double rayoncarte = 12;
 constexpr double rayoncoche = 4;
+constexpr double plusbasse = 8;  // a box lower than that is no box to look at
 
 const QColor blanc = QColor::fromRgb(teintes::papier);
 const QColor noir = QColor::fromRgb(teintes::encre);
@@ -159,6 +160,10 @@ void boite(QPainter& peintre, const QRectF& place, double unite, const QColor& f
     peintre.setRenderHint(QPainter::Antialiasing);
     const double fin = trait(unite);
     const double rayon = std::min(etat.rayon * unite, place.height() / 2);
+    if (place.height() < plusbasse * unite) {
+        peintre.fillRect(place, fond);
+        return;
+    }
     const auto pale = etat.actif ? fond : melange(fond, QColor::fromRgb(0xFFE4E7EC), .6);
     auto bord = etat.actif ? bordde(fond) : melange(bordde(fond), blanc, .4);
     if (etat.survole && etat.actif)

@@ -71,6 +71,8 @@ void Fenetre::completer() {
             continue;
         }
         vue->widget().setObjectName(versqt(controle.nomcomplet()));
+        vue->widget().setMouseTracking(true);
+        vue->widget().setAttribute(Qt::WA_Hover, static_cast<bool>(controle.clic));
         vue->widget().setFocusPolicy(controle.focalisable ? Qt::StrongFocus : Qt::NoFocus);
         vues_.push_back(vue);
         parcontrole_.emplace(&controle, vue);
@@ -288,6 +290,8 @@ bool Fenetre::event(QEvent* evenement) {
         activation(true);
     if (evenement->type() == QEvent::WindowDeactivate)
         activation(false);
+    if (evenement->type() == QEvent::ScreenChangeInternal)
+        remettreechelle();
     return recu;
 }
 

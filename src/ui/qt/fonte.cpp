@@ -14,6 +14,7 @@ namespace ui::qt {
 namespace {
 
 constexpr double pointsparpouce = 72;
+constexpr double serrage = 96;  // percent of the usual space between letters
 
 struct Remplacement {
     const char* famille;
@@ -30,7 +31,8 @@ constexpr std::array remplacements{
     Remplacement{"Constantia", {"P052", "C059", "DejaVu Serif"}},
     Remplacement{"Segoe UI", {"Liberation Sans", "Nimbus Sans", "DejaVu Sans"}}};
 
-/// The largest font, in steps, that passes a test; `fonte` itself if it does.
+/// The largest font, in steps, that passes a test; `fonte` itself if it does. A smaller one is also
+/// set a little closer: screens know whole pixels only, and a step down may be a large one.
 QFont reduire(const QFont& fonte, double plancher, const std::function<bool(const QFont&)>& tient) {
     if (tient(fonte))
         return fonte;
@@ -38,6 +40,7 @@ QFont reduire(const QFont& fonte, double plancher, const std::function<bool(cons
     int bas = 0;  // smallest size, taken as it comes
     int haut = crans;
     QFont essai = fonte;
+    essai.setLetterSpacing(QFont::PercentageSpacing, serrage);
     const auto taille = [&](int cran) {
         essai.setPointSizeF(fonte.pointSizeF() * (plancher + (1 - plancher) * cran / crans));
     };

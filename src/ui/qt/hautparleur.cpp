@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QMediaDevices>
+#include <QTimer>
 #include <QtEndian>
 
 #include "attente.h"
@@ -15,7 +16,8 @@ namespace ui::qt {
 namespace {
 
 constexpr std::int64_t millisecondes = 1000;
-constexpr int marge = 500;  // milliseconds that a device may take to start and to drain
+constexpr int marge = 500;    // milliseconds that a device may take to start and to drain
+constexpr int vidange = 200;  // milliseconds
 constexpr std::int64_t dureelimite = 20'000;
 constexpr qsizetype tailleentete = 8;  // of a chunk: its name and its length
 
@@ -96,7 +98,9 @@ void jouer(Minuteur& minuteur, const QString& chemin) {
     // A device that sticks is left behind at the limit.
     static_cast<void>(attendre(minuteur, limite, [&](QEventLoop& boucle) {
         QObject::connect(&sortie, &QAudioSink::stateChanged, &boucle, [&](QAudio::State etat) {
-            if (etat == QAudio::IdleState || etat == QAudio::StoppedState)
+            if (etat == QAudio::IdleState)  // all is handed over, not all is heard
+                QTimer::singleShot(vidange, &boucle, &QEventLoop::quit);
+            if (etat == QAudio::StoppedState)
                 boucle.quit();
         });
         sortie.start(&source);

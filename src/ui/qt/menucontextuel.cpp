@@ -8,7 +8,6 @@
 #include "texteqt.h"
 
 namespace ui::qt {
-
 QMenu* MenuContextuel::menu() const {
     return menu_;
 }
@@ -26,6 +25,7 @@ void MenuContextuel::accorder() {
 void MenuContextuel::ouvrir(const Menu& menu) {
     menu_ = new QMenu(&fenetre_);
     menu_->setObjectName(versqt(menu.nom));
+    menu_->setFont(fenetre_.fontedemenu());
     for (auto* entree : menu.entrees) {
         auto* action = menu_->addAction(versqt(entree->texte()));
         action->setObjectName(versqt(entree->nomcomplet()));

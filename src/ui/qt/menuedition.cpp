@@ -4,8 +4,10 @@
 
 namespace ui::qt {
 
-void deroulermenuedition(QWidget& boite, const QPoint& place, const MenuEdition& menu) {
+void deroulermenuedition(QWidget& boite, const QPoint& place, const QFont& fonte,
+                         const MenuEdition& menu) {
     auto* liste = new QMenu(&boite);
+    liste->setFont(fonte);
     liste->setAttribute(Qt::WA_DeleteOnClose);
     const auto ajouter = [&](const char* texte, const MenuEdition::Entree& entree) {
         auto* ligne = liste->addAction(QString::fromUtf8(texte), entree.action);

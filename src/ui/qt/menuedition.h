@@ -2,6 +2,7 @@
 
 #include <functional>
 
+class QFont;
 class QPoint;
 class QWidget;
 
@@ -19,7 +20,8 @@ struct MenuEdition {
     Entree toutselectionner;
 };
 
-/// Opens the menu at a place of the screen; it goes by itself.
-void deroulermenuedition(QWidget& boite, const QPoint& place, const MenuEdition& menu);
+/// Opens the menu at a place of the screen, in a font; it goes by itself.
+void deroulermenuedition(QWidget& boite, const QPoint& place, const QFont& fonte,
+                         const MenuEdition& menu);
 
 }  // namespace ui::qt

@@ -14,6 +14,8 @@ namespace {
 
 constexpr int largeurascenseur = 14;  // pixels
 constexpr double margeascenseur = 3;
+constexpr QSize tailleboutons(92, 32);  // of message boxes, at least
+constexpr int airentreesdemenu = 6;
 
 dessin::Etat etatde(const QStyleOptionButton& option) {
     const auto a = [&](QStyle::StateFlag drapeau) { return option.state.testFlag(drapeau); };
@@ -92,6 +94,16 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption* option,
     if (mesure == PM_ScrollBarExtent)
         return largeurascenseur;
     return QProxyStyle::pixelMetric(mesure, option, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType contenu, const QStyleOption* option, const QSize& taille,
+                              const QWidget* widget) const {
+    const auto ordinaire = QProxyStyle::sizeFromContents(contenu, option, taille, widget);
+    if (contenu == CT_PushButton)
+        return ordinaire.expandedTo(tailleboutons);
+    if (contenu == CT_MenuItem)
+        return ordinaire + QSize(0, airentreesdemenu);
+    return ordinaire;
 }
 
 int Style::styleHint(StyleHint indication, const QStyleOption* option, const QWidget* widget,

@@ -18,6 +18,8 @@ class Style : public QProxyStyle {
                        const QWidget* widget) const override;
     int pixelMetric(PixelMetric mesure, const QStyleOption* option,
                     const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType contenu, const QStyleOption* option, const QSize& taille,
+                           const QWidget* widget) const override;
     int styleHint(StyleHint indication, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* retour) const override;
 };

@@ -165,6 +165,10 @@ QString Vue::texte() const {
     return versqt(controle_->texte());
 }
 
+QFont Vue::fontedemenu() const {
+    return fenetre_.fontedemenu();
+}
+
 double Vue::unite() const {
     return fenetre_.echelle().unite();
 }

@@ -78,6 +78,8 @@ class Vue : public VueControle {
     [[nodiscard]] QString texte() const;
     /// The control's font at the window's scale.
     [[nodiscard]] const QFont& fonte() const { return fonte_; }
+    /// The font of menus at the window's scale.
+    [[nodiscard]] QFont fontedemenu() const;
     [[nodiscard]] double unite() const;
     /// The control has no background of its own: transparent, or the colour of its form.
     [[nodiscard]] bool sansfond() const;
