@@ -64,6 +64,8 @@ Difficulte::Difficulte(const Vocabulaire& vocabulaire) {
 int Difficulte::de(const Mot& mot) const {
     const auto t = mot.texte();
     const auto n = t.size();
+    if (n < 3)
+        return 0;  // too short to have a beginning and an ending
     int meilleurdebut = 0;
     int meilleurefin = 0;
     int paires = 0;

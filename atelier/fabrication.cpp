@@ -69,7 +69,7 @@ class Fabrique {
     Fabrique(const Matiere& matiere, const Thesaurus& thesaurus, const Progression& progression)
         : m_(matiere), thesaurus_(thesaurus), progression_(progression) {}
 
-    std::vector<Fichier> tout() {
+    Production tout() {
         for (const auto& recettes : toutesrecettes())
             listes(recettes);
         progression_("listes de référence");
@@ -83,12 +83,12 @@ class Fabrique {
         for (const auto& licence : licences()) {
             ajouter(std::string(licence.fichier), octets(licence.texte));
         }
-        return std::move(fichiers_);
+        return std::move(production_);
     }
 
   private:
     void ajouter(std::string chemin, std::string contenu) {
-        fichiers_.push_back({std::move(chemin), std::move(contenu)});
+        production_.fichiers.push_back({std::move(chemin), std::move(contenu)});
     }
 
     void ajouter(const Table& table) {
@@ -114,8 +114,13 @@ class Fabrique {
     }
 
     void liste(const menu::Rangee& rangee, Contenu& contenu) {
-        if (contenu.rangees.size() > rangeesmax(rangee))
-            contenu.rangees.resize(rangeesmax(rangee));
+        const auto limite = rangeesmax(rangee);
+        if (contenu.rangees.size() > limite) {
+            production_.avertissements.push_back(
+                std::string(rangee.fichier) + " : " + std::to_string(contenu.rangees.size()) +
+                " lignes ; seules les " + std::to_string(limite) + " premières sont gardées.");
+            contenu.rangees.resize(limite);
+        }
         ajouter(chemindeliste(rangee.fichier), octets(contenu.rangees));
         for (std::size_t k = 0; k < rangee.parties; ++k) {
             ajouter(chemindeliste(menu::fichierdepartie(rangee.fichier, k)),
@@ -126,7 +131,7 @@ class Fabrique {
     const Matiere& m_;
     const Thesaurus& thesaurus_;
     const Progression& progression_;
-    std::vector<Fichier> fichiers_;
+    Production production_;
     std::set<std::uint32_t> demandes_;
     std::set<std::uint32_t> atypiques_;
 };
@@ -144,8 +149,8 @@ std::span<const Rangee> partie(std::span<const Rangee> rangees, std::size_t part
     return rangees.subspan(debut, fin - debut);
 }
 
-std::vector<Fichier> fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
-                               const Progression& progression) {
+Production fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
+                     const Progression& progression) {
     return Fabrique(matiere, thesaurus, progression).tout();
 }
 

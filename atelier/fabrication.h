@@ -26,10 +26,15 @@ using Progression = std::function<void(std::string_view)>;
 [[nodiscard]] std::span<const Rangee> partie(std::span<const Rangee> rangees, std::size_t parties,
                                              std::size_t rang);
 
+struct Production {
+    std::vector<Fichier> fichiers;
+    std::vector<std::string> avertissements;  ///< French: lists that were cut to fit their form
+};
+
 /// Every file that the program needs: the lists of the catalogue and their parts, the reference
 /// lists, the notes, the tables and their pictures, and the licences of the sources.
-[[nodiscard]] std::vector<Fichier> fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
-                                             const Progression& progression);
+[[nodiscard]] Production fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
+                                   const Progression& progression);
 
 /// What a list holds, for a player.
 struct Description {

@@ -74,11 +74,13 @@ int fabriquer(const Options& options) {
     const Ligne ligne;
     ligne.dire("Lecture du lexique");
     const Sources sources(options);
-    const auto fichiers = fabriquer(sources.matiere(), sources.thesaurus,
-                                    [&](std::string_view quoi) { ligne.dire(quoi); });
+    const auto production = fabriquer(sources.matiere(), sources.thesaurus,
+                                      [&](std::string_view quoi) { ligne.dire(quoi); });
     ligne.dire("Écriture");
-    installer(fichiers, options.cible);
+    installer(production.fichiers, options.cible);
     ligne.effacer();
+    for (const auto& avertissement : production.avertissements)
+        std::cerr << avertissement << '\n';
     return bien;
 }
 

@@ -146,4 +146,26 @@ INSTANTIATE_TEST_SUITE_P(Rangees, Parties,
                                          Coupe{"peu", 1, {0, 0, 1}}, Coupe{"rien", 0, {0, 0}}),
                          [](const auto& rangee) { return rangee.param.nom; });
 
+TEST(Fabrication, une_liste_trop_longue_est_coupee_et_le_dit) {
+    // Words of five letters with a dear letter: one over what a list holds.
+    std::string lignes;
+    std::size_t faits = 0;
+    for (char a = 'a'; a <= 'z' && faits < 15001; ++a) {
+        for (char b = 'a'; b <= 'z' && faits < 15001; ++b) {
+            for (char c = 'a'; c <= 'z' && faits < 15001; ++c, ++faits)
+                lignes += std::string{'z', a, b, c, 'z'} + " po:adv\n";
+        }
+    }
+    const auto v = essais::vocabulaire(lignes);
+    const Difficulte difficulte(v);
+    const Nouveautes nouveautes;
+    const auto production = fabriquer({v, difficulte, nouveautes}, {}, [](std::string_view) {});
+    EXPECT_THAT(production.avertissements,
+                ElementsAre("5lc.txt : 15001 lignes ; seules les 15000 premières sont gardées."));
+    const auto liste = std::find_if(production.fichiers.begin(), production.fichiers.end(),
+                                    [](const Fichier& f) { return f.chemin == "listes/5lc.txt"; });
+    ASSERT_NE(liste, production.fichiers.end());
+    EXPECT_EQ(std::count(liste->octets.begin(), liste->octets.end(), '\n'), 15000);
+}
+
 }  // namespace
