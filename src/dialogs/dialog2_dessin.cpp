@@ -25,14 +25,15 @@ constexpr double tailletitre = 11;
 // The lines of the form, from top to bottom.
 constexpr int ligneseuils = 180;
 constexpr int lignechrono = 1560;
-constexpr int ligneechantillons = 2850;
-constexpr int lignecouleur = 5400;
-constexpr int ligneson = 5880;
-constexpr int ligneassistance = 6300;
-constexpr int lignemessage = 6870;
-constexpr int ligneboutons = 7380;
-constexpr int hauteurforme = 8040;
+constexpr int ligneechantillons = 2925;
+constexpr int lignecouleur = 5565;
+constexpr int ligneson = 6045;
+constexpr int ligneassistance = 6465;
+constexpr int lignemessage = 7065;
+constexpr int ligneboutons = 7560;
+constexpr int hauteurforme = 8220;
 constexpr int pas = 390;
+constexpr int ecartsousfilet = 135;
 constexpr int pasresultat = 315;
 
 /// The line of a group: its heading is line 0.
@@ -84,7 +85,8 @@ constexpr std::array unites{
     Libelle{"Label3", 3, "série(s) (de 1 à 30)", ligne(ligneechantillons, 1)},
 };
 
-/// A control that exists already; `nomaccessible` tells a box by more than the text it holds.
+/// A control that exists already; `nomaccessible` tells what a box holds. A label is told by its
+/// text.
 struct Place {
     std::string_view nom;
     int index;
@@ -110,23 +112,20 @@ constexpr std::array places{
     Place{"Text1", 0, boite(ligne(ligneseuils, 1)), "Vert à partir de, en pourcentage"},
     Place{"Text1", 1, boite(ligne(ligneseuils, 2)), "Rouge en dessous de, en pourcentage"},
     Place{"Text2", -1, boite(ligne(lignechrono, 1)), "Temps moyen par mot, en secondes"},
-    Place{"tps30mots", -1, calcul(ligne(lignechrono, 2)), "Temps pour 30 mots"},
+    Place{"tps30mots", -1, calcul(ligne(lignechrono, 2)), ""},
     Place{"Text3", -1, boite(ligne(ligneechantillons, 1)),
           "Echantillon de base, en séries de 30 tirages"},
-    Place{"nbechan", 0, calcul(resultat(0)), "Nombre de mots solution unique"},
-    Place{"nbechan", 1, calcul(resultat(1)), "Nombre de mots duos"},
-    Place{"nbechan", 2, calcul(resultat(2)), "Nombre de mots trios"},
-    Place{"nbechan", 3, calcul(resultat(3)), "Nombre de mots quatuors"},
-    Place{"nbechan", 4, calcul(resultat(4)), "Nombre de mots quintets"},
+    Place{"nbechan", 0, calcul(resultat(0)), ""},
+    Place{"nbechan", 1, calcul(resultat(1)), ""},
+    Place{"nbechan", 2, calcul(resultat(2)), ""},
+    Place{"nbechan", 3, calcul(resultat(3)), ""},
+    Place{"nbechan", 4, calcul(resultat(4)), ""},
     Place{"Combo1", -1, choix(lignecouleur), "Couleur du fond"},
-    Place{"Check1", -1, choix(ligneson), "Son"},
-    Place{"Check2", -1, choix(ligneassistance), "Saisie dynamique"},
-    Place{"Label4",
-          -1,
-          {marge, lignemessage, largeurforme - 2 * marge, hauteurboite},
-          "Message sur les options saisies"},
-    Place{"OKButton", -1, bouton(1), "OK"},
-    Place{"Command1", -1, bouton(0), "Annuler"},
+    Place{"Check1", -1, choix(ligneson), ""},
+    Place{"Check2", -1, choix(ligneassistance), ""},
+    Place{"Label4", -1, {marge, lignemessage, largeurforme - 2 * marge, hauteurboite}, ""},
+    Place{"OKButton", -1, bouton(1), ""},
+    Place{"Command1", -1, bouton(0), ""},
 };
 
 ui::Controle& etiquette(ui::Formulaire& form, const Libelle& libelle, int gauche, int largeur) {
@@ -163,7 +162,7 @@ void dessinerdialog2(ui::Formulaire& form) {
         etiquette(form, unite, colonneunite, largeurunite);
     int index = 0;
     for (const int haut : {lignechrono, ligneechantillons, lignecouleur, lignemessage})
-        filet(form, index++, haut - 105);
+        filet(form, index++, haut - ecartsousfilet);
     for (const auto& place : places) {
         auto& controle = *form.trouver(place.nom, place.index);
         controle.placer(place.cadre);

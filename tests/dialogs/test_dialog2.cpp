@@ -301,6 +301,13 @@ TEST_F(Dialog2, chaque_couleur_se_voit_aussitot_partout) {
     }
 }
 
+TEST_F(Dialog2, chaque_boite_a_un_nom_a_lire_et_chaque_valeur_se_lit) {
+    for (const auto& c : form->controles()) {
+        const bool boite = c->genre() == ui::Genre::Boite || c->genre() == ui::Genre::Liste;
+        EXPECT_EQ(c->accessible().empty(), !boite) << c->nomcomplet();
+    }
+}
+
 TEST_F(Dialog2, trois_titres_sont_transparents) {
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(controle("Label1", i).fondu(), i >= 3) << i;
