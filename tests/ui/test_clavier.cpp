@@ -5,7 +5,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 namespace touches = ui::touches;
 
 class Clavier : public testing::Test {
