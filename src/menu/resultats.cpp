@@ -1,5 +1,9 @@
 #include "resultats.h"
 
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
 #include "hist.h"
 #include "nombre.h"
 #include "texte.h"
@@ -14,6 +18,22 @@ constexpr ui::Couleur rouge{0xFF0000};
 constexpr std::size_t reperedunom = 5;  // from the end of a name
 constexpr std::string_view suite = "% - ";
 constexpr std::string_view moyenne = "Ts";
+
+/// The last bytes of a text as one number, the last one foremost; zeros before its start.
+std::uint64_t bout(std::string_view texte) {
+    std::array<char, sizeof(std::uint64_t)> octets{};
+    if (texte.size() >= octets.size())
+        std::memcpy(octets.data(), texte.data() + texte.size() - octets.size(), octets.size());
+    else
+        std::copy_backward(texte.begin(), texte.end(), octets.end());
+    return std::bit_cast<std::uint64_t>(octets);
+}
+
+std::size_t repere(std::string_view texte) {
+    return texte.size() < reperedunom
+               ? 0
+               : static_cast<unsigned char>(texte[texte.size() - reperedunom]);
+}
 
 std::string date(std::string_view record) {
     return common::depuis1252(record.substr(0, profiles::largeurdate));
@@ -81,23 +101,24 @@ Derniers::Derniers(std::span<const Liste> listes) {
 
 void Derniers::ajouter(std::string_view nom) {
     const auto octets = common::vers1252(nom);
-    const auto place = static_cast<std::uint32_t>(cases_.size());
+    const Signe signe{bout(octets), bout(std::string(octets.size(), '\xFF')), cases_.size()};
     cases_.push_back({octets, {}});
     if (octets.empty())
         return;
     if (octets.size() >= reperedunom) {
-        parcaractere_.at(static_cast<unsigned char>(octets[octets.size() - reperedunom]))
-            .push_back(place);
+        parcaractere_.at(repere(octets)).push_back(signe);
         return;
     }
-    for (auto& places : parcaractere_)
-        places.push_back(place);
+    for (auto& signes : parcaractere_)
+        signes.push_back(signe);
 }
 
 void Derniers::voir(std::string_view record) {
-    const char repere = record.size() >= reperedunom ? record[record.size() - reperedunom] : '\0';
-    for (const auto place : parcaractere_.at(static_cast<unsigned char>(repere))) {
-        auto& trouvee = cases_[place];
+    const auto fin = bout(record);
+    for (const auto& signe : parcaractere_.at(repere(record))) {
+        if ((fin & signe.masque) != signe.bout)
+            continue;
+        auto& trouvee = cases_[signe.place];
         if (!record.ends_with(trouvee.nom))
             continue;
         const auto lu = profiles::balayer(record);

@@ -39,13 +39,19 @@ class Derniers {
         std::string nom;
         std::string record;
     };
+    /// What tells at a glance that a record may end with a name.
+    struct Signe {
+        std::uint64_t bout;    ///< the last bytes of the name
+        std::uint64_t masque;  ///< which of them it has
+        std::size_t place;     ///< in `cases_`
+    };
     void ajouter(std::string_view nom);
 
     std::vector<Case> cases_;           ///< of each row in turn: the list, then its parts
     std::vector<std::size_t> rangees_;  ///< place of each row in `cases_`
-    /// Places in `cases_` by the character that tells names apart best: the fifth from the end,
-    /// before ".txt". Shorter names stand under 0 and under every character.
-    std::array<std::vector<std::uint32_t>, 256> parcaractere_;
+    /// By the character that tells names apart best: the fifth from the end, before ".txt".
+    /// Shorter names stand under every character.
+    std::array<std::vector<Signe>, 256> parcaractere_;
 };
 
 /// Rewrites the results of a panel's rows from its last records. It only overwrites: a row without

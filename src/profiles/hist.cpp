@@ -48,8 +48,10 @@ void ajouterhist(common::Disque& disque, std::string_view util, const std::strin
 
 std::optional<Balayage> balayer(std::string_view record) {
     // A "%" right before the percent text counts: the text is then empty.
-    const auto pourcent = record.find('%', placepourcent - 1);
-    if (pourcent == std::string_view::npos)
+    auto pourcent = placepourcent - 1;
+    while (pourcent < record.size() && record[pourcent] != '%')
+        ++pourcent;
+    if (pourcent >= record.size())
         return std::nullopt;
     Balayage lu;
     if (pourcent > placepourcent)
