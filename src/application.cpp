@@ -32,9 +32,10 @@ class Piece {
         }
         return *form_;
     }
-    /// The form goes once the running event, which may be its own, is through.
+    /// The form is no longer there for the next touch; it goes once the running event, which may be
+    /// its own, is through.
     void decharger() {
-        plateforme_.apres([this] { form_.reset(); });
+        plateforme_.apres([partant = std::shared_ptr<F>(std::move(form_))] {});
     }
 
   private:
