@@ -131,6 +131,7 @@ Form3::Ligne Form3::poserligne(int rangee) {
 
 std::vector<Form3::Ligne> Form3::poserlignes() {
     std::vector<Ligne> lignes;
+    lignes.reserve(nblignes);
     for (int r = 0; r < static_cast<int>(nblignes); ++r)
         lignes.push_back(poserligne(r));
     return lignes;

@@ -19,7 +19,7 @@ namespace modes {
 inline constexpr std::string_view tout = "T";
 inline constexpr std::string_view echantillon = "E";
 inline constexpr std::string_view revision = "R";
-inline constexpr std::string_view partie = "";
+inline constexpr std::string_view partie;
 }  // namespace modes
 
 /// Content of `typ` in the panel of the extensions.

@@ -5,8 +5,6 @@
 
 namespace {
 
-using testing::HasSubstr;
-
 constexpr const char* secondaires =
     "Command7(0) Command7(1) Command7(2) Command7(3) Command7(4) Command7(5) Command7(6) "
     "Command7(7) Command7(8) Command7(9) Command8 Command9 Command15(0) Command15(1) "

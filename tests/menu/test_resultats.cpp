@@ -21,7 +21,8 @@ Records actualiser(std::string_view cle, const Records& records, Resultats resul
     for (std::size_t r = 0; r < resultats.size(); ++r) {
         const auto& [date, texte] = resultats.at(r);
         if (!date.empty() || !texte.empty())
-            lignes.push_back(std::to_string(r) + ": " + date + " | " + texte);
+            lignes.push_back(
+                std::to_string(r).append(": ").append(date).append(" | ").append(texte));
     }
     return lignes;
 }

@@ -96,7 +96,8 @@ class Coupure : public testing::TestWithParam<std::tuple<int, bool>> {
 };
 
 TEST_P(Coupure, garde_ce_qui_etait_ecrit) {
-    const auto [rang, avant] = GetParam();
+    const int rang = std::get<0>(GetParam());
+    const bool avant = std::get<1>(GetParam());
     machine.ecrire("users.dat", "Paul\r\n");
     EXPECT_EQ(enfant([&] {
                   Disquemortel disque(machine.dossier.chemin(), rang, avant);
