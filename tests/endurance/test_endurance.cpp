@@ -1,0 +1,61 @@
+// Random sessions of the whole program, each under a seed of its own.
+
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "joueur.h"
+#include "partie.h"
+
+namespace {
+
+using endurance::Joueur;
+using endurance::Partie;
+
+const std::filesystem::path jeu = ORVANE_JEU;
+constexpr std::size_t ordresparpartie = 2500;
+constexpr std::size_t derniersordres = 40;
+
+/// What a session is known by when it goes wrong: its seed, its last orders, and a scenario of all
+/// its orders that can be played again on the bench.
+std::string recit(const Partie& partie, std::uint64_t graine) {
+    const auto fichier = std::filesystem::path(ORVANE_TRACES) /
+                         ("endurance-" + std::to_string(graine) + ".txt");
+    std::filesystem::create_directories(fichier.parent_path());
+    std::ofstream(fichier) << partie.scenario(partie.ordres());
+    std::string texte = "graine " + std::to_string(graine) + ", ordre n° " +
+                        std::to_string(partie.ordres()) + ", scénario entier : " +
+                        fichier.string() + "\n" + partie.scenario(derniersordres);
+    for (const auto& ennui : partie.constats().ennuis())
+        texte += "=> " + ennui + "\n";
+    return texte;
+}
+
+class Endurance : public testing::TestWithParam<std::uint64_t> {};
+
+TEST_P(Endurance, tout_reste_d_accord) {
+    constexpr std::uint64_t ecart = 1000;  // between the seeds of two tests
+    std::size_t ordres = 0;
+    int series = 0;
+    int listes = 0;
+    for (std::uint64_t numero = 0; ordres < ordresparpartie; ++numero) {
+        const auto graine = GetParam() * ecart + numero;
+        Partie partie(jeu);
+        Joueur joueur(partie, graine);
+        joueur.preparer();
+        joueur.jouer(ordresparpartie);
+        ASSERT_TRUE(partie.constats().aucun()) << recit(partie, graine);
+        ordres += partie.ordres();
+        series += partie.series();
+        listes += partie.listes();
+    }
+    // A session that does nothing would find nothing.
+    EXPECT_GT(series, 5);
+    EXPECT_GT(listes, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(, Endurance, testing::Range<std::uint64_t>(1, 60),
+                         [](const auto& cas) { return std::to_string(cas.param); });
+
+}  // namespace
