@@ -117,7 +117,8 @@ Recette recettedugroupe(std::size_t taille, std::size_t nombre, Purete purete) {
             }};
 }
 
-Recette recetteselection(std::size_t taille, const std::string& poids, std::vector<int> valeurs) {
+Recette recetteselection(std::size_t taille, const std::string& poids,
+                         const std::vector<int>& valeurs) {
     return {"Les duos purs de " + std::to_string(taille) + " lettres" + poids +
                 ", sans ceux qu'un même lemme ou une même finale explique.",
             [=](const Matiere& m) { return selectiondeduos(m.mots, taille, valeurs); }};

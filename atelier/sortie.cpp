@@ -1,8 +1,8 @@
 #include "sortie.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
-#include <stdio.h>
 #include <sys/file.h>
 #include <unistd.h>
 
