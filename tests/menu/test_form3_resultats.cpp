@@ -52,7 +52,7 @@ double contraste(ui::Couleur une, ui::Couleur autre) {
         };
         return 0.2126 * canal(16) + 0.7152 * canal(8) + 0.0722 * canal(0) + 0.05;
     };
-    const auto [sombre, clair] = std::minmax(clarte(une), clarte(autre));
+    const auto [sombre, clair] = std::minmax({clarte(une), clarte(autre)});
     return clair / sombre;
 }
 
