@@ -1,0 +1,43 @@
+#pragma once
+
+// Ratios in one run: something is timed in turn with what it is compared to, so that both meet the
+// same machine.
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace bench {
+
+/// Bounds of a measure; 0 is no bound.
+struct Bornes {
+    double rapport = 0;  ///< times the reference
+    double millisecondes = 0;
+};
+
+/// Times `sujet` and `reference` in turn, after `preparer`, which is not timed; shows the medians
+/// and their ratio, and reports an error where one is over its bound.
+void comparer(benchmark::State& state, const std::function<void()>& preparer,
+              const std::function<void()>& sujet, const std::function<void()>& reference,
+              const Bornes& bornes);
+
+/// Times `sujet` alone.
+void chronometrer(benchmark::State& state, const std::function<void()>& preparer,
+                  const std::function<void()>& sujet, const Bornes& bornes);
+
+/// The plain reading: the bytes of files, in blocks, and how many line ends they hold.
+[[nodiscard]] std::size_t lectureseche(const std::vector<std::string>& fichiers);
+
+}  // namespace bench
+
+/// main() that fails if a measure is over its bound.
+#define ORVANE_BENCH_MAIN()               \
+    int main(int argc, char** argv) {     \
+        return bench::lancer(argc, argv); \
+    }
+
+namespace bench {
+int lancer(int argc, char** argv);
+}  // namespace bench
