@@ -15,8 +15,8 @@ class Constats {
     }
     template <class Lu, class Attendu>
     void egal(const Lu& lu, const Attendu& attendu, const std::string& quoi) {
-        exiger(lu == attendu, quoi + " : lu « " + texte(lu) + " », attendu « " + texte(attendu) +
-                                  " »");
+        exiger(lu == attendu,
+               quoi + " : lu « " + texte(lu) + " », attendu « " + texte(attendu) + " »");
     }
     [[nodiscard]] const std::vector<std::string>& ennuis() const { return ennuis_; }
     [[nodiscard]] bool aucun() const { return ennuis_.empty(); }
@@ -24,10 +24,8 @@ class Constats {
   private:
     static std::string texte(const std::string& valeur) { return valeur; }
     template <class Nombre>
-        requires std::is_arithmetic_v<Nombre>
-    static std::string texte(Nombre valeur) {
-        return std::to_string(valeur);
-    }
+    requires std::is_arithmetic_v<Nombre>
+    static std::string texte(Nombre valeur) { return std::to_string(valeur); }
     static std::string texte(const std::vector<std::string>& lignes) {
         std::string somme;
         for (const auto& ligne : lignes)

@@ -6,8 +6,8 @@
 namespace endurance {
 namespace {
 
-constexpr std::array marques{"Image1",       "Image2",       "Image3",      "Image4", "Image5",
-                             "Image6",       "ImageDemiVbt", "ImageDemiPpi", "ImageDemiInv"};
+constexpr std::array marques{"Image1", "Image2",       "Image3",       "Image4",      "Image5",
+                             "Image6", "ImageDemiVbt", "ImageDemiPpi", "ImageDemiInv"};
 
 std::vector<Boite> boites(const std::vector<const ui::Controle*>& rang) {
     std::vector<Boite> lues;

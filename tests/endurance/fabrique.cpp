@@ -63,7 +63,8 @@ std::string rallonge(const std::string& lettres, Alea& alea) {
 std::string ligne(Alea& alea, Sorte sorte, bool multi, const std::string& lettres) {
     if (sorte == Sorte::Rallonge)
         return rallonge(lettres, alea);
-    const auto rack = sorte == Sorte::Balisee && alea.surcent(60) ? baliser(lettres, alea) : lettres;
+    const auto rack =
+        sorte == Sorte::Balisee && alea.surcent(60) ? baliser(lettres, alea) : lettres;
     const auto nombre = multi ? alea.entre(1, 5) : 1;
     const auto fin = multi && alea.surcent(10) ? ";" : "";
     return rack + solutions(lettres, nombre, alea) + fin;
@@ -124,10 +125,9 @@ std::vector<Listefaite> fairelistes(Alea& alea) {
             liste.lignes =
                 lignesdeliste(alea, sortede(liste, alea), liste.multi, taille(alea, liste.multi));
             if (liste.cassee)
-                liste.lignes.insert(
-                    liste.lignes.begin() +
-                        static_cast<std::ptrdiff_t>(alea.sous(liste.lignes.size() + 1)),
-                    alea.surcent(50) ? "" : "SANSPOINTVIRGULE");
+                liste.lignes.insert(liste.lignes.begin() + static_cast<std::ptrdiff_t>(
+                                                               alea.sous(liste.lignes.size() + 1)),
+                                    alea.surcent(50) ? "" : "SANSPOINTVIRGULE");
             listes.push_back(std::move(liste));
         }
     }

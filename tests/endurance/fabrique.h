@@ -38,6 +38,6 @@ struct Listefaite {
 
 /// Words of the lists, and others, for the reference lists and the notes.
 [[nodiscard]] std::vector<std::string> motsconnus(const std::vector<Listefaite>& listes,
-                                                        fuzz::Alea& alea);
+                                                  fuzz::Alea& alea);
 
 }  // namespace endurance

@@ -42,8 +42,8 @@ void Joueur::preparer() {
     if (parlemenu)
         util_ = alea_.choisir(utilisateurs);
     donner("graine " + std::to_string(alea_.sous(100000)));
-    donner("horloge 20" + std::to_string(alea_.entre(10, 60)) + "-12-31 23:" +
-           std::to_string(alea_.entre(10, 59)) + ":00");
+    donner("horloge 20" + std::to_string(alea_.entre(10, 60)) +
+           "-12-31 23:" + std::to_string(alea_.entre(10, 59)) + ":00");
     ecrirelistes();
     ecrirereferences();
     ecrireprofils();

@@ -32,9 +32,7 @@ class Joueur {
     bool donner(const std::string& ordre, const std::vector<std::string>& lignes = {}) {
         return partie_.donner(ordre, lignes);
     }
-    [[nodiscard]] bool continuer() const {
-        return !partie_.finie() && partie_.constats().aucun();
-    }
+    [[nodiscard]] bool continuer() const { return !partie_.finie() && partie_.constats().aucun(); }
 
     // joueur.cpp: the folder, the choice.
     void ecrirelistes();

@@ -27,10 +27,12 @@ void Joueur::jouermenu() {
     }
     using J = Joueur;
     static const std::vector<Coup> coups{
-        {20, &J::ouvrirpanneau}, {60, &J::lancer},         {6, &J::lancerdirectement},
-        {4, &J::lancerpersonnel}, {4, &J::cliquerlibelle}, {4, &J::survoler},
-        {6, &J::apprentissage},  {5, &J::options},         {10, &J::fermerfenetres},
-        {4, &J::patienter},      {1, &J::quitterleprogramme},
+        {20, &J::ouvrirpanneau},     {60, &J::lancer},
+        {6, &J::lancerdirectement},  {4, &J::lancerpersonnel},
+        {4, &J::cliquerlibelle},     {4, &J::survoler},
+        {6, &J::apprentissage},      {5, &J::options},
+        {10, &J::fermerfenetres},    {4, &J::patienter},
+        {1, &J::quitterleprogramme},
     };
     faire(coups);
 }
@@ -97,8 +99,8 @@ void Joueur::lancerdirectement() {
     const auto& liste = alea_.choisir(listes_);
     const bool revision = alea_.surcent(20);
     const bool app = alea_.surcent(20);
-    const std::string chemin = revision ? util_ + "\\rev-" + liste.fichier
-                                        : "listes\\" + liste.fichier;
+    const std::string chemin =
+        revision ? util_ + "\\rev-" + liste.fichier : "listes\\" + liste.fichier;
     if (revision && !partie_.seance().plateforme.disque().existe(chemin))
         return;
     const auto& options = partie_.seance().programme->voisins().dialog2;

@@ -17,11 +17,11 @@ std::string boitede(const std::string& form, int boite) {
 void Joueur::jouerserie() {
     using J = Joueur;
     static const std::vector<Coup> ouverte{
-        {18, &J::repondrejuste}, {8, &J::taperlettres}, {6, &J::taperautre},
-        {12, &J::seplacer},      {6, &J::effacer},      {4, &J::corriger},
-        {7, &J::remplir},        {10, &J::cliquer},     {3, &J::cliquertuile},
-        {3, &J::cliquerdeuxfois}, {6, &J::attendre},    {1, &J::attendrelongtemps},
-        {4, &J::chercher},       {2, &J::regler},       {2, &J::pause},
+        {18, &J::repondrejuste},  {8, &J::taperlettres}, {6, &J::taperautre},
+        {12, &J::seplacer},       {6, &J::effacer},      {4, &J::corriger},
+        {7, &J::remplir},         {10, &J::cliquer},     {3, &J::cliquertuile},
+        {3, &J::cliquerdeuxfois}, {6, &J::attendre},     {1, &J::attendrelongtemps},
+        {4, &J::chercher},        {2, &J::regler},       {2, &J::pause},
         {1, &J::partir},
     };
     static const std::vector<Coup> corrigee{
@@ -32,9 +32,9 @@ void Joueur::jouerserie() {
         {2, &J::partir},
     };
     static const std::vector<Coup> finie{
-        {40, &J::partir},   {20, &J::cliquerdeuxfois}, {6, &J::cliquer},  {3, &J::taperautre},
-        {3, &J::seplacer},  {2, &J::attendre},         {2, &J::regler},   {2, &J::pause},
-        {2, &J::corriger},  {2, &J::nouvelleserie},    {2, &J::chercher},
+        {40, &J::partir},  {20, &J::cliquerdeuxfois}, {6, &J::cliquer},  {3, &J::taperautre},
+        {3, &J::seplacer}, {2, &J::attendre},         {2, &J::regler},   {2, &J::pause},
+        {2, &J::corriger}, {2, &J::nouvelleserie},    {2, &J::chercher},
     };
     // Another window may have come in front: the keys would go to it.
     if (partie_.seance().plateforme.bureau.actif() != partie_.formulaire(form())) {
@@ -99,7 +99,7 @@ void Joueur::taperlettres() {
 }
 
 void Joueur::taperautre() {
-    constexpr std::array morceaux{"Z", "e", " ", "3", "é", "È", "{", "%", "'", "(", "€",
+    constexpr std::array morceaux{"Z", "e", " ",  "3", "é", "È", "{", "%", "'", "(",  "€",
                                   "œ", "ÿ", "漢", "°", ".", "~", "¨", "Q", "w", "\"", "¡"};
     const auto& suivi = *partie_.serie();
     const int boite = ecran().boiteactive;

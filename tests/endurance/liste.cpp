@@ -85,9 +85,8 @@ std::size_t nbsolutions(const std::vector<Rangee>& rangees) {
 
 bool distinctes(const std::vector<Rangee>& rangees) {
     std::set<std::string> vus;
-    return std::all_of(rangees.begin(), rangees.end(), [&](const Rangee& rangee) {
-        return vus.insert(net(rangee.tirage)).second;
-    });
+    return std::all_of(rangees.begin(), rangees.end(),
+                       [&](const Rangee& rangee) { return vus.insert(net(rangee.tirage)).second; });
 }
 
 std::vector<std::string> formes(const Rangee& rangee, bool multi, std::size_t nbsolutions) {

@@ -13,14 +13,15 @@ Partie::Partie(const std::filesystem::path& jeu)
           dossier_.chemin(),
           [](ui::Plateforme& p) { return std::make_unique<banc::ProgrammeReel>(p); },
           [](banc::PlateformeSimulee& p) { return std::make_unique<banc::PiloteModele>(p); }),
-      fiches_{Fiche{"Form1",
-                    {false, seance_.programme->voisins().form3, seance_.programme->voisins().dialog2},
-                    {},
-                    {}},
-              Fiche{"Multi",
-                    {true, seance_.programme->voisins().form3, seance_.programme->voisins().dialog2},
-                    {},
-                    {}}},
+      fiches_{
+          Fiche{"Form1",
+                {false, seance_.programme->voisins().form3, seance_.programme->voisins().dialog2},
+                {},
+                {}},
+          Fiche{"Multi",
+                {true, seance_.programme->voisins().form3, seance_.programme->voisins().dialog2},
+                {},
+                {}}},
       instant_(seance_.plateforme.maintenant()) {
     banc::garnir(dossier_.chemin(), jeu);
 }
@@ -78,7 +79,8 @@ void Partie::verifier(const banc::Ordre& ordre, const std::string& reponse) {
     ecritures_ = ecritures;
     revision_ = revision;
     if (finie()) {
-        constats_.exiger(util != util_ || avant.hist == fichiers_.hist, "la fin a touché à l'historique");
+        constats_.exiger(util != util_ || avant.hist == fichiers_.hist,
+                         "la fin a touché à l'historique");
         verifierfin(ordre);
         return;
     }
@@ -92,14 +94,9 @@ void Partie::verifier(const banc::Ordre& ordre, const std::string& reponse) {
         if (!fiche.lecteur)
             fiche.lecteur.emplace(*form);
         const auto ecranavant = std::exchange(fiche.ecran, fiche.lecteur->lire());
-        Moment moment{ordre,
-                      ecranavant,
-                      fiche.ecran,
-                      avant,
-                      fichiers_,
-                      debut,
-                      instant_,
-                      messages.empty() ? std::string() : messages.back()};
+        Moment moment{
+            ordre,     ecranavant, fiche.ecran, avant,
+            fichiers_, debut,      instant_,    messages.empty() ? std::string() : messages.back()};
         verifierfiche(fiche, moment);
     }
     seance_.plateforme.journal = {};
@@ -144,8 +141,7 @@ bool Partie::fauteprevue(const std::string& rapport, const banc::Ordre& ordre) c
     const auto& [form1, multi] = fiches_;
     constexpr int dixheures = 36000;
     if (dit("il ne peut pas atteindre 10 heures"))
-        return ordre.nom == "avancer" &&
-               form1.suivi.total() + std::stoi(ordre.suite) >= dixheures;
+        return ordre.nom == "avancer" && form1.suivi.total() + std::stoi(ordre.suite) >= dixheures;
     if (dit("Temps passé sur un mot"))
         return ordre.nom == "avancer" && (form1.ecran.minuteries[2] || multi.ecran.minuteries[2]);
     if (dit("a trop de lettres"))  // a long solution, shown in the place of its rack, and entered

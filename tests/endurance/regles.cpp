@@ -26,8 +26,8 @@ std::string texteserie(int secondes) {
 
 std::string textetotal(int secondes) {
     std::array<char, 32> tampon{};
-    std::snprintf(tampon.data(), tampon.size(), "%d:%02d:%02d", secondes / 3600,
-                  secondes / 60 % 60, secondes % 60);
+    std::snprintf(tampon.data(), tampon.size(), "%d:%02d:%02d", secondes / 3600, secondes / 60 % 60,
+                  secondes % 60);
     return tampon.data();
 }
 
@@ -35,8 +35,7 @@ Jugement juger(const std::vector<std::string>& saisis, const std::vector<std::st
     Jugement jugement;
     std::size_t egalites = 0;
     for (const auto& mot : saisis)
-        egalites +=
-            static_cast<std::size_t>(std::count(solutions.begin(), solutions.end(), mot));
+        egalites += static_cast<std::size_t>(std::count(solutions.begin(), solutions.end(), mot));
     jugement.juste = egalites == solutions.size();
     for (const auto& mot : solutions)
         if (std::count(saisis.begin(), saisis.end(), mot) == 0)

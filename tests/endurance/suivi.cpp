@@ -167,7 +167,8 @@ bool Suivi::montree(const Rangee& rangee, int place, const Moment& moment) const
     // Assisted entry has taken the mark-up, or the letters, off the rack of the box in focus.
     if (jugeeautirage(place, moment)) {
         const auto solutions = rangee.solutions();
-        const bool ecrite = solutions.empty() || solutions.front() == moment.apres.solution[0].texte;
+        const bool ecrite =
+            solutions.empty() || solutions.front() == moment.apres.solution[0].texte;
         return ecrite && (texte == rangee.tirage || tirede(texte, net(rangee.tirage)));
     }
     return texte == rangee.tirage || texte == net(rangee.tirage);

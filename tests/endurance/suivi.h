@@ -110,7 +110,8 @@ class Suivi {
     void verifierrevision(const Moment& moment, Constats& constats) const;
     void verifierratees(const Moment& moment, Constats& constats) const;
     void verifiermenu(const Moment& moment, Constats& constats) const;
-    /// The rows added to the revision file are those that a correction, or a judgement, sends there.
+    /// The rows added to the revision file are those that a correction, or a judgement, sends
+    /// there.
     [[nodiscard]] bool parlacorrection(const std::vector<std::string>& ajoutees,
                                        const Moment& moment) const;
 
@@ -120,17 +121,17 @@ class Suivi {
     int nbtirages_;
     Lancement lancement_;
 
-    std::vector<Rangee> rangees_;      ///< of the file
+    std::vector<Rangee> rangees_;           ///< of the file
     std::map<std::string, int> restantes_;  ///< rows that may still come, by line, how many
     bool distinctes_ = true;
     std::size_t nbsolutions_ = 1;
-    int base_ = 0;     ///< rows at the start
-    int moins_ = 0;    ///< fewest and most rows that can be left
+    int base_ = 0;   ///< rows at the start
+    int moins_ = 0;  ///< fewest and most rows that can be left
     int plus_ = 0;
     std::map<std::string, int> succes_;
     std::set<std::string> fautes_;
     bool fautessures_ = true;
-    int series_ = 0;   ///< corrected in this visit
+    int series_ = 0;  ///< corrected in this visit
 
     std::vector<Rangee> tirees_;  ///< rows of the series, by place
     int restant_ = 0;             ///< seconds on the series clock

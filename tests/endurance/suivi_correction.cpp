@@ -102,9 +102,8 @@ int Suivi::corrigermulti(const Moment& moment, Constats& constats) {
         for (std::size_t mot = 0; mot < solutions.size(); ++mot) {
             const auto& reponse = moment.apres.solution[boite(mot)];
             constats.egal(reponse.texte, jugement.textes[mot], dela("réponse corrigée", place));
-            constats.exiger(
-                reponse.fond == (jugement.bonnes[mot] ? c::juste : c::tirageaurepos),
-                dela("couleur de la réponse", place));
+            constats.exiger(reponse.fond == (jugement.bonnes[mot] ? c::juste : c::tirageaurepos),
+                            dela("couleur de la réponse", place));
         }
         if (!jugement.juste)
             continue;

@@ -89,9 +89,9 @@ void Suivi::verifiercouleurs(const Ecran& ecran, Constats& constats) const {
         constats.exiger(contient(permises.tirage, ecran.tirage[i].fond),
                         numerote("couleur du tirage", i) + " : " + ecran.tirage[i].fond.nom());
     for (std::size_t i = 0; i < ecran.solution.size(); ++i)
-        constats.exiger(contient(permises.solution, ecran.solution[i].fond),
-                        numerote("couleur de la réponse", i) + " : " +
-                            ecran.solution[i].fond.nom());
+        constats.exiger(
+            contient(permises.solution, ecran.solution[i].fond),
+            numerote("couleur de la réponse", i) + " : " + ecran.solution[i].fond.nom());
     const auto tuile = ecran.etat() == Etat::Finie ? c::faux : c::tuile;
     constats.exiger(std::all_of(ecran.tuiles.begin(), ecran.tuiles.end(),
                                 [&](const auto& fond) { return fond == tuile; }),

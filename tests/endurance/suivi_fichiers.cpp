@@ -7,8 +7,7 @@
 namespace endurance {
 
 void Suivi::verifierfichiers(const Moment& moment, Constats& constats) const {
-    const bool finie =
-        moment.avant.etat() != Etat::Finie && moment.apres.etat() == Etat::Finie;
+    const bool finie = moment.avant.etat() != Etat::Finie && moment.apres.etat() == Etat::Finie;
     if (!finie)
         constats.egal(moment.fichiersapres.hist, moment.fichiersavant.hist, "historique");
     verifierrevision(moment, constats);
@@ -21,8 +20,7 @@ void Suivi::verifierfichiers(const Moment& moment, Constats& constats) const {
 bool Suivi::parlacorrection(const std::vector<std::string>& ajoutees, const Moment& moment) const {
     const bool corrigee =
         moment.avant.etat() == Etat::Ouverte && moment.apres.etat() != Etat::Ouverte;
-    const bool jugee =
-        multi_ && moment.avant.secondes() && moment.apres.etat() == Etat::Ouverte;
+    const bool jugee = multi_ && moment.avant.secondes() && moment.apres.etat() == Etat::Ouverte;
     if (!garde() || !(corrigee || jugee))
         return ajoutees.empty();
     const auto& avant = moment.fichiersavant.revision;
@@ -73,8 +71,8 @@ void Suivi::verifierrevision(const Moment& moment, Constats& constats) const {
         constats.egal(apres, attendu, "révisions après un retrait");
         return;
     }
-    const bool suite = apres.size() >= avant.size() &&
-                       std::equal(avant.begin(), avant.end(), apres.begin());
+    const bool suite =
+        apres.size() >= avant.size() && std::equal(avant.begin(), avant.end(), apres.begin());
     constats.exiger(suite, "les révisions d'avant ne sont plus là");
     if (!suite)
         return;

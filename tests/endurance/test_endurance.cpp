@@ -20,13 +20,13 @@ constexpr std::size_t derniersordres = 40;
 /// What a session is known by when it goes wrong: its seed, its last orders, and a scenario of all
 /// its orders that can be played again on the bench.
 std::string recit(const Partie& partie, std::uint64_t graine) {
-    const auto fichier = std::filesystem::path(ORVANE_TRACES) /
-                         ("endurance-" + std::to_string(graine) + ".txt");
+    const auto fichier =
+        std::filesystem::path(ORVANE_TRACES) / ("endurance-" + std::to_string(graine) + ".txt");
     std::filesystem::create_directories(fichier.parent_path());
     std::ofstream(fichier) << partie.scenario(partie.ordres());
-    std::string texte = "graine " + std::to_string(graine) + ", ordre n° " +
-                        std::to_string(partie.ordres()) + ", scénario entier : " +
-                        fichier.string() + "\n" + partie.scenario(derniersordres);
+    std::string texte =
+        "graine " + std::to_string(graine) + ", ordre n° " + std::to_string(partie.ordres()) +
+        ", scénario entier : " + fichier.string() + "\n" + partie.scenario(derniersordres);
     for (const auto& ennui : partie.constats().ennuis())
         texte += "=> " + ennui + "\n";
     return texte;
