@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::size_t bloc = 128UL * 1024;
 constexpr std::string_view findeligne = "\r\n";
+/// What makes an item other than a whole line, a blank at its start aside.
+constexpr std::string_view signes = ",\"";
 
 std::unique_ptr<Flux> ouvrirsur(Disque& disque, std::string_view chemin, std::string_view action) {
     std::unique_ptr<Flux> flux;
@@ -76,68 +78,76 @@ std::string rapportligne(std::string_view action, std::string_view chemin, std::
 }
 
 Lignes::Lignes(Disque& disque, std::string_view chemin, std::string_view action)
-    : chemin_(chemin), action_(action), flux_(ouvrirsur(disque, chemin, action)), tampon_(bloc) {}
+    : chemin_(chemin),
+      action_(action),
+      flux_(ouvrirsur(disque, chemin, action)),
+      capacite_(bloc),
+      tampon_(std::make_unique_for_overwrite<char[]>(capacite_)) {}
 
 Lignes::Lignes(std::string_view contenu)
-    : tampon_(contenu.begin(), contenu.end()), fin_(contenu.size()), fini_(true) {}
+    : capacite_(contenu.size()),
+      tampon_(std::make_unique_for_overwrite<char[]>(capacite_)),
+      fin_(contenu.size()),
+      fini_(true) {
+    std::copy(contenu.begin(), contenu.end(), tampon_.get());
+}
 
 /// Reads more bytes behind what is left of the buffer; false at the end of the file.
 bool Lignes::remplir() {
     if (fini_)
         return false;
-    if (debut_ > 0) {
-        std::memmove(tampon_.data(), tampon_.data() + debut_, fin_ - debut_);
-        fin_ -= debut_;
-        debut_ = 0;
+    const bool pleine = debut_ == 0 && fin_ == capacite_;
+    if (pleine) {
+        capacite_ *= 2;
+        auto plusgrand = std::make_unique_for_overwrite<char[]>(capacite_);
+        std::copy_n(tampon_.get(), fin_, plusgrand.get());
+        tampon_ = std::move(plusgrand);
     }
-    if (fin_ == tampon_.size())
-        tampon_.resize(tampon_.size() * 2);
-    const auto lus = liresur(*flux_, std::span(tampon_).subspan(fin_), chemin_, action_);
+    std::memmove(tampon_.get(), tampon_.get() + debut_, fin_ - debut_);
+    fin_ -= debut_;
+    debut_ = 0;
+    const auto lus =
+        liresur(*flux_, std::span(tampon_.get() + fin_, capacite_ - fin_), chemin_, action_);
     fini_ = lus == 0;
     fin_ += lus;
+    const std::string_view contenu(tampon_.get(), fin_);
+    sanssigne_ = std::none_of(signes_.begin(), signes_.end(), [&](char signe) {
+        return contenu.find(signe) != std::string_view::npos;
+    });
     return !fini_;
 }
 
-bool Lignes::suivante(std::string_view& ligne) {
-    std::size_t cherche = debut_;
+bool Lignes::lirepuissuivante(std::string_view& ligne) {
     const char* saut = nullptr;
-    while (true) {
-        if (fin_ > cherche)
-            saut = static_cast<const char*>(
-                std::memchr(tampon_.data() + cherche, '\n', fin_ - cherche));
-        if (saut != nullptr)
-            break;
-        const auto dejavu = fin_ - debut_;
-        if (!remplir())
-            break;
-        cherche = debut_ + dejavu;
+    std::size_t dejavu = fin_ - debut_;
+    while (saut == nullptr && remplir()) {
+        saut = sautdeligne(debut_ + dejavu);
+        dejavu = fin_ - debut_;
     }
-    if (saut == nullptr && debut_ == fin_)
+    if (saut != nullptr) {
+        prendre(ligne, saut);
+        return true;
+    }
+    if (debut_ == fin_)
         return false;
-    const auto* depart = tampon_.data() + debut_;
-    auto taille = saut == nullptr ? fin_ - debut_ : static_cast<std::size_t>(saut - depart);
-    debut_ += taille + (saut == nullptr ? 0 : 1);
-    if (saut != nullptr && taille > 0 && depart[taille - 1] == '\r')
-        --taille;
-    ligne = std::string_view(depart, taille);
-    terminee_ = saut != nullptr;
+    ligne = std::string_view(tampon_.get() + debut_, fin_ - debut_);
+    debut_ = fin_;
+    terminee_ = false;
     ++numero_;
     return true;
 }
 
 Items::Items(Disque& disque, std::string_view chemin, std::string_view action)
-    : lignes_(disque, chemin, action) {}
+    : lignes_(disque, chemin, action) {
+    lignes_.guetter(signes);
+}
 
 Items::Items(std::string_view contenu) : lignes_(contenu) {}
 
-bool Items::lireitem(std::string_view& item) {
-    if (!ouverte_) {
-        if (!lignes_.suivante(reste_))
-            return false;
-        ouverte_ = true;
-    }
+/// The next item of the line that is under way.
+bool Items::lirereste(std::string_view& item) {
     numero_ = lignes_.numero();
-    reste_.remove_prefix(std::min(reste_.find_first_not_of(" \t"), reste_.size()));
+    sauterblancs(reste_);
     if (!reste_.empty() && reste_.front() == '"') {
         lireguillemets(item);
         return true;
@@ -174,7 +184,7 @@ void Items::lireguillemets(std::string_view& item) {
     }
     item_.append(reste_.substr(0, fin));
     reste_.remove_prefix(fin + 1);
-    reste_.remove_prefix(std::min(reste_.find_first_not_of(" \t"), reste_.size()));
+    sauterblancs(reste_);
     if (reste_.empty())
         ouverte_ = false;
     else if (reste_.front() == ',')

@@ -5,6 +5,7 @@
 // backslash, relative to the working folder.
 
 #include <cstddef>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <span>
@@ -64,24 +65,78 @@ class Lignes {
     /// The lines of bytes that are at hand.
     explicit Lignes(std::string_view contenu);
     /// The next line, valid until the next call; false at the end of the file.
-    [[nodiscard]] bool suivante(std::string_view& ligne);
+    [[nodiscard]] bool suivante(std::string_view& ligne) {
+        const auto* saut = sautdeligne(debut_);
+        if (saut == nullptr)
+            return lirepuissuivante(ligne);
+        prendre(ligne, saut);
+        return true;
+    }
+    /// Gives every line that is left, with its number, to `voir`.
+    template <class Voir>
+    void chaque(Voir&& voir) {
+        for (std::string_view ligne; suivante(ligne);) {
+            voir(ligne, numero_);
+            chaquepresente(voir);
+        }
+    }
+    /// Gives the whole lines that are in memory already.
+    template <class Voir>
+    void chaquepresente(Voir&& voir) {
+        // In variables of its own, as it is what large files take their time in.
+        auto numero = numero_;
+        auto debut = debut_;
+        while (const auto* saut = sautdeligne(debut)) {
+            const auto fin = static_cast<std::size_t>(saut - tampon_.get());
+            voir(jusqua(debut, fin), ++numero);
+            debut = fin + 1;
+        }
+        numero_ = numero;
+        debut_ = debut;
+    }
     /// Number of the line last given, from 1.
     [[nodiscard]] std::size_t numero() const { return numero_; }
     /// The line last given had a line end.
     [[nodiscard]] bool terminee() const { return terminee_; }
 
+    /// Looks for these bytes at each reading of the file, once for all its lines.
+    void guetter(std::string_view signes) { signes_ = signes; }
+    /// None of them stands in the bytes read at once with the line last given.
+    [[nodiscard]] bool sanssigne() const { return sanssigne_; }
+
   private:
+    [[nodiscard]] const char* sautdeligne(std::size_t depuis) const {
+        if (depuis == fin_)
+            return nullptr;
+        return static_cast<const char*>(std::memchr(&tampon_[depuis], '\n', fin_ - depuis));
+    }
+    /// The line that ends at the line feed `fin`.
+    [[nodiscard]] std::string_view jusqua(std::size_t debut, std::size_t fin) const {
+        const bool retour = fin > debut && tampon_[fin - 1] == '\r';
+        return {&tampon_[debut], fin - debut - (retour ? 1 : 0)};
+    }
+    void prendre(std::string_view& ligne, const char* saut) {
+        const auto fin = static_cast<std::size_t>(saut - tampon_.get());
+        ligne = jusqua(debut_, fin);
+        debut_ = fin + 1;
+        terminee_ = true;
+        ++numero_;
+    }
+    bool lirepuissuivante(std::string_view& ligne);
     bool remplir();
 
     std::string chemin_;
     std::string action_;
     std::unique_ptr<Flux> flux_;
-    std::vector<char> tampon_;
+    std::size_t capacite_;
+    std::unique_ptr<char[]> tampon_;
+    std::string_view signes_;
     std::size_t debut_ = 0;
     std::size_t fin_ = 0;
     std::size_t numero_ = 0;
     bool fini_ = false;
     bool terminee_ = false;
+    bool sanssigne_ = false;
 };
 
 /// Items of a text file, one pass, as bytes of Windows-1252: blanks at the start are skipped; an
@@ -94,11 +149,43 @@ class Items {
     /// The items of bytes that are at hand.
     explicit Items(std::string_view contenu);
     /// The next item (`lireitem`), valid until the next call; false at the end of the file.
-    [[nodiscard]] bool lireitem(std::string_view& item);
+    [[nodiscard]] bool lireitem(std::string_view& item) {
+        if (ouverte_)
+            return lirereste(item);
+        if (!lignes_.suivante(item))
+            return false;
+        // In most files every line is an item.
+        if (!lignes_.sanssigne()) {
+            ouverte_ = true;
+            reste_ = item;
+            return lirereste(item);
+        }
+        sauterblancs(item);
+        numero_ = lignes_.numero();
+        return true;
+    }
+    /// Gives every item that is left, with its line, to `voir`.
+    template <class Voir>
+    void chaque(Voir&& voir) {
+        for (std::string_view item; lireitem(item);) {
+            voir(item, numero_);
+            if (ouverte_ || !lignes_.sanssigne())
+                continue;
+            lignes_.chaquepresente([&](std::string_view ligne, std::size_t numero) {
+                sauterblancs(ligne);
+                voir(ligne, numero);
+            });
+        }
+    }
     /// Number of the line on which the item last given begins, from 1.
     [[nodiscard]] std::size_t numero() const { return numero_; }
 
   private:
+    static void sauterblancs(std::string_view& texte) {
+        while (!texte.empty() && (texte.front() == ' ' || texte.front() == '\t'))
+            texte.remove_prefix(1);
+    }
+    bool lirereste(std::string_view& item);
     void lireguillemets(std::string_view& item);
     void passervirgule();
 

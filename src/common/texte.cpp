@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "faute.h"
 
@@ -151,23 +152,30 @@ std::string depuis1252(std::string_view octets) {
     return texte;
 }
 
-std::string vers1252(std::string_view texte) {
+std::optional<std::string> essayervers1252(std::string_view texte) {
     std::string octets;
     octets.reserve(texte.size());
     for (std::size_t i = 0; i < texte.size();) {
         const auto n = taille(texte, i);
-        const auto lettre = texte.substr(i, n);
-        const auto code = code1252(premier(lettre));
-        if (!code) {
-            throw Faute(
-                "Le caractère « " + std::string(lettre) + " » du texte « " + std::string(texte) +
-                " » ne peut pas être écrit dans un fichier : seuls les caractères occidentaux " +
-                "(Windows-1252) sont admis.");
-        }
+        const auto code = code1252(premier(texte.substr(i, n)));
+        if (!code)
+            return std::nullopt;
         octets += static_cast<char>(*code);
         i += n;
     }
     return octets;
+}
+
+std::string vers1252(std::string_view texte) {
+    if (auto octets = essayervers1252(texte))
+        return *std::move(octets);
+    const auto lettres = caracteres(texte);
+    const auto fautive = std::find_if(lettres.begin(), lettres.end(), [](const auto& lettre) {
+        return !code1252(premier(lettre));
+    });
+    throw Faute("Le caractère « " + *fautive + " » du texte « " + std::string(texte) +
+                " » ne peut pas être écrit dans un fichier : seuls les caractères occidentaux " +
+                "(Windows-1252) sont admis.");
 }
 
 }  // namespace common

@@ -42,6 +42,8 @@ namespace common {
 
 /// Bytes of Windows-1252 to UTF-8, without loss.
 [[nodiscard]] std::string depuis1252(std::string_view octets);
+/// UTF-8 to bytes of Windows-1252; nothing if the code page lacks a character.
+[[nodiscard]] std::optional<std::string> essayervers1252(std::string_view texte);
 /// UTF-8 to bytes of Windows-1252. Throws `Faute`, naming the character, if the code page lacks
 /// one.
 [[nodiscard]] std::string vers1252(std::string_view texte);

@@ -4,8 +4,8 @@
 // walked once, for the few words of the series; no table of it is built.
 // Formats: docs/formats.md.
 
+#include <bitset>
 #include <cstddef>
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,22 +28,24 @@ class Recherche {
     }
 
   private:
-    struct Cle {
-        std::string octets;
-        std::vector<std::size_t> rangs;
-    };
-    static constexpr std::size_t longueurs = 32;
+    static constexpr std::size_t cases = 4096;
 
+    /// A number under `cases`, equal for equal words.
+    [[nodiscard]] static std::size_t empreinte(std::string_view octets) {
+        const auto octet = [&](std::size_t place) {
+            return static_cast<std::size_t>(static_cast<unsigned char>(octets[place]));
+        };
+        const auto n = octets.size();
+        return (octet(0) + octet(n / 2) * 31 + octet(n - 1) * 97 + n * 389) % cases;
+    }
     [[nodiscard]] bool peutetre(std::string_view octets) const {
-        const auto n = octets.size() < longueurs ? octets.size() : longueurs - 1;
-        const auto code = static_cast<unsigned char>(octets[0]) ^
-                          (static_cast<unsigned char>(octets[octets.size() / 2]) * 5U);
-        return ((filtre_[n] >> (code & 63U)) & 1U) != 0;
+        return filtre_[empreinte(octets)];
     }
     [[nodiscard]] std::span<const std::size_t> trouver(std::string_view octets) const;
 
-    std::vector<Cle> cles_;  ///< sorted by bytes
-    std::vector<std::uint64_t> filtre_ = std::vector<std::uint64_t>(longueurs);
+    std::vector<std::string> octets_;  ///< the words, sorted
+    std::vector<std::size_t> rangs_;   ///< of each of them
+    std::bitset<cases> filtre_;        ///< their prints
 };
 
 /// For each word whether it stands in the list, read by items up to the first empty one. Throws

@@ -33,11 +33,11 @@ std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view ch
                                      std::span<const std::string> lignes) {
     std::vector<bool> presents(lignes.size(), false);
     const Recherche recherche(lignes);
-    common::Items items(disque, sanspartie(chemin), "Lecture des révisions");
-    std::string_view item;
-    while (items.lireitem(item))
-        for (const auto rang : recherche.rangs(item))
-            presents[rang] = true;
+    common::Items(disque, sanspartie(chemin), "Lecture des révisions")
+        .chaque([&](std::string_view item, std::size_t /*ligne*/) {
+            for (const auto rang : recherche.rangs(item))
+                presents[rang] = true;
+        });
     return presents;
 }
 

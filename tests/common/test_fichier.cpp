@@ -37,6 +37,27 @@ std::vector<std::string> items(const std::string& octets) {
     return liste;
 }
 
+/// What `chaque` of `Lignes` or `Items` gives, with the numbers.
+template <class L>
+std::vector<std::pair<std::string, std::size_t>> chaque(const std::string& octets) {
+    const essais::DossierTemporaire dossier;
+    dossier.ecrire("f.txt", octets);
+    common::DisqueReel disque(dossier.chemin());
+    std::vector<std::pair<std::string, std::size_t>> liste;
+    L(disque, "f.txt", "Essai").chaque([&](std::string_view texte, std::size_t numero) {
+        liste.emplace_back(texte, numero);
+    });
+    return liste;
+}
+
+template <class L>
+std::vector<std::string> textesdechaque(const std::string& octets) {
+    std::vector<std::string> textes;
+    for (const auto& [texte, numero] : chaque<L>(octets))
+        textes.push_back(texte);
+    return textes;
+}
+
 using Liste = std::vector<std::string>;
 
 struct Cas {
@@ -51,6 +72,7 @@ std::string nomducas(const testing::TestParamInfo<Cas>& info) {
 class Lignes : public testing::TestWithParam<Cas> {};
 TEST_P(Lignes, du_fichier) {
     EXPECT_EQ(lignes(GetParam().octets), GetParam().attendu);
+    EXPECT_EQ(textesdechaque<common::Lignes>(GetParam().octets), GetParam().attendu);
 }
 INSTANTIATE_TEST_SUITE_P(
     Fichier, Lignes,
@@ -84,6 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
 class Items : public testing::TestWithParam<Cas> {};
 TEST_P(Items, du_fichier) {
     EXPECT_EQ(items(GetParam().octets), GetParam().attendu);
+    EXPECT_EQ(textesdechaque<common::Items>(GetParam().octets), GetParam().attendu);
 }
 INSTANTIATE_TEST_SUITE_P(
     Fichier, Items,
@@ -109,7 +132,16 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"guillemets_virgule_au_bout_du_fichier", "\"A\",", {"A"}},
         Cas{"guillemets_sur_deux_lignes", "\"A\r\nB\",C\r\n", {"A\r\nB", "C"}},
         Cas{"guillemets_jamais_fermes", "\"A\r\nB\r\n", {"A\r\nB"}},
-        Cas{"guillemet_au_milieu", "A\"B,C\r\n", {"A\"B", "C"}}),
+        Cas{"guillemet_au_milieu", "A\"B,C\r\n", {"A\"B", "C"}},
+        Cas{"mots_nus_puis_signes_au_bloc_suivant",
+            std::string(bloc - 3, 'x') + "\r\nB\r\n C,D\r\n\"E\"\r\nF",
+            {std::string(bloc - 3, 'x'), "B", "C", "D", "E", "F"}},
+        Cas{"signes_puis_mots_nus_au_bloc_suivant",
+            " A,B\r\n" + std::string(bloc, 'x') + "\r\nC\r\nD\r\n",
+            {"A", "B", std::string(bloc, 'x'), "C", "D"}},
+        Cas{"mot_nu_a_cheval_sur_un_bloc_a_signes",
+            std::string(bloc - 6, 'x') + "\r\nABCDEFGH,I\r\nJ\r\n",
+            {std::string(bloc - 6, 'x'), "ABCDEFGH", "I", "J"}}),
     nomducas);
 
 TEST(Fichier, le_numero_d_une_ligne_et_d_un_item) {
@@ -122,6 +154,17 @@ TEST(Fichier, le_numero_d_une_ligne_et_d_un_item) {
         lus.emplace_back(item, lecture.numero());
     EXPECT_THAT(lus, ElementsAre(std::pair("A", 1), std::pair("B", 1), std::pair("C\r\nD", 2),
                                  std::pair("E", 3), std::pair("F", 4)));
+}
+
+TEST(Fichier, chaque_donne_le_numero_d_une_ligne_et_d_un_item) {
+    EXPECT_THAT(chaque<common::Lignes>("A\r\n\r\nB"),
+                ElementsAre(std::pair("A", 1), std::pair("", 2), std::pair("B", 3)));
+    EXPECT_THAT(
+        chaque<common::Items>("A\r\nB\r\n\r\nC"),
+        ElementsAre(std::pair("A", 1), std::pair("B", 2), std::pair("", 3), std::pair("C", 4)));
+    EXPECT_THAT(chaque<common::Items>("A,B\r\n\"C\r\nD\",E\r\nF\r\n"),
+                ElementsAre(std::pair("A", 1), std::pair("B", 1), std::pair("C\r\nD", 2),
+                            std::pair("E", 3), std::pair("F", 4)));
 }
 
 TEST(Fichier, un_fichier_absent_est_une_faute_qui_le_nomme) {
