@@ -29,6 +29,11 @@ Qt::Alignment alignementqt(Alignement alignement) {
 
 }  // namespace
 
+Etiquette::Etiquette(QWidget& parent, Fenetre& fenetre, Controle& controle)
+    : VueDe(parent, fenetre, controle) {
+    setTextFormat(Qt::PlainText);
+}
+
 QRectF Etiquette::placetexte() const {
     const double bord = sansfond() ? 0 : marge * unite();
     return QRectF(rect()).adjusted(bord, 0, -bord, 0);

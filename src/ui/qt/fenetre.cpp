@@ -165,7 +165,7 @@ void Fenetre::montrerformulaire() {
     if (dimensionnee_ && design_ != tailledessinee()) {
         design_ = tailledessinee();
         const auto taille = enpixels(design_, echelle_.partwip);
-        if (taille == size())
+        if (taille == size() || isMaximized() || isFullScreen())
             remettreechelle();
         else
             redimensionner(taille);

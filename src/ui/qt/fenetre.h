@@ -25,6 +25,8 @@ class MenuContextuel;
 class Fenetre : public QWidget, public VueFormulaire {
   public:
     Fenetre(Fenetrier& fenetrier, Formulaire& formulaire);
+    Fenetre(const Fenetre&) = delete;
+    Fenetre& operator=(const Fenetre&) = delete;
     ~Fenetre() override;
 
     [[nodiscard]] Formulaire& formulaire() const { return *formulaire_; }

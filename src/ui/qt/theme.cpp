@@ -1,5 +1,8 @@
 #include "theme.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QApplication>
 #include <QToolTip>
 
@@ -30,7 +33,9 @@ QColor encreqt(const Couleur& couleur) {
 }
 
 QColor melange(const QColor& une, const QColor& autre, double part) {
-    const auto canal = [part](int a, int b) { return static_cast<int>(a + (b - a) * part + .5); };
+    const auto canal = [part](int a, int b) {
+        return static_cast<int>(std::lround(a + (b - a) * part));
+    };
     return {canal(une.red(), autre.red()), canal(une.green(), autre.green()),
             canal(une.blue(), autre.blue()), canal(une.alpha(), autre.alpha())};
 }

@@ -38,6 +38,8 @@ inline constexpr Champs champsfonte =
 class Vue : public VueControle {
   public:
     Vue(Fenetre& fenetre, Controle& controle);
+    Vue(const Vue&) = delete;
+    Vue& operator=(const Vue&) = delete;
     ~Vue() override;
 
     [[nodiscard]] virtual QWidget& widget() = 0;
