@@ -49,7 +49,12 @@ class Machine : public testing::Test {
     Machine() : avant_(QDir::currentPath()), dossier_(QDir::tempPath() + "/machine d'été XXXXXX") {
         QDir::setCurrent(dossier_.path());
     }
-    ~Machine() override { QDir::setCurrent(avant_); }
+    ~Machine() override {
+        QDir::setCurrent(avant_);
+        // A program that has ended would leave the next test without event loops.
+        QTimer::singleShot(0, &QCoreApplication::quit);
+        QCoreApplication::exec();
+    }
 
     /// A message box that is on screen, as the player finds it, and what he does with it.
     struct Vue {
