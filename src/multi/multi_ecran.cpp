@@ -19,7 +19,7 @@ constexpr ui::Cadrage notes{3720, 8040, 10455, 2895};
 constexpr ui::Cadrage notesafin{3720, 9240, 10455, 1700};  ///< below the tiles
 constexpr int hauteurfenetre = 11040;
 constexpr int marge = 240;
-constexpr int largeurcolonne = 3120;
+constexpr int largeurcolonne = 3600;
 
 /// A control that stands alone.
 struct Place {
@@ -41,21 +41,21 @@ constexpr std::array fixes{
 /// In the column, from its left edge.
 constexpr std::array decolonne{
     Place{"Frame1", 0, {0, 840, largeurcolonne, 2520}},
-    Place{"Label3", -1, {130, 900, 2860, 360}},
-    Place{"Label1", -1, {130, 1400, 860, 420}},
-    Place{"temps", -1, {1040, 1310, 1950, 580}},
-    Place{"Label2", -1, {130, 2060, 860, 420}},
-    Place{"tempstot", -1, {1040, 1970, 1950, 580}},
-    Place{"Check1", -1, {130, 2720, 1300, 460}},
-    Place{"Command5", -1, {1470, 2690, 1520, 520}},
+    Place{"Label3", -1, {130, 900, 3340, 360}},
+    Place{"Label1", -1, {130, 1400, 900, 420}},
+    Place{"temps", -1, {1100, 1310, 2370, 580}},
+    Place{"Label2", -1, {130, 2060, 900, 420}},
+    Place{"tempstot", -1, {1100, 1970, 2370, 580}},
+    Place{"Check1", -1, {130, 2720, 1500, 460}},
+    Place{"Command5", -1, {1750, 2690, 1720, 520}},
     Place{"Frame1", 1, {0, 3480, largeurcolonne, 2340}},
-    Place{"Label4", -1, {130, 3610, 1700, 400}},
-    Place{"motsleft", -1, {1870, 3570, 1120, 460}},
-    Place{"Label8", -1, {130, 4140, 1560, 400}},
-    Place{"nbftotal", -1, {1700, 4140, 1290, 400}},
-    Place{"nbseries", -1, {130, 4600, 2860, 380}},
-    Place{"score", -1, {130, 5080, 1400, 600}},
-    Place{"tps", -1, {1590, 5080, 1400, 600}},
+    Place{"Label4", -1, {130, 3610, 1950, 400}},
+    Place{"motsleft", -1, {2130, 3570, 1340, 460}},
+    Place{"Label8", -1, {130, 4140, 1800, 400}},
+    Place{"nbftotal", -1, {1950, 4140, 1520, 400}},
+    Place{"nbseries", -1, {130, 4600, 3340, 380}},
+    Place{"score", -1, {130, 5080, 1620, 600}},
+    Place{"tps", -1, {1850, 5080, 1620, 600}},
     Place{"corriger", -1, {0, 5940, largeurcolonne, 600}},
     Place{"restart", -1, {0, 6640, largeurcolonne, 600}},
     Place{"quitter", -1, {0, 7340, largeurcolonne, 535}},

@@ -137,8 +137,8 @@ TEST_P(Ecran, une_marque_tient_entre_deux_boites_a_leur_hauteur) {
 TEST_P(Ecran, la_colonne_des_chronometres_suit_la_derniere_solution) {
     const int derniere = 3360 + 3240 * GetParam();
     EXPECT_GE(controle("corriger").gauche(), derniere);
-    EXPECT_LE(controle("corriger").gauche(), std::max(derniere, 11055));
-    EXPECT_EQ(form->largeur(), controle("corriger").gauche() + 3120 + 240);
+    EXPECT_LE(controle("corriger").gauche(), std::max(derniere, 3720 + 10455 - 3600));
+    EXPECT_EQ(form->largeur(), controle("corriger").gauche() + 3600 + 240);
 }
 
 /// On a small screen a box is wide enough for a word of nine wide letters at the size of the list.
