@@ -56,6 +56,17 @@ void laissercourir() {
     }
 }
 
+/// A desktop takes its time to bring a window in front.
+void attendredevant(const QWidget& fenetre) {
+    constexpr int limite = 5000;  // milliseconds
+    static_cast<void>(QTest::qWaitFor(
+        [&] {
+            return QApplication::activeWindow() == &fenetre && fenetre.windowHandle()->isExposed();
+        },
+        limite));
+    laissercourir();
+}
+
 /// A place of a widget, in its window, where the mouse meets it and no other: first the one that
 /// is asked for, then its middle, then any.
 QPoint placelibre(QWidget& fenetre, QWidget& widget, QPoint voulue) {
@@ -175,7 +186,7 @@ QWidget& PiloteQt::fenetre(ui::Formulaire& formulaire) {
         fermermenu(formulaire);
     fenetre->activateWindow();
     plateforme_.bureau.activer(formulaire);
-    laissercourir();
+    attendredevant(*fenetre);
     return *fenetre;
 }
 
@@ -338,15 +349,15 @@ ui::Reponse PiloteQt::repondre(std::string_view texte, ui::Icone icone, bool oui
 void PiloteQt::suivre() {
     fenetrier_.rafraichir();
     laissercourir();
+    const auto* actif = plateforme_.bureau.actif();
+    auto* cadre = actif == nullptr ? nullptr : fenetrier_.fenetre(*actif);
+    if (cadre == nullptr || QApplication::activePopupWidget() != nullptr)
+        return;
     // A desktop never leaves the user without a window in front; the machine without a screen does
     // once a menu or a window has gone.
-    const auto* actif = plateforme_.bureau.actif();
-    if (QApplication::activeWindow() != nullptr || actif == nullptr)
-        return;
-    if (auto* cadre = fenetrier_.fenetre(*actif); cadre != nullptr) {
+    if (QApplication::activeWindow() == nullptr)
         cadre->activateWindow();
-        laissercourir();
-    }
+    attendredevant(*cadre);
 }
 
 std::string PiloteQt::poser() {
