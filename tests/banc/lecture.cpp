@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace banc {
 namespace {
@@ -39,34 +40,47 @@ std::string enlettres(std::size_t nombre) {
     return lettres;
 }
 
+bool prendlignes(const Ordre& ordre) {
+    if (ordre.nom == "refus")
+        return prendlignes(decouper(ordre.suite));
+    return ordre.nom == "fichier" || ordre.nom == "contenu";
+}
+
 Lecteur::Lecteur(std::istream& flux) : flux_(flux) {
-    avancer();
+    gardee_ = avancer();
     if (ligne_ == "# modele seulement")
         destination_ = Destination::Modele;
     else if (ligne_ == "# qt seulement")
         destination_ = Destination::Qt;
 }
 
-void Lecteur::avancer() {
-    reste_ = static_cast<bool>(std::getline(flux_, ligne_));
-    if (!reste_)
-        ligne_.clear();
-    else
-        ++numero_;
+/// Goes to the next line; false at the end of the scenario.
+bool Lecteur::avancer() {
+    if (std::exchange(gardee_, false))
+        return true;
+    ligne_.clear();
+    if (!std::getline(flux_, ligne_))
+        return false;
+    ++numero_;
     if (!ligne_.empty() && ligne_.back() == '\r')
         ligne_.pop_back();
+    return true;
 }
 
 bool Lecteur::suivant(Ordre& ordre) {
-    while (reste_ && sansordre(ligne_))
-        avancer();
-    if (!reste_)
-        return false;
+    do {
+        if (!avancer())
+            return false;
+    } while (sansordre(ligne_));
     ordre = decouper(ligne_);
     ordre.numero = numero_;
-    for (avancer(); reste_ && (sansordre(ligne_) || ligne_.front() == marque); avancer()) {
-        if (!sansordre(ligne_))
-            ajouter(ordre, std::string_view(ligne_).substr(1));
+    while (prendlignes(ordre) && avancer()) {
+        if (sansordre(ligne_))
+            continue;
+        gardee_ = ligne_.front() != marque;
+        if (gardee_)
+            break;
+        ajouter(ordre, std::string_view(ligne_).substr(1));
     }
     return true;
 }

@@ -24,13 +24,17 @@ struct Ordre {
 /// The driver that a scenario is meant for, told by its first line.
 enum class Destination : std::uint8_t { Tous, Modele, Qt };
 
+/// The order, or the one that it says is refused, takes the lines that follow it.
+[[nodiscard]] bool prendlignes(const Ordre& ordre);
+
 /// Splits a line into its first word and the rest behind one blank.
 [[nodiscard]] Ordre decouper(std::string_view ligne);
 
 /// A number written in capital letters: 1 is A, 26 Z, 27 AA.
 [[nodiscard]] std::string enlettres(std::size_t nombre);
 
-/// Reads the orders of a scenario, one pass.
+/// Reads the orders of a scenario, one pass. It reads ahead only behind an order that takes lines,
+/// so that who gives orders one by one gets each answer at once.
 class Lecteur {
   public:
     explicit Lecteur(std::istream& flux);
@@ -39,13 +43,13 @@ class Lecteur {
     [[nodiscard]] bool suivant(Ordre& ordre);
 
   private:
-    void avancer();
+    [[nodiscard]] bool avancer();
     static void ajouter(Ordre& ordre, std::string_view ligne);
 
     std::istream& flux_;
-    std::string ligne_;  ///< the line that has been read and not yet used
+    std::string ligne_;
     std::size_t numero_ = 0;
-    bool reste_ = true;
+    bool gardee_ = false;  ///< the line has been read and not yet used
     Destination destination_ = Destination::Tous;
 };
 

@@ -97,9 +97,9 @@ std::string absent(Seance& seance, const Ordre& ordre) {
 }
 
 constexpr std::array commandes{
-    Commande{"fichier", ordrefichier, true, true}, Commande{"octets", ordreoctets, true},
-    Commande{"supprimer", supprimer, true},        Commande{"lectureseule", lectureseule, true},
-    Commande{"contenu", contenu, true, true},      Commande{"absent", absent, true},
+    Commande{"fichier", ordrefichier, true}, Commande{"octets", ordreoctets, true},
+    Commande{"supprimer", supprimer, true},  Commande{"lectureseule", lectureseule, true},
+    Commande{"contenu", contenu, true},      Commande{"absent", absent, true},
 };
 
 }  // namespace

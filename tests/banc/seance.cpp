@@ -51,8 +51,6 @@ std::string Seance::executer(const Ordre& ordre) {
     const auto* commande = chercher(ordre.nom);
     if (commande == nullptr)
         throw OrdreFaux("ordre inconnu : " + ordre.nom);
-    if (!commande->lignes && !ordre.lignes.empty())
-        throw OrdreFaux("l'ordre ne prend pas de lignes : " + ordre.nom);
     if (plateforme.fini() && !commande->apreslafin)
         throw Refus("le programme est terminé");
     auto valeur = commande->faire(*this, ordre);

@@ -58,7 +58,6 @@ struct Commande {
     /// Answers the value to show, empty for none. Throws `Refus`.
     std::string (*faire)(Seance& seance, const Ordre& ordre);
     bool apreslafin = false;  ///< accepted once the program has ended
-    bool lignes = false;      ///< takes the lines that follow
 };
 
 }  // namespace banc

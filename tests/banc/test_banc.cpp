@@ -234,7 +234,7 @@ INSTANTIATE_TEST_SUITE_P(
             "contenu listes\\inv.txt\ncontenu infosouris.txt\n",
             "ok\nok\nok\nok\nok\n"},
         Cas{"un_ordre_sans_lignes_n_en_prend_pas", "demarrer\n| A\n",
-            "erreur: l'ordre ne prend pas de lignes : demarrer (essai:1)\n"}),
+            "ok\nerreur: ordre inconnu : | (essai:2)\n"}),
     nomducas);
 
 TEST(Destination, un_scenario_de_l_autre_pilote_est_laisse) {
@@ -249,6 +249,27 @@ TEST(Graine, la_meme_graine_donne_la_meme_suite_quoi_que_dise_l_horloge) {
     };
     EXPECT_EQ(suite("3"), suite("3"));
     EXPECT_NE(suite("3"), suite("4"));
+}
+
+TEST(Lecteur, lit_une_ligne_a_la_fois) {
+    std::istringstream flux("demarrer\navancer 1\n");
+    banc::Lecteur lecteur(flux);
+    banc::Ordre ordre;
+    ASSERT_TRUE(lecteur.suivant(ordre));
+    EXPECT_EQ(flux.tellg(), 9) << "qui attend la réponse n'a pas encore écrit la suite";
+    ASSERT_TRUE(lecteur.suivant(ordre));
+    EXPECT_EQ(ordre.nom, "avancer");
+    EXPECT_FALSE(lecteur.suivant(ordre));
+}
+
+TEST(Lecteur, les_lignes_d_un_ordre_refuse_sont_les_siennes) {
+    std::istringstream flux("refus contenu x\n| A\n# note\n\n|\ndemarrer\n");
+    banc::Lecteur lecteur(flux);
+    banc::Ordre ordre;
+    ASSERT_TRUE(lecteur.suivant(ordre));
+    EXPECT_THAT(ordre.lignes, testing::ElementsAre("A", ""));
+    ASSERT_TRUE(lecteur.suivant(ordre));
+    EXPECT_EQ(ordre.numero, 6U);
 }
 
 TEST(Lettres, nombres_en_lettres_capitales) {

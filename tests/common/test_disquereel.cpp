@@ -113,6 +113,15 @@ TEST_F(DisqueReel, creer_un_dossier_qui_existe_et_un_nom_impossible) {
     EXPECT_TRUE(disque.creerdossier("f"));
 }
 
+TEST_F(DisqueReel, renommer_un_dossier_avec_ce_qu_il_tient) {
+    EXPECT_FALSE(disque.creerdossier("provisoire"));
+    EXPECT_FALSE(disque.remplacer("provisoire\\f.txt", "x"));
+    EXPECT_FALSE(disque.renommer("provisoire", "Zoé"));
+    EXPECT_EQ(dossier.lire("Zoé/f.txt"), "x");
+    EXPECT_FALSE(disque.existe("provisoire"));
+    EXPECT_TRUE(disque.renommer("provisoire", "autre"));
+}
+
 TEST_F(DisqueReel, supprimer_un_fichier_et_rien) {
     dossier.ecrire("f.txt", "x");
     EXPECT_FALSE(disque.supprimer("f.txt"));
