@@ -15,6 +15,7 @@ struct Boite {
     ui::Couleur fond;
     bool verrou = false;
     bool visible = false;
+    friend bool operator==(const Boite&, const Boite&) = default;
 };
 
 /// Where a list stands.
@@ -54,6 +55,7 @@ struct Ecran {
     std::string tempstot;
     std::string titre;
     std::string notes;
+    friend bool operator==(const Ecran&, const Ecran&) = default;
 
     [[nodiscard]] Etat etat() const {
         return corriger ? Etat::Ouverte : restart ? Etat::Corrigee : Etat::Finie;

@@ -1,29 +1,20 @@
 #include "partie.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
-
-#include "pilotemodele.h"
-#include "programmereel.h"
 
 namespace endurance {
 
 Partie::Partie(const std::filesystem::path& jeu)
-    : seance_(
-          dossier_.chemin(),
-          [](ui::Plateforme& p) { return std::make_unique<banc::ProgrammeReel>(p); },
-          [](banc::PlateformeSimulee& p) { return std::make_unique<banc::PiloteModele>(p); }),
-      fiches_{
-          Fiche{"Form1",
-                {false, seance_.programme->voisins().form3, seance_.programme->voisins().dialog2},
-                {},
-                {}},
-          Fiche{"Multi",
-                {true, seance_.programme->voisins().form3, seance_.programme->voisins().dialog2},
-                {},
-                {}}},
-      instant_(seance_.plateforme.maintenant()) {
-    banc::garnir(dossier_.chemin(), jeu);
+    : machine_(jeu),
+      seance_(machine_.seance),
+      fiches_{fiche("Form1", false), fiche("Multi", true)},
+      instant_(seance_.plateforme.maintenant()) {}
+
+Partie::Fiche Partie::fiche(const char* nom, bool multi) {
+    auto& voisins = seance_.programme->voisins();
+    return {nom, {multi, voisins.form3, voisins.dialog2}, {}, {}};
 }
 
 bool Partie::montre(std::string_view nom) const {
@@ -60,7 +51,7 @@ bool Partie::donner(const std::string& ordre, const std::vector<std::string>& li
 std::vector<std::string> Partie::lignesde(const std::string& chemin) const {
     auto systeme = chemin;
     std::replace(systeme.begin(), systeme.end(), '\\', '/');
-    return leslignes(dossier_.chemin() / systeme);
+    return leslignes(machine_.dossier.chemin() / systeme);
 }
 
 Fichiers Partie::lirefichiers(const std::string& revision) const {
@@ -149,6 +140,9 @@ bool Partie::fauteprevue(const std::string& rapport, const banc::Ordre& ordre) c
             return std::any_of(fiche.ecran.tirage.begin(), fiche.ecran.tirage.end(),
                                [](const Boite& boite) { return net(boite.texte).size() > 15; });
         });
+    // The sample of this row is compared with the size for duos, and drawn on Form1.
+    if (dit("la liste n'en compte que"))
+        return ordre.suite == "Form3.Command6(6)";
     if (dit("n'admet aucune lettre")) {
         const int boite = multi.ecran.boiteactive;
         return ordre.nom == "taper" && multi.ecran.visible && multi.ecran.corriger && boite >= 0 &&

@@ -12,8 +12,7 @@
 #include <vector>
 
 #include "constats.h"
-#include "dossier.h"
-#include "seance.h"
+#include "machine.h"
 #include "suivi.h"
 
 namespace endurance {
@@ -58,6 +57,7 @@ class Partie {
         Ecran ecran;
     };
 
+    [[nodiscard]] Fiche fiche(const char* nom, bool multi);
     void verifier(const banc::Ordre& ordre, const std::string& reponse);
     void verifierfiche(Fiche& fiche, const Moment& moment);
     void verifierfin(const banc::Ordre& ordre);
@@ -65,8 +65,8 @@ class Partie {
     [[nodiscard]] Fichiers lirefichiers(const std::string& revision) const;
     [[nodiscard]] std::vector<std::string> lignesde(const std::string& chemin) const;
 
-    banc::Dossier dossier_;
-    banc::Seance seance_;
+    fuzz::Machine machine_;
+    banc::Seance& seance_;
     std::array<Fiche, 2> fiches_;
     Constats constats_;
     std::vector<std::string> trace_;

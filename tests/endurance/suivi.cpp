@@ -174,12 +174,13 @@ bool Suivi::montree(const Rangee& rangee, int place, const Moment& moment) const
     return texte == rangee.tirage || texte == net(rangee.tirage);
 }
 
-/// Each rack is that of a row that is left, and none comes more often than such rows are.
+/// Each rack is that of a row that is left, and none comes more often than such rows are. The first
+/// rack, of which the letters alone may show, takes what the others leave.
 void Suivi::tirerracks(const Moment& moment, Constats& constats) {
     auto reste = restantes_;
-    tirees_.clear();
     const int nombre = std::min(plus_, nbtirages_);
-    for (int place = 0; place < nbtirages_; ++place) {
+    tirees_.assign(static_cast<std::size_t>(nombre), {});
+    for (int place = nbtirages_ - 1; place >= 0; --place) {
         const auto& texte = moment.apres.tirage[static_cast<std::size_t>(place)].texte;
         if (place >= nombre) {
             constats.egal(texte, std::string(), "tirage " + std::to_string(place));
@@ -189,14 +190,13 @@ void Suivi::tirerracks(const Moment& moment, Constats& constats) {
             std::find_if(rangees_.begin(), rangees_.end(), [&](const Rangee& rangee) {
                 return montree(rangee, place, moment) && reste[rangee.ligne()] > 0;
             });
-        if (trouvee == rangees_.end()) {
-            constats.exiger(false, "tirage " + std::to_string(place) + " « " + texte +
-                                       " » : aucune rangée restante de ce nom");
-            tirees_.emplace_back();
+        constats.exiger(trouvee != rangees_.end(), "tirage " + std::to_string(place) + " « " +
+                                                       texte +
+                                                       " » : aucune rangée restante de ce nom");
+        if (trouvee == rangees_.end())
             continue;
-        }
         --reste[trouvee->ligne()];
-        tirees_.push_back(*trouvee);
+        tirees_[static_cast<std::size_t>(place)] = *trouvee;
     }
 }
 

@@ -32,9 +32,9 @@ std::string recit(const Partie& partie, std::uint64_t graine) {
     return texte;
 }
 
-class Endurance : public testing::TestWithParam<std::uint64_t> {};
+class Endurances : public testing::TestWithParam<std::uint64_t> {};
 
-TEST_P(Endurance, tout_reste_d_accord) {
+TEST_P(Endurances, tout_reste_d_accord) {
     constexpr std::uint64_t ecart = 1000;  // between the seeds of two tests
     std::size_t ordres = 0;
     int series = 0;
@@ -55,7 +55,33 @@ TEST_P(Endurance, tout_reste_d_accord) {
     EXPECT_GT(listes, 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(, Endurance, testing::Range<std::uint64_t>(1, 60),
+/// The orders of a session make a scenario that takes the bench to the same screens.
+TEST(Endurance, une_seance_se_rejoue) {
+    constexpr std::uint64_t graine = 8;
+    constexpr std::size_t assez = 600;
+    Partie partie(jeu);
+    Joueur joueur(partie, graine);
+    joueur.preparer();
+    joueur.jouer(assez);
+    ASSERT_TRUE(partie.constats().aucun()) << recit(partie, graine);
+    ASSERT_FALSE(partie.finie());
+
+    fuzz::Machine machine(jeu);
+    std::istringstream scenario(partie.scenario(partie.ordres()));
+    banc::Lecteur lecteur(scenario);
+    banc::Ordre ordre;
+    std::size_t ordres = 0;
+    for (; lecteur.suivant(ordre); ++ordres)
+        ASSERT_EQ(machine.seance.repondre(ordre), "ok") << ordre.nom << " " << ordre.suite;
+    EXPECT_EQ(ordres, partie.ordres());
+    for (const bool multi : {false, true}) {
+        const auto* form = machine.seance.plateforme.bureau.trouver(multi ? "Multi" : "Form1");
+        ASSERT_NE(form, nullptr);
+        EXPECT_EQ(endurance::Lecteurecran(*form).lire(), partie.ecran(multi));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, Endurances, testing::Range<std::uint64_t>(1, 60),
                          [](const auto& cas) { return std::to_string(cas.param); });
 
 }  // namespace

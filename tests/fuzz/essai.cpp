@@ -26,12 +26,6 @@ std::uint64_t graine(std::string_view nom) {
     return somme;
 }
 
-/// How many times the usual number of runs: more of them for who looks for defects.
-int facteur() {
-    const char* voulu = std::getenv("ORVANE_FUZZ_FACTEUR");
-    return voulu == nullptr ? 1 : std::max(1, std::atoi(voulu));
-}
-
 /// False if the run ended in a fault.
 bool essayerune(const Lecteur& lecteur, Essai& essai) {
     try {
@@ -46,6 +40,11 @@ bool essayerune(const Lecteur& lecteur, Essai& essai) {
 }
 
 }  // namespace
+
+int facteur() {
+    const char* voulu = std::getenv("ORVANE_FUZZ_FACTEUR");
+    return voulu == nullptr ? 1 : std::max(1, std::atoi(voulu));
+}
 
 void PrintTo(const Lecteur& lecteur, std::ostream* sortie) {
     *sortie << lecteur.nom;

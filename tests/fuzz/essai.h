@@ -41,6 +41,10 @@ class Lecture : public testing::TestWithParam<Lecteur> {
     static void essayer(const Lecteur& lecteur);
 };
 
+/// How many times the usual number of runs: more of them for who looks for defects, told by the
+/// environment variable ORVANE_FUZZ_FACTEUR.
+[[nodiscard]] int facteur();
+
 /// The bytes of a file of the corpus.
 [[nodiscard]] std::string corpus(const std::string& nom);
 /// Every file of the corpus.
