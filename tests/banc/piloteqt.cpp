@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
@@ -20,6 +19,7 @@
 #include <QWindow>
 #include <QtTest/QTest>
 
+#include "ecranqt.h"
 #include "fenetre.h"
 #include "messages.h"
 #include "seance.h"
@@ -45,63 +45,6 @@ void noter(QtMsgType genre, const QMessageLogContext& /*lieu*/, const QString& t
     });
     if (genre != QtDebugMsg && genre != QtInfoMsg && !connu)
         avertissements().push_back(texte.toStdString());
-}
-
-/// Runs what waits, deletions included.
-void laissercourir() {
-    constexpr int tours = 3;  // an event may post others
-    for (int i = 0; i < tours; ++i) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
-/// A desktop takes its time to bring a window in front.
-void attendredevant(const QWidget& fenetre) {
-    constexpr int limite = 5000;  // milliseconds
-    static_cast<void>(QTest::qWaitFor(
-        [&] {
-            return QApplication::activeWindow() == &fenetre && fenetre.windowHandle()->isExposed();
-        },
-        limite));
-    laissercourir();
-}
-
-/// A place of a widget, in its window, where the mouse meets it and no other: first the one that
-/// is asked for, then its middle, then any.
-QPoint placelibre(QWidget& fenetre, QWidget& widget, QPoint voulue) {
-    constexpr int pas = 8;
-    std::vector<QPoint> places{voulue, widget.rect().center()};
-    for (int y = 1; y < pas; ++y) {
-        for (int x = 1; x < pas; ++x)
-            places.emplace_back(widget.width() * x / pas, widget.height() * y / pas);
-    }
-    for (const auto& place : places) {
-        const auto point = widget.mapTo(&fenetre, place);
-        const auto* touche = fenetre.childAt(point);
-        if (touche == &widget || (touche != nullptr && widget.isAncestorOf(touche)))
-            return point;
-    }
-    throw Refus("à l'écran, la souris n'atteint pas le contrôle " +
-                widget.objectName().toStdString());
-}
-
-/// Sends an event of the mouse to what lies at a place of a window.
-void souris(QWidget& fenetre, QPoint place, QEvent::Type genre, Qt::MouseButton bouton) {
-    auto* enfant = fenetre.childAt(place);
-    auto& cible = enfant == nullptr ? fenetre : *enfant;
-    const auto locale = cible.mapFrom(&fenetre, place);
-    const bool leve = genre == QEvent::MouseButtonRelease;
-    QMouseEvent evenement(genre, locale, place, fenetre.mapToGlobal(place), bouton,
-                          leve ? Qt::NoButton : bouton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&cible, &evenement);
-}
-
-void clic(QWidget& fenetre, QPoint place, Qt::MouseButton bouton = Qt::LeftButton) {
-    const QPointer<QWidget> encore(&fenetre);
-    souris(fenetre, place, QEvent::MouseButtonPress, bouton);
-    if (!encore.isNull())
-        souris(*encore, place, QEvent::MouseButtonRelease, bouton);
 }
 
 /// Where to click a control: at the end of the text of a box, so that the caret comes there.

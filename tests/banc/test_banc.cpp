@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include "disquesimule.h"
+#include "dossier.h"
 #include "fauxprogramme.h"
 #include "pilotemodele.h"
 #include "scenario.h"
@@ -249,6 +251,18 @@ TEST(Graine, la_meme_graine_donne_la_meme_suite_quoi_que_dise_l_horloge) {
     };
     EXPECT_EQ(suite("3"), suite("3"));
     EXPECT_NE(suite("3"), suite("4"));
+}
+
+TEST(DisqueSimule, compte_ce_qui_est_lu_et_ecrit) {
+    const banc::Dossier dossier;
+    banc::DisqueSimule disque(dossier.chemin());
+    disque.refuser("d");
+    EXPECT_FALSE(disque.remplacer("f.txt", "A"));
+    EXPECT_EQ(disque.ajouter("d\\g.txt", "B"), std::errc::no_space_on_device);
+    std::unique_ptr<common::Flux> flux;
+    EXPECT_FALSE(disque.ouvrir("f.txt", flux));
+    EXPECT_EQ(disque.ecritures(), 2);
+    EXPECT_EQ(disque.lectures(), 1);
 }
 
 TEST(Lecteur, lit_une_ligne_a_la_fois) {
