@@ -109,11 +109,11 @@ void Multi::jugerboite(int rang) {
 
 /// Marks and notes of the words that the boxes show by now.
 void Multi::annoterboites() {
-    std::vector<std::string> mots;
-    for (int i = 0; i < boitesutiles_; ++i)
-        mots.push_back(solution[static_cast<std::size_t>(i)]->texte());
-    std::vector<int> boites(mots.size());
+    std::vector<int> boites(static_cast<std::size_t>(boitesutiles_));
     std::iota(boites.begin(), boites.end(), 0);
+    std::vector<std::string> mots(boites.size());
+    std::transform(solution.begin(), solution.begin() + boitesutiles_, mots.begin(),
+                   [](const ui::Controle* reponse) { return reponse->texte(); });
     marques.montrer(mots);
     montrernotes(mots, boites);
 }

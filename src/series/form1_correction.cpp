@@ -64,6 +64,7 @@ void Form1::corrigerserie() {
 
 void Form1::marquer(int nombre) {
     std::vector<std::string> mots;
+    mots.reserve(static_cast<std::size_t>(nombre));
     for (int i = 0; i < nombre; ++i)
         mots.push_back(rangees_.suite(rangee(i)));
     marques.montrer(mots);

@@ -119,6 +119,7 @@ void Formserie::tirerrangees() {
 void Formserie::prendrerevisions() {
     const int nombre = nombredelaserie();
     std::vector<std::string> lignesdelaserie;
+    lignesdelaserie.reserve(static_cast<std::size_t>(nombre));
     for (int place = 0; place < nombre; ++place)
         lignesdelaserie.push_back(lignedelaliste(rangee(place)));
     std::fill(enrevision_.begin(), enrevision_.end(), false);
