@@ -165,12 +165,13 @@ Dessin dessiner(const Signe& signe) {
     return dessin;
 }
 
-void ajouterfinesses(std::vector<Tableau>& liste, const Signe& signe) {
+// A picture and its finer variants, each drawn anew; the size is that of the first, in pixels.
+void ajouterfinesses(std::vector<Tableau>& liste, const std::string& nom, const char* terminaison,
+                     const Dessin& dessin, int largeur, int hauteur) {
     for (const int finesse : {1, 2, 4}) {
         const std::string suffixe = finesse > 1 ? "@" + std::to_string(finesse) + "x" : "";
-        liste.push_back({std::string(signe.nom) + suffixe + ".bmp", dessiner(signe),
-                         static_cast<int>(signe.largeur) * finesse,
-                         static_cast<int>(signe.hauteur) * finesse});
+        liste.push_back(
+            {nom + suffixe + terminaison, dessin, largeur * finesse, hauteur * finesse});
     }
 }
 
@@ -190,12 +191,14 @@ std::vector<Tableau> tableaux() {
     std::vector<Tableau> liste;
     for (const auto& signes : {marques(), demimarques(), badges()}) {
         for (const Signe& signe : signes)
-            ajouterfinesses(liste, signe);
+            ajouterfinesses(liste, std::string(signe.nom), ".bmp", dessiner(signe),
+                            static_cast<int>(signe.largeur), static_cast<int>(signe.hauteur));
     }
     for (const int cote : {16, 24, 32, 48, 64, 128, 256}) {
         liste.push_back({"orvane_" + std::to_string(cote) + ".png", icone(), cote, cote});
     }
-    liste.push_back({"connexion.png", naturemorte(), 1200, 750});
+    // As large as the login shows it on a screen of 1366 by 768: nothing to scale while it opens.
+    ajouterfinesses(liste, "connexion", ".png", naturemorte(), 408, 255);
     return liste;
 }
 

@@ -93,7 +93,8 @@ TEST(Png, HoldsItsRowsUnfilteredAndStored) {
 }
 
 TEST(Images, TheLoginPictureAndTheIconsAreThere) {
-    EXPECT_GE(parnom().at("connexion.png").largeur, 480);
+    EXPECT_EQ(parnom().at("connexion.png").largeur, 408);
+    EXPECT_EQ(parnom().at("connexion@4x.png").largeur, 1632);
     for (const int cote : {16, 24, 32, 48, 64, 128, 256})
         EXPECT_EQ(parnom().at("orvane_" + std::to_string(cote) + ".png").hauteur, cote);
 }

@@ -332,7 +332,7 @@ std::string PiloteQt::desaccord(const ui::Controle& controle) {
     if (controle.genre() == ui::Genre::Entree)
         return {};
     if (widget == nullptr)
-        return "pas de widget";
+        return fenetrier_.fenetre(controle.formulaire())->habillee() ? "pas de widget" : "";
     if (widget->isHidden() == controle.visible())
         return "visible";
     if (widget->isEnabled() != controle.actif())

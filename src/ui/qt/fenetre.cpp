@@ -50,7 +50,6 @@ Fenetre::Fenetre(Fenetrier& fenetrier, Formulaire& formulaire)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
     formulaire.vue = this;
-    completer();
 }
 
 Fenetre::~Fenetre() {
@@ -60,8 +59,10 @@ Fenetre::~Fenetre() {
         formulaire_->vue = nullptr;
 }
 
-/// Makes the views of the controls that have none yet.
+/// Makes the views of the controls that have none yet, once their scale is known.
 void Fenetre::completer() {
+    if (!dimensionnee_)
+        return;
     const auto& controles = formulaire_->controles();
     for (auto i = vues_.size() + entrees_; i < controles.size(); ++i) {
         auto& controle = *controles[i];
@@ -238,8 +239,12 @@ void Fenetre::apparaitre() {
         if (voisine != nullptr && voisine != this && windowHandle() != nullptr)
             windowHandle()->setTransientParent(voisine->windowHandle());
     }
+    // Dressed while the desktop finds the window its place, and painted no earlier.
     show();
     activateWindow();
+    completer();
+    for (auto* vue : std::exchange(relevees_, {}))
+        vue->widget().raise();
 }
 
 void Fenetre::disparaitre() {
@@ -272,6 +277,8 @@ void Fenetre::paintEvent(QPaintEvent* evenement) {
     QPainter peintre(this);
     const auto fond = orpheline() ? Couleur::bouton() : formulaire_->fond();
     peintre.fillRect(evenement->rect(), couleurqt(fond));
+    if (!orpheline())
+        fenetrier_.peinte();
 }
 
 void Fenetre::resizeEvent(QResizeEvent* evenement) {

@@ -33,6 +33,8 @@ class Fenetre : public QWidget, public VueFormulaire {
     /// The form is gone; the window only waits for its end.
     [[nodiscard]] bool orpheline() const { return formulaire_ == nullptr; }
     [[nodiscard]] const Echelle& echelle() const { return echelle_; }
+    /// The controls have their widgets: the window was shown once.
+    [[nodiscard]] bool habillee() const { return dimensionnee_; }
     [[nodiscard]] QFont fontedemenu() const;
     [[nodiscard]] Vue* vuede(const Controle& controle) const;
     [[nodiscard]] QMenu* menu() const;

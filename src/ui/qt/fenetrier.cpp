@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QIcon>
 #include <QMenu>
@@ -40,8 +40,6 @@ Fenetrier::~Fenetrier() {
 
 void Fenetrier::accueillir(Formulaire& formulaire) {
     auto* fenetre = new Fenetre(*this, formulaire);  // deleted here, or by Qt once it is orphaned
-    fenetre->setWindowIcon(
-        iconeprogramme([this](std::string_view image) { return chemin(image); }));
     fenetres_.push_back(fenetre);
     if (reglages_.minuteries)
         minuteur_.accueillir(formulaire);
@@ -129,6 +127,16 @@ void Fenetrier::activee(Fenetre& fenetre) {
         if (autre != &fenetre && autre->isVisible() && autre->formulaire().devant())
             autre->raise();
     }
+}
+
+void Fenetrier::peinte() {
+    if (std::exchange(icone_, true))
+        return;
+    const auto mettre = [this] {
+        QApplication::setWindowIcon(
+            iconeprogramme([this](std::string_view image) { return chemin(image); }));
+    };
+    QMetaObject::invokeMethod(this, mettre, Qt::QueuedConnection);
 }
 
 void Fenetrier::oublier(Fenetre& fenetre, const Formulaire& formulaire) {

@@ -34,12 +34,12 @@ class Fenetrier : public QObject {
     Fenetrier& operator=(const Fenetrier&) = delete;
     ~Fenetrier() override;
 
-    /// Gives a form its window (as the form's view), its controls their widgets (as theirs) and,
-    /// if asked for, its timers their beat.
+    /// Gives a form its window (as the form's view) and, if asked for, its timers their beat. The
+    /// controls get their widgets (as their views) when the window is first shown.
     void accueillir(Formulaire& formulaire);
 
     /// The widget that shows a control, its object name the control's full name; null for an entry
-    /// of a menu, and for a control of a form that has no window here.
+    /// of a menu, and for a control of a form that has no window here or was not shown yet.
     [[nodiscard]] QWidget* widget(const Controle& controle) const;
     /// The window of a form; null if it has none here.
     [[nodiscard]] Fenetre* fenetre(const Formulaire& formulaire) const;
@@ -63,6 +63,8 @@ class Fenetrier : public QObject {
     // Told by the windows.
     void demanderrafraichissement();
     void activee(Fenetre& fenetre);
+    /// A window is on screen: the program's icon, whose files take their time, may follow.
+    void peinte();
     void oublier(Fenetre& fenetre, const Formulaire& formulaire);
 
   protected:
@@ -80,6 +82,7 @@ class Fenetrier : public QObject {
     bool demande_ = false;
     bool encours_ = false;
     bool sale_ = false;
+    bool icone_ = false;  ///< asked for
 };
 
 }  // namespace ui::qt

@@ -1,7 +1,9 @@
 #include "images.h"
 
 #include <array>
+#include <memory>
 #include <string>
+#include <utility>
 
 #include <QFileInfo>
 #include <QImage>
@@ -20,20 +22,20 @@ QString variante(const QString& chemin, const char* marque) {
     return point < 0 ? nom + QLatin1String(marque) : nom.insert(point, QLatin1String(marque));
 }
 
-/// The variant to draw from: the smallest one that is large enough, or else the largest; none if
+/// The variant to draw from: the smallest one that is large enough, or else the largest; null if
 /// no picture can be read.
-QString choisir(const QString& chemin, const QSize& voulue) {
-    QString choix;
+QImage choisir(const QString& chemin, const QSize& voulue) {
+    std::unique_ptr<QImageReader> choix;
     for (const auto* marque : variantes) {
-        const auto nom = variante(chemin, marque);
-        const auto taille = QImageReader(nom).size();
+        auto lecteur = std::make_unique<QImageReader>(variante(chemin, marque));
+        const auto taille = lecteur->size();
         if (!taille.isValid())
             continue;
-        choix = nom;
+        choix = std::move(lecteur);
         if (taille.width() >= voulue.width() || taille.height() >= voulue.height())
             break;
     }
-    return choix;
+    return choix ? choix->read() : QImage();
 }
 
 }  // namespace
@@ -45,8 +47,7 @@ QPixmap image(const QString& chemin, const QSize& taille, double densite) {
     QPixmap vignette;
     if (QPixmapCache::find(cle, &vignette))
         return vignette;
-    const auto choix = choisir(chemin, voulue);
-    const auto originale = choix.isEmpty() ? QImage() : QImage(choix);
+    const auto originale = choisir(chemin, voulue);
     if (originale.isNull() || voulue.isEmpty())
         return {};
     vignette =
