@@ -36,7 +36,7 @@ class Scene:
     """`jeu` is the folder that the build made (pictures, sound); the scene works in a copy."""
 
     def __init__(self, programme, jeu, captures, taille="1366x768", echelle=None):
-        self.programme = programme
+        self.programme = os.path.abspath(programme)
         self.jeu = pathlib.Path(jeu)
         self.captures = pathlib.Path(captures)
         self.taille = taille
@@ -99,8 +99,8 @@ class Scene:
     def demarrer(self):
         execution = tempfile.mkdtemp()
         self.pile.callback(shutil.rmtree, execution, ignore_errors=True)
-        environnement = dict(os.environ, XDG_RUNTIME_DIR=execution, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-                             LC_ALL="C.UTF-8")
+        environnement = dict(os.environ, XDG_RUNTIME_DIR=execution, QT_QPA_PLATFORM="xcb",
+                             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LC_ALL="C.UTF-8")
         if self.echelle:
             environnement["QT_SCALE_FACTOR"] = self.echelle
         journal = open(self.dossier / "journal", "w")
@@ -201,9 +201,12 @@ class Scene:
         self.xdotool("type", "--delay", "15", texte)
 
     def cliquer(self, objet, fois=1):
+        pixels = float(self.echelle or 1)  # of the screen, in one of the accessibility tree
+
         def place():
             boite = objet.queryComponent().getExtents(0)
-            return boite.x + boite.width // 2, boite.y + boite.height // 2
+            return (round(pixels * (boite.x + boite.width / 2)),
+                    round(pixels * (boite.y + boite.height / 2)))
 
         def posee():
             avant = place()
