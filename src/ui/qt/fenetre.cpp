@@ -233,18 +233,19 @@ void Fenetre::apparaitre() {
         return;
     if (!dimensionnee_)
         dimensionner();
+    const auto* voisine = fenetrier_.enavant();
     if (formulaire_->devant()) {
-        const auto* voisine = fenetrier_.enavant();
         winId();  // makes the window of the system
         if (voisine != nullptr && voisine != this && windowHandle() != nullptr)
             windowHandle()->setTransientParent(voisine->windowHandle());
     }
-    // Dressed while the desktop finds the window its place, and painted no earlier.
+    // A window that follows another comes up dressed. The first one, for which somebody waits, is
+    // dressed while the desktop finds it its place, and painted no earlier either.
+    if (voisine != nullptr)
+        completer();
     show();
     activateWindow();
     completer();
-    for (auto* vue : std::exchange(relevees_, {}))
-        vue->widget().raise();
 }
 
 void Fenetre::disparaitre() {
