@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace common {
 namespace {
@@ -63,10 +65,54 @@ std::error_code ecrire(int numero, std::string_view octets) {
     return {};
 }
 
-bool finitenmilieu(int numero, off_t taille) {
+/// What has to come between the end of a file and a new line.
+std::string_view soudure(int numero, off_t taille) {
     char dernier = '\n';
-    return taille > 0 && ::pread(numero, &dernier, 1, taille - 1) == 1 && dernier != '\n';
+    if (taille == 0 || ::pread(numero, &dernier, 1, taille - 1) != 1 || dernier == '\n')
+        return {};
+    constexpr std::string_view fin = "\r\n";
+    return dernier == '\r' ? fin.substr(1) : fin;
 }
+
+bool verrouille(int numero) {
+    int statut = -1;
+    do {
+        statut = ::flock(numero, LOCK_EX);
+    } while (statut != 0 && errno == EINTR);
+    return statut == 0;
+}
+
+/// The file of a descriptor is the one that bears the name by now.
+bool nommeencore(int numero, const std::filesystem::path& chemin) {
+    struct stat tenu {};
+    struct stat nomme {};
+    return ::fstat(numero, &tenu) == 0 && ::stat(chemin.c_str(), &nomme) == 0 &&
+           tenu.st_dev == nomme.st_dev && tenu.st_ino == nomme.st_ino;
+}
+
+/// Opens a file or a folder and keeps the other copies of the program from it. Whoever held it may
+/// have put another in its place meanwhile: it is that one which is wanted. Some disks have no
+/// locks; what they hold is not kept. Null, with the reason in `errno`, if it cannot be opened.
+std::unique_ptr<Descripteur> tenir(const std::filesystem::path& chemin, int modes) {
+    constexpr int essais = 10'000;  // a disk might number its files anew each time
+    std::unique_ptr<Descripteur> tenu;
+    for (int n = 0; n < essais; ++n) {
+        tenu = std::make_unique<Descripteur>(chemin, modes);
+        if (!tenu->valide())
+            return nullptr;
+        if (!verrouille(tenu->numero()) || nommeencore(tenu->numero(), chemin))
+            break;
+    }
+    return tenu;
+}
+
+class VerrouReel : public Verrou {
+  public:
+    explicit VerrouReel(std::unique_ptr<Descripteur> tenu) : tenu_(std::move(tenu)) {}
+
+  private:
+    std::unique_ptr<Descripteur> tenu_;
+};
 
 }  // namespace
 
@@ -87,25 +133,36 @@ std::error_code DisqueReel::ouvrir(std::string_view chemin, std::unique_ptr<Flux
     return {};
 }
 
+std::unique_ptr<Verrou> DisqueReel::verrouiller(std::string_view chemin) {
+    auto tenu = tenir(systeme(chemin), O_RDONLY);
+    if (tenu == nullptr && errno == ENOENT)
+        return nullptr;
+    return std::make_unique<VerrouReel>(std::move(tenu));
+}
+
 std::error_code DisqueReel::ajouter(std::string_view chemin, std::string_view octets) {
-    const Descripteur fichier(systeme(chemin), O_RDWR | O_APPEND | O_CREAT);
-    if (!fichier.valide())
-        return derniere();
-    // Another copy of the program may be appending: the lock keeps a failed write from cutting its
-    // rows when the file is put back to its size.
-    if (::flock(fichier.numero(), LOCK_EX) != 0)
+    const auto cible = systeme(chemin);
+    const bool nouveau = !existe(chemin);
+    // The lock keeps a failed write from cutting the rows of another copy of the program when the
+    // file is put back to its size.
+    const auto fichier = tenir(cible, O_RDWR | O_APPEND | O_CREAT);
+    if (fichier == nullptr)
         return derniere();
     struct stat etat {};
-    if (::fstat(fichier.numero(), &etat) != 0)
+    if (::fstat(fichier->numero(), &etat) != 0)
         return derniere();
-    const std::string lignes = octets.empty() || !finitenmilieu(fichier.numero(), etat.st_size)
-                                   ? std::string(octets)
-                                   : "\r\n" + std::string(octets);
-    auto erreur = ecrire(fichier.numero(), lignes);
-    if (!erreur && !lignes.empty() && ::fdatasync(fichier.numero()) != 0 && errno != EINVAL)
+    if (octets.empty())
+        return {};
+    const auto lignes = std::string(soudure(fichier->numero(), etat.st_size)).append(octets);
+    auto erreur = ecrire(fichier->numero(), lignes);
+    if (!erreur && ::fdatasync(fichier->numero()) != 0 && errno != EINVAL)
         erreur = derniere();
-    if (erreur && ::ftruncate(fichier.numero(), etat.st_size) != 0)
-        return erreur;
+    if (!erreur)
+        return {};
+    if (::ftruncate(fichier->numero(), etat.st_size) != 0)
+        return derniere();
+    if (nouveau && etat.st_size == 0)
+        static_cast<void>(supprimer(chemin));
     return erreur;
 }
 

@@ -22,6 +22,7 @@ class DisqueReel : public Disque {
     [[nodiscard]] std::error_code supprimer(std::string_view chemin) override;
     [[nodiscard]] std::error_code renommer(std::string_view ancien,
                                            std::string_view nouveau) override;
+    [[nodiscard]] std::unique_ptr<Verrou> verrouiller(std::string_view chemin) override;
     [[nodiscard]] bool existe(std::string_view chemin) override;
     [[nodiscard]] bool estdossier(std::string_view chemin) override;
 

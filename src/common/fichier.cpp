@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 
 #include "faute.h"
@@ -49,11 +50,14 @@ std::string raison(const std::error_code& erreur) {
         Cas{std::errc::permission_denied, "accès refusé"},
         Cas{std::errc::operation_not_permitted, "opération refusée par le système"},
         Cas{std::errc::no_space_on_device, "le disque est plein"},
+        Cas{static_cast<std::errc>(EDQUOT), "votre part du disque est pleine"},
+        Cas{std::errc::file_too_large, "fichier trop grand pour ce disque"},
         Cas{std::errc::read_only_file_system, "le disque est en lecture seule"},
         Cas{std::errc::is_a_directory, "c'est un dossier et non un fichier"},
         Cas{std::errc::not_a_directory, "un des dossiers du chemin n'en est pas un"},
         Cas{std::errc::filename_too_long, "nom trop long pour le système"},
         Cas{std::errc::file_exists, "un fichier de ce nom existe déjà"},
+        Cas{std::errc::directory_not_empty, "un dossier de ce nom existe déjà"},
         Cas{std::errc::too_many_files_open, "trop de fichiers ouverts"},
         Cas{std::errc::io_error, "erreur du disque"},
         Cas{std::errc::invalid_argument, "nom refusé par le système"},
@@ -131,6 +135,8 @@ bool Lignes::lirepuissuivante(std::string_view& ligne) {
     if (debut_ == fin_)
         return false;
     ligne = std::string_view(tampon_.get() + debut_, fin_ - debut_);
+    if (ligne.back() == '\r')
+        ligne.remove_suffix(1);
     debut_ = fin_;
     terminee_ = false;
     ++numero_;
@@ -228,8 +234,6 @@ void remplacerlignes(Disque& disque, std::string_view chemin, std::span<const st
 }
 
 void toucher(Disque& disque, std::string_view chemin, std::string_view action) {
-    if (disque.existe(chemin))
-        return;
     if (const auto erreur = disque.ajouter(chemin, {}))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }

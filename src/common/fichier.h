@@ -27,6 +27,15 @@ class Flux {
     [[nodiscard]] virtual std::error_code lire(std::span<char> tampon, std::size_t& lus) = 0;
 };
 
+/// A file or a folder that only one program changes as long as this lives.
+class Verrou {
+  public:
+    Verrou() = default;
+    Verrou(const Verrou&) = delete;
+    Verrou& operator=(const Verrou&) = delete;
+    virtual ~Verrou() = default;
+};
+
 /// What programs ask of a disk. Every operation says its failure; none leaves half a change.
 class Disque {
   public:
@@ -38,7 +47,8 @@ class Disque {
     [[nodiscard]] virtual std::error_code ouvrir(std::string_view chemin,
                                                  std::unique_ptr<Flux>& flux) = 0;
     /// Appends bytes in one write; makes the file if it is missing. If the file ends in mid-line
-    /// the appended bytes start a line of their own. On failure the file is as it was.
+    /// the appended bytes start a line of their own. Waits for a program that has locked the file.
+    /// On failure the file is as it was. Without bytes it says whether the file can be written.
     [[nodiscard]] virtual std::error_code ajouter(std::string_view chemin,
                                                   std::string_view octets) = 0;
     /// Puts a whole new file in the place of the old one in one step.
@@ -49,6 +59,11 @@ class Disque {
     /// Gives a file or a folder another name, in one step.
     [[nodiscard]] virtual std::error_code renommer(std::string_view ancien,
                                                    std::string_view nouveau) = 0;
+    /// Waits for the other programs that have locked the file or folder of that name, or that are
+    /// appending to it, and keeps them from it. Null if there is none of that name.
+    [[nodiscard]] virtual std::unique_ptr<Verrou> verrouiller(std::string_view /*chemin*/) {
+        return std::make_unique<Verrou>();
+    }
     [[nodiscard]] virtual bool existe(std::string_view chemin) = 0;
     [[nodiscard]] virtual bool estdossier(std::string_view chemin) = 0;
 };
@@ -57,7 +72,8 @@ class Disque {
 [[nodiscard]] std::string raison(const std::error_code& erreur);
 
 /// Lines of a file, one pass, without their line end (CR LF, or a lone LF), as bytes of
-/// Windows-1252. A last line without a line end is a line. Memory: one buffer, grown only for a
+/// Windows-1252. A last line without a line end is a line; a lone CR at the end of the file is half
+/// of one. Memory: one buffer, grown only for a
 /// line that is longer. Throws `Faute` ("<action> : <path>...") if the file cannot be read.
 class Lignes {
   public:

@@ -1,6 +1,7 @@
 #include "utilisateurs.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "faute.h"
 #include "hist.h"
@@ -12,6 +13,18 @@ namespace {
 
 /// The folder that is being filled.
 constexpr std::string_view provisoire = "nouvel-utilisateur.tmp";
+
+/// Makes the folder, and keeps another program, which may be making a user of its own, from it.
+std::unique_ptr<common::Verrou> prendreprovisoire(common::Disque& disque, std::string_view action) {
+    std::unique_ptr<common::Verrou> verrou;
+    while (verrou == nullptr) {
+        if (const auto erreur = disque.creerdossier(provisoire)) {
+            throw common::Faute(common::rapportfichier(action, provisoire, common::raison(erreur)));
+        }
+        verrou = disque.verrouiller(provisoire);
+    }
+    return verrou;
+}
 
 std::error_code nommer(common::Disque& disque, const std::string& nom) {
     if (disque.existe(nom))
@@ -60,15 +73,15 @@ bool dossierexiste(common::Disque& disque, std::string_view nom) {
 
 void creerutilisateur(common::Disque& disque, const std::string& nom) {
     const auto action = "Création de l'utilisateur « " + nom + " »";
-    auto erreur = disque.creerdossier(provisoire);
-    if (erreur)
-        throw common::Faute(common::rapportfichier(action, provisoire, common::raison(erreur)));
+    const auto verrou = prendreprovisoire(disque, action);
     common::remplacerlignes(disque, cheminhist(provisoire), {}, action);
     common::remplacerlignes(disque, cheminsettings(provisoire), lignessettings({}), action);
-    erreur = nommer(disque, nom);
+    const auto erreur = nommer(disque, nom);
     if (!erreur)
         return;
     nettoyer(disque);
+    if (disque.estdossier(nom))
+        return;  // another program has made the same user meanwhile
     throw common::Faute(action + " : le système refuse un dossier de ce nom (" +
                         common::raison(erreur) +
                         "). Relancez le programme et choisissez un autre nom.");

@@ -50,6 +50,8 @@ void ajouterenrevision(common::Disque& disque, std::string_view chemin,
 
 void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne) {
     constexpr std::string_view action = "Suppression dans le fichier de révision";
+    // A row that another program appends meanwhile would be lost with the old file.
+    const auto verrou = disque.verrouiller(chemin);
     std::vector<std::string> gardees;
     common::Items items(disque, chemin, action);
     std::string_view item;

@@ -24,7 +24,8 @@ std::error_code DisqueSimule::ouvrir(std::string_view chemin, std::unique_ptr<co
 
 std::error_code DisqueSimule::ajouter(std::string_view chemin, std::string_view octets) {
     ++ecritures_;
-    return plein(chemin) ? disqueplein() : DisqueReel::ajouter(chemin, octets);
+    const bool ecrit = !octets.empty() || !existe(chemin);
+    return ecrit && plein(chemin) ? disqueplein() : DisqueReel::ajouter(chemin, octets);
 }
 
 std::error_code DisqueSimule::remplacer(std::string_view chemin, std::string_view octets) {

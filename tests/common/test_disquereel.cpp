@@ -61,6 +61,12 @@ TEST_F(DisqueReel, ajouter_derriere_une_ligne_inachevee_commence_une_ligne) {
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\nC\r\n");
 }
 
+TEST_F(DisqueReel, ajouter_derriere_une_ligne_coupee_entre_CR_et_LF_la_finit) {
+    dossier.ecrire("f.txt", "A\r\nB\r");
+    EXPECT_FALSE(disque.ajouter("f.txt", "C\r\n"));
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\nC\r\n");
+}
+
 TEST_F(DisqueReel, ajouter_rien_ne_finit_pas_une_ligne_inachevee) {
     dossier.ecrire("f.txt", "A");
     EXPECT_FALSE(disque.ajouter("f.txt", ""));
@@ -72,6 +78,44 @@ TEST_F(DisqueReel, un_ajout_qui_echoue_laisse_le_fichier_tel_quel) {
     const Plafond plafond(10);
     EXPECT_TRUE(disque.ajouter("f.txt", "CD;DC\r\n"));
     EXPECT_EQ(dossier.lire("f.txt"), "AB;BA\r\n");
+}
+
+TEST_F(DisqueReel, un_premier_ajout_qui_echoue_ne_laisse_pas_de_fichier) {
+    {
+        const Plafond plafond(2);
+        EXPECT_TRUE(disque.ajouter("f.txt", "CD;DC\r\n"));
+    }
+    EXPECT_FALSE(disque.existe("f.txt"));
+}
+
+TEST_F(DisqueReel, un_ajout_suit_le_fichier_qu_un_autre_programme_remplace) {
+    dossier.ecrire("f.txt", "A\r\n");
+    int feu[2];
+    ASSERT_EQ(::pipe(feu), 0);
+    const auto pid = ::fork();
+    if (pid == 0) {
+        char vert = 0;
+        const bool parti = ::read(feu[0], &vert, 1) == 1;
+        ::_exit(parti && !disque.ajouter("f.txt", "C\r\n") ? 0 : 1);
+    }
+    auto verrou = disque.verrouiller("f.txt");
+    EXPECT_NE(verrou, nullptr);
+    EXPECT_EQ(::write(feu[1], "v", 1), 1);
+    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
+    verrou.reset();
+    int statut = -1;
+    ::waitpid(pid, &statut, 0);
+    EXPECT_EQ(statut, 0);
+    ::close(feu[0]);
+    ::close(feu[1]);
+    EXPECT_EQ(dossier.lire("f.txt"), "B\r\nC\r\n");
+}
+
+TEST_F(DisqueReel, ce_qui_manque_ne_se_verrouille_pas) {
+    EXPECT_EQ(disque.verrouiller("f.txt"), nullptr);
+    EXPECT_FALSE(disque.existe("f.txt"));
+    EXPECT_FALSE(disque.creerdossier("d"));
+    EXPECT_NE(disque.verrouiller("d"), nullptr);
 }
 
 TEST_F(DisqueReel, un_remplacement_qui_echoue_laisse_l_ancien_et_rien_d_autre) {

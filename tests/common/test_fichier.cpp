@@ -83,6 +83,7 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"ligne_vide", "A\r\n\r\nB\r\n", {"A", "", "B"}}, Cas{"une_fin_de_ligne", "\r\n", {""}},
         Cas{"ligne_vide_a_la_fin", "A\r\n\r\n", {"A", ""}},
         Cas{"CR_au_milieu", "A\rB\r\n", {"A\rB"}}, Cas{"deux_CR", "A\r\r\n", {"A\r"}},
+        Cas{"coupe_entre_CR_et_LF", "A\r\nB\r", {"A", "B"}}, Cas{"un_CR", "\r", {""}},
         Cas{"octet_nul", std::string("A\0B\r\n", 5), {std::string("A\0B", 3)}},
         Cas{"octet_occidental", "\xE9t\xE9\r\n", {"\xE9t\xE9"}},
         Cas{"megaoctet",
@@ -113,6 +114,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Cas{"vide", "", {}}, Cas{"un_par_ligne", "A\r\nB\r\n", {"A", "B"}},
         Cas{"sans_fin_de_ligne", "A\r\nB", {"A", "B"}}, Cas{"LF_seul", "A\nB\n", {"A", "B"}},
+        Cas{"coupe_entre_CR_et_LF", "A\r\nB\r", {"A", "B"}},
         Cas{"virgules", "A,B,C\r\n", {"A", "B", "C"}},
         Cas{"blancs_devant_sautes", "  A,\t B\r\n", {"A", "B"}},
         Cas{"blancs_derriere_gardes", "A ,B  \r\n", {"A ", "B  "}},
@@ -211,6 +213,8 @@ TEST(Fichier, toucher_fait_un_fichier_vide_et_garde_celui_qui_existe) {
     common::toucher(disque, "g.txt", "Essai");
     EXPECT_EQ(dossier.lire("g.txt"), "sans fin");
     EXPECT_THROW(common::toucher(disque, "absent\\f.txt", "Essai"), common::Faute);
+    ASSERT_FALSE(disque.creerdossier("d.txt"));
+    EXPECT_THROW(common::toucher(disque, "d.txt", "Essai"), common::Faute);
 }
 
 TEST(Fichier, lirefichier_rend_tous_les_octets) {

@@ -1,6 +1,9 @@
-// Every write of the small files, with the program killed right before or right after it; and two
-// programs that append at once.
+// Every write of a player's files, with the program killed right before it, in its midst or right
+// after it; and two programs that write at once.
 
+#include <algorithm>
+#include <array>
+#include <fstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -9,6 +12,7 @@
 #include "form2.h"
 #include "hist.h"
 #include "lignes.h"
+#include "revision.h"
 #include "settings.h"
 #include "utilisateurs.h"
 #include "voisinage.h"
@@ -17,16 +21,21 @@ namespace {
 
 constexpr int tue = 42;  // exit status of a program that was killed
 
-/// A disk that kills its program at the n-th thing it is asked to change, before or after it.
+enum class Moment { Avant, Pendant, Apres };
+
+/// A disk that kills its program at the n-th thing it is asked to change. In the midst of putting a
+/// file in the place of another, the new one lies beside it; all else is one step of the system.
 class Disquemortel : public common::DisqueReel {
   public:
-    Disquemortel(std::filesystem::path racine, int rang, bool avant)
-        : DisqueReel(std::move(racine)), reste_(rang), avant_(avant) {}
+    Disquemortel(std::filesystem::path racine, int rang, Moment moment)
+        : DisqueReel(std::move(racine)), reste_(rang), moment_(moment) {}
 
     std::error_code ajouter(std::string_view chemin, std::string_view octets) override {
         return mourir([&] { return DisqueReel::ajouter(chemin, octets); });
     }
     std::error_code remplacer(std::string_view chemin, std::string_view octets) override {
+        if (moment_ == Moment::Pendant && reste_ == 1)
+            std::ofstream(systeme(std::string(chemin) + ".1.tmp"), std::ios::binary) << octets;
         return mourir([&] { return DisqueReel::remplacer(chemin, octets); });
     }
     std::error_code creerdossier(std::string_view chemin) override {
@@ -40,7 +49,7 @@ class Disquemortel : public common::DisqueReel {
     template <class Ecriture>
     std::error_code mourir(const Ecriture& ecriture) {
         const bool ici = --reste_ == 0;
-        if (ici && avant_)
+        if (ici && moment_ != Moment::Apres)
             ::_exit(tue);
         const auto erreur = ecriture();
         if (ici)
@@ -49,7 +58,7 @@ class Disquemortel : public common::DisqueReel {
     }
 
     int reste_;
-    bool avant_;
+    Moment moment_;
 };
 
 /// Runs an action in a program of its own, and gives its exit status.
@@ -65,7 +74,10 @@ int enfant(const Action& action) {
     return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
 }
 
-/// What a run leaves on the disk, login first: the options of a new user, changed, and two results.
+constexpr std::string_view revision = "Zoé\\rev-3lc.txt";
+
+/// What a run leaves on the disk, login first: the options of a new user, changed, two results, two
+/// rows to work again, and one of them taken out.
 void jouer(common::Disque& disque) {
     profiles::ecrireusers(disque, std::vector<std::string>{"Paul"}, "Zoé");
     if (!profiles::dossierexiste(disque, "Zoé"))
@@ -79,6 +91,8 @@ void jouer(common::Disque& disque) {
         profiles::ajouterhist(disque, "Zoé",
                               profiles::enregistrement({2019, 8, 24, 14, 35, 0}, 95.3, "T", nom));
     }
+    series::ajouterenrevision(disque, revision, std::vector<std::string>{"ALV;VAL", "AELV;LEVA"});
+    series::retirerderevision(disque, revision, "ALV;VAL");
 }
 
 std::vector<std::string> records(common::Disque& disque) {
@@ -87,26 +101,35 @@ std::vector<std::string> records(common::Disque& disque) {
     return lus;
 }
 
-/// The writes of `jouer`: users.dat, the folder, two files, its name, settings.dat, two records.
-constexpr int nbecritures = 8;
+/// The writes of `jouer`: users.dat, the folder, two files, its name, settings.dat, two records,
+/// the rows of the revision file, the one that leaves it.
+constexpr int nbecritures = 10;
 
-class Coupure : public testing::TestWithParam<std::tuple<int, bool>> {
+class Coupure : public testing::TestWithParam<std::tuple<int, Moment>> {
   protected:
+    /// The revision file after so many writes.
+    static std::string rangees(int faites) {
+        if (faites < nbecritures - 1)
+            return "absent";
+        return faites < nbecritures ? "ALV;VAL\r\nAELV;LEVA\r\n" : "AELV;LEVA\r\n";
+    }
+
     essai::Machine machine;
 };
 
 TEST_P(Coupure, garde_ce_qui_etait_ecrit) {
     const int rang = std::get<0>(GetParam());
-    const bool avant = std::get<1>(GetParam());
+    const auto moment = std::get<1>(GetParam());
     machine.ecrire("users.dat", "Paul\r\n");
     EXPECT_EQ(enfant([&] {
-                  Disquemortel disque(machine.dossier.chemin(), rang, avant);
+                  Disquemortel disque(machine.dossier.chemin(), rang, moment);
                   jouer(disque);
               }),
               tue);
 
     // The next start: everything is whole, as it was before the write or after it.
-    const int faites = avant ? rang - 1 : rang;
+    const int faites = moment == Moment::Apres ? rang : rang - 1;
+    EXPECT_EQ(machine.lire(revision), rangees(faites));
     EXPECT_EQ(machine.lire("users.dat"),
               faites >= 1 ? common::vers1252("Paul\r\nZoé\r\n") : "Paul\r\n");
     EXPECT_EQ(profiles::dossierexiste(machine.disque(), "Zoé"), faites >= 5);
@@ -114,48 +137,57 @@ TEST_P(Coupure, garde_ce_qui_etait_ecrit) {
         const auto reglages = profiles::liresettings(machine.disque(), "Zoé");
         EXPECT_EQ(reglages.couleur, faites >= 6 ? "Gris" : "Par défaut");
         EXPECT_EQ(records(machine.disque()).size(),
-                  static_cast<std::size_t>(std::max(faites - 6, 0)));
+                  static_cast<std::size_t>(std::clamp(faites - 6, 0, 2)));
     }
     jouer(machine.disque());
     EXPECT_EQ(machine.lire("users.dat"), common::vers1252("Paul\r\nZoé\r\n"));
     EXPECT_EQ(records(machine.disque()).size(),
-              static_cast<std::size_t>(std::max(faites - 6, 0)) + 2);
+              static_cast<std::size_t>(std::clamp(faites - 6, 0, 2)) + 2);
 }
 
-std::string nomdecoupure(const testing::TestParamInfo<std::tuple<int, bool>>& cas) {
-    return (std::get<1>(cas.param) ? "avant_" : "apres_") + std::to_string(std::get<0>(cas.param));
+std::string nomdecoupure(const testing::TestParamInfo<std::tuple<int, Moment>>& cas) {
+    constexpr std::array noms{"avant_", "pendant_", "apres_"};
+    return noms.at(static_cast<std::size_t>(std::get<1>(cas.param))) +
+           std::to_string(std::get<0>(cas.param));
 }
 INSTANTIATE_TEST_SUITE_P(Ecritures, Coupure,
-                         testing::Combine(testing::Range(1, nbecritures + 1), testing::Bool()),
+                         testing::Combine(testing::Range(1, nbecritures + 1),
+                                          testing::Values(Moment::Avant, Moment::Pendant,
+                                                          Moment::Apres)),
                          nomdecoupure);
 
 TEST(Coupures, la_table_les_tient_toutes) {
     essai::Machine machine;
     EXPECT_EQ(enfant([&] {
-                  Disquemortel disque(machine.dossier.chemin(), nbecritures + 1, true);
+                  Disquemortel disque(machine.dossier.chemin(), nbecritures + 1, Moment::Avant);
                   jouer(disque);
               }),
               0);
+}
+
+/// Runs an action as two programs at once, which know their number.
+template <class Action>
+void adeux(const Action& action) {
+    const auto pid = ::fork();
+    if (pid == 0) {
+        action(1);
+        ::_exit(0);
+    }
+    action(0);
+    int statut = -1;
+    ::waitpid(pid, &statut, 0);
+    EXPECT_EQ(statut, 0);
 }
 
 TEST(Ajouts, de_deux_programmes_a_la_fois_ne_se_dechirent_pas) {
     constexpr int nbrecords = 150;
     essai::Machine machine;
     machine.ecrire("Zoé\\hist.dat", "");
-    const auto remplir = [&](const std::string& nom) {
+    adeux([&](int programme) {
         common::DisqueReel disque(machine.dossier.chemin());
         for (int i = 0; i < nbrecords; ++i)
-            profiles::ajouterhist(disque, "Zoé", nom + std::string(40, nom[0]));
-    };
-    const auto pid = ::fork();
-    if (pid == 0) {
-        remplir("b");
-        ::_exit(0);
-    }
-    remplir("a");
-    int statut = -1;
-    ::waitpid(pid, &statut, 0);
-    EXPECT_EQ(statut, 0);
+            profiles::ajouterhist(disque, "Zoé", std::string(41, programme == 0 ? 'a' : 'b'));
+    });
     int a = 0;
     int b = 0;
     for (const auto& record : records(machine.disque())) {
@@ -168,6 +200,52 @@ TEST(Ajouts, de_deux_programmes_a_la_fois_ne_se_dechirent_pas) {
     }
     EXPECT_EQ(a, nbrecords);
     EXPECT_EQ(b, nbrecords);
+}
+
+TEST(Creations, de_deux_programmes_a_la_fois_ne_se_melent_pas) {
+    constexpr int nbutilisateurs = 60;
+    essai::Machine machine;
+    const auto nom = [](int programme, int i) {
+        // Every third one is a user that both make.
+        return (i % 3 == 0 ? "commun " : programme == 0 ? "a " : "b ") + std::to_string(i);
+    };
+    adeux([&](int programme) {
+        common::DisqueReel disque(machine.dossier.chemin());
+        for (int i = 0; i < nbutilisateurs; ++i) {
+            if (!profiles::dossierexiste(disque, nom(programme, i)))
+                profiles::creerutilisateur(disque, nom(programme, i));
+        }
+    });
+    for (const int programme : {0, 1}) {
+        for (int i = 0; i < nbutilisateurs; ++i) {
+            EXPECT_EQ(machine.lire(nom(programme, i) + "\\hist.dat"), "") << nom(programme, i);
+            EXPECT_EQ(profiles::liresettings(machine.disque(), nom(programme, i)).seuilch, 95);
+        }
+    }
+    EXPECT_FALSE(machine.disque().existe("nouvel-utilisateur.tmp"));
+}
+
+TEST(Revisions, une_rangee_ajoutee_pendant_qu_un_autre_programme_en_ote_reste) {
+    constexpr int nbrangees = 200;
+    essai::Machine machine;
+    machine.ecrire(revision, "");
+    adeux([&](int programme) {
+        common::DisqueReel disque(machine.dossier.chemin());
+        for (int i = 0; i < nbrangees; ++i) {
+            if (programme == 0)
+                series::ajouterenrevision(disque, revision, std::vector{"A;" + std::to_string(i)});
+            else
+                series::retirerderevision(disque, revision, "ABSENTE;");
+        }
+    });
+    std::vector<std::string> attendues;
+    for (int i = 0; i < nbrangees; ++i)
+        attendues.push_back("A;" + std::to_string(i));
+    std::vector<std::string> lues;
+    common::Items(machine.disque(), revision, "Essai").chaque([&](auto item, std::size_t) {
+        lues.emplace_back(item);
+    });
+    EXPECT_EQ(lues, attendues);
 }
 
 }  // namespace
