@@ -165,28 +165,40 @@ void Fenetre::montrerformulaire() {
     }
     if (dimensionnee_ && design_ != tailledessinee()) {
         design_ = tailledessinee();
-        const auto taille = enpixels(design_, echelle_.partwip);
-        if (taille == size() || isMaximized() || isFullScreen())
-            remettreechelle();
-        else
-            redimensionner(taille);
+        attendue_ = agrandie();
+        redimensionner();
     }
 }
 
-/// Takes another size, and moves only as far as it must to stay on the screen. A hidden window
-/// comes back in the middle.
-void Fenetre::redimensionner(const QSize& voulue) {
+/// Follows another design, and moves only as far as the window must to stay on the screen. A hidden
+/// window comes back in the middle.
+void Fenetre::redimensionner() {
     const auto place = screen()->availableGeometry();
-    const auto taille = voulue.boundedTo(place.size() - QSize(0, decor));
-    resize(taille);
+    prendretaille(place);
+    remettreechelle();  // a window that keeps its size is not told
+    if (agrandie())
+        return;
     if (!isVisible()) {
         centrer(place);
         return;
     }
-    const auto limite = place.size() - taille - QSize(0, decor);
+    const auto limite = place.size() - size() - QSize(0, decor);
     const auto ecart = pos() - place.topLeft();
     move(place.topLeft() + QPoint(std::clamp(ecart.x(), 0, std::max(0, limite.width())),
                                   std::clamp(ecart.y(), 0, std::max(0, limite.height()))));
+}
+
+/// Takes the size of the design at the wanted scale, or at the largest that the screen allows.
+void Fenetre::prendretaille(const QRect& place) {
+    const auto minimale =
+        enpixels(design_, pluspetite / Echelle::twipsparpixel).boundedTo(place.size() / 2);
+    if (!agrandie()) {
+        setMinimumSize(0, 0);  // that of another design
+        const auto facteur = std::min(voulue_, partwip(place.size() - QSize(0, decor), design_));
+        demandee_ = enpixels(design_, facteur).expandedTo(minimale);
+        resize(demandee_);
+    }
+    setMinimumSize(minimale);
 }
 
 QSize Fenetre::tailledessinee() const {
@@ -199,13 +211,10 @@ void Fenetre::dimensionner() {
     design_ = tailledessinee();
     const auto* voisine = fenetrier_.enavant();
     const auto place = (voisine != nullptr ? voisine : this)->screen()->availableGeometry();
-    const auto facteur =
+    voulue_ =
         std::min(partwip(place.size() - QSize(0, decor), design_.expandedTo(designdereference)),
                  plusgrande / Echelle::twipsparpixel);
-    const auto taille = enpixels(design_, facteur);
-    setMinimumSize(
-        enpixels(design_, pluspetite / Echelle::twipsparpixel).boundedTo(place.size() / 2));
-    resize(taille);
+    prendretaille(place);
     centrer(place);
     remettreechelle();
 }
@@ -284,7 +293,17 @@ void Fenetre::paintEvent(QPaintEvent* evenement) {
 
 void Fenetre::resizeEvent(QResizeEvent* evenement) {
     QWidget::resizeEvent(evenement);
+    retenirtaille();
     remettreechelle();
+}
+
+/// A size that the window neither asked for nor was given by the desktop is one that the user has
+/// chosen, and so is its scale.
+void Fenetre::retenirtaille() {
+    if (orpheline() || size() == demandee_ || agrandie() || attendue_)
+        return;
+    demandee_ = {};
+    voulue_ = partwip(size(), design_);
 }
 
 void Fenetre::closeEvent(QCloseEvent* evenement) {
@@ -300,6 +319,10 @@ bool Fenetre::event(QEvent* evenement) {
         activation(false);
     if (evenement->type() == QEvent::ScreenChangeInternal)
         remettreechelle();
+    if (evenement->type() == QEvent::WindowStateChange && attendue_ && !agrandie()) {
+        attendue_ = false;
+        redimensionner();
+    }
     return recu;
 }
 

@@ -75,9 +75,13 @@ class Fenetre : public QWidget, public VueFormulaire {
     void filtrer(QWidget& widget, Controle& controle);
     void montrerformulaire();
     void dimensionner();
-    void redimensionner(const QSize& voulue);
+    void redimensionner();
+    void prendretaille(const QRect& place);
+    /// The desktop gives the window its size.
+    [[nodiscard]] bool agrandie() const { return isMaximized() || isFullScreen(); }
     /// Puts a window that is not shown in the middle of a screen.
     void centrer(const QRect& place);
+    void retenirtaille();
     void remettreechelle();
     void accorderfocus();
     void accorderdefaut();
@@ -107,9 +111,12 @@ class Fenetre : public QWidget, public VueFormulaire {
     const Controle* focus_ = nullptr;   ///< control with the focus, as drawn
     std::size_t entrees_ = 0;           ///< controls without a widget: entries of menus
     QSize design_;                      ///< twips, at the last fitting
+    QSize demandee_;                    ///< size that the window gave itself; empty: the user's own
+    double voulue_ = 0;                 ///< pixels a twip: scale that the user wants to see
     unsigned champs_ = ~0U;
     bool dimensionnee_ = false;
-    bool accord_ = false;  ///< the focus of Qt is being put where the model has it
+    bool attendue_ = false;  ///< the window will take the size of its design when it isn't enlarged
+    bool accord_ = false;    ///< the focus of Qt is being put where the model has it
     bool active_ = false;
 };
 

@@ -1,5 +1,8 @@
 // The window of a form: scale, showing and hiding, closing, leaving.
 
+#include <algorithm>
+#include <cmath>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
@@ -16,6 +19,12 @@ class Fenetres : public BureauQt {
   protected:
     [[nodiscard]] QRect place(const ui::Controle& controle) const {
         return widget(controle).geometry();
+    }
+    /// Gives the form another design, in pixels.
+    void dessiner(int largeur, int hauteur) {
+        forme->largeur = largeur * twips;
+        forme->hauteur = hauteur * twips;
+        fenetrier->rafraichir();
     }
 };
 
@@ -69,6 +78,68 @@ TEST_F(Fenetres, un_dessin_qui_change_change_la_fenetre) {
     forme->largeur = 300 * twips;
     forme->hauteur = 350 * twips;
     fenetrier->rafraichir();
+    EXPECT_EQ(fenetre().size(), QSize(300, 350));
+    EXPECT_EQ(place(*etiquette), QRect(20, 10, 200, 24));
+}
+
+TEST_F(Fenetres, un_dessin_trop_grand_n_est_reduit_que_le_temps_qu_il_est_la) {
+    dessiner(1600, 400);
+    EXPECT_EQ(fenetre().size(), QSize(800, 200));
+    EXPECT_EQ(place(*etiquette), QRect(10, 5, 100, 12));
+    dessiner(600, 400);
+    EXPECT_EQ(fenetre().size(), QSize(600, 400));
+    EXPECT_EQ(place(*etiquette), QRect(20, 10, 200, 24));
+}
+
+TEST_F(Fenetres, une_taille_choisie_par_l_usager_sert_aux_dessins_suivants) {
+    fenetre().resize(900, 600);
+    dessiner(200, 200);
+    EXPECT_EQ(fenetre().size(), QSize(300, 300));
+    dessiner(1600, 400);
+    fenetre().resize(640, 160);
+    dessiner(600, 400);
+    EXPECT_EQ(fenetre().size(), QSize(240, 160));
+}
+
+TEST_F(Fenetres, une_taille_quittee_puis_reprise_est_un_choix) {
+    dessiner(1600, 400);
+    fenetre().resize(700, 175);
+    fenetre().resize(800, 200);
+    dessiner(600, 400);
+    EXPECT_EQ(fenetre().size(), QSize(300, 200));
+}
+
+TEST_F(Fenetres, un_dessin_suit_son_echelle_meme_dans_une_fenetre_qui_garde_sa_taille) {
+    dessiner(1200, 1200);
+    const auto taille = fenetre().size();
+    dessiner(2400, 2400);
+    EXPECT_EQ(fenetre().size(), taille);
+    EXPECT_EQ(fenetre().echelle().unite(), taille.height() / 2400.0);
+    EXPECT_EQ(place(*solution[1]).width(), std::lround(150 * taille.height() / 2400.0));
+}
+
+TEST_F(Fenetres, la_plus_petite_taille_suit_le_dessin) {
+    fenetre().resize(10, 10);
+    EXPECT_EQ(fenetre().size(), QSize(210, 140));
+    dessiner(1000, 1000);
+    EXPECT_EQ(fenetre().minimumSize(), QSize(350, 350));
+    EXPECT_EQ(fenetre().size(), QSize(350, 350));
+    EXPECT_DOUBLE_EQ(fenetre().echelle().unite(), .35);
+    dessiner(300, 200);
+    EXPECT_EQ(fenetre().minimumSize(), QSize(105, 70));
+    EXPECT_EQ(fenetre().size(), QSize(105, 70));
+    EXPECT_EQ(place(*etiquette), QRect(7, 4, 70, 8));
+}
+
+TEST_F(Fenetres, une_fenetre_agrandie_prend_la_taille_d_un_nouveau_dessin_a_son_retour) {
+    fenetre().showMaximized();
+    laisser();
+    ASSERT_TRUE(fenetre().isMaximized());
+    dessiner(300, 350);
+    EXPECT_DOUBLE_EQ(fenetre().echelle().unite(),
+                     std::min(fenetre().width() / 300.0, fenetre().height() / 350.0));
+    fenetre().showNormal();
+    laisser();
     EXPECT_EQ(fenetre().size(), QSize(300, 350));
     EXPECT_EQ(place(*etiquette), QRect(20, 10, 200, 24));
 }
