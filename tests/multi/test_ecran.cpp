@@ -134,6 +134,18 @@ TEST_P(Ecran, une_marque_tient_entre_deux_boites_a_leur_hauteur) {
     }
 }
 
+TEST_P(Ecran, chaque_marque_porte_son_image) {
+    const std::map<std::string, std::string> images{
+        {"Image1", "ods5_28x28"},      {"Image4", "ods6_28x28"},      {"Image5", "ods7_28x28"},
+        {"Image2", "ppi_28x28"},       {"Image6", "vbt_28x28"},       {"Image3", "inv_28x28"},
+        {"ImageDemiPpi", "ppi_14x28"}, {"ImageDemiVbt", "vbt_14x28"}, {"ImageDemiInv", "inv_14x28"},
+    };
+    for (const auto& [marque, image] : images) {
+        for (int i = 0; i < 50; ++i)
+            EXPECT_EQ(controle(marque, i).image(), "images\\" + image + ".bmp") << marque << i;
+    }
+}
+
 TEST_P(Ecran, la_colonne_des_chronometres_suit_la_derniere_solution) {
     const int derniere = 3360 + 3240 * GetParam();
     EXPECT_GE(controle("corriger").gauche(), derniere);
