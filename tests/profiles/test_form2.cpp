@@ -116,6 +116,15 @@ TEST_F(Form2, une_derniere_ligne_vide_propose_le_texte_vide) {
     EXPECT_TRUE(controle("Command1").actif());
 }
 
+TEST_F(Form2, un_fichier_de_lignes_vides_vaut_un_premier_lancement) {
+    machine.ecrire("users.dat", "\r\n\r\n\r\n");
+    charger();
+    EXPECT_TRUE(controle("user").choix().empty());
+    EXPECT_EQ(texte("user"), "Saisissez votre nom d'utilisateur");
+    EXPECT_FALSE(controle("Command1").actif());
+    EXPECT_EQ(form->focus(), &controle("user"));
+}
+
 TEST_F(Form2, un_fichier_vide_vaut_un_premier_lancement) {
     machine.ecrire("users.dat", "");
     charger();
@@ -352,8 +361,13 @@ TEST_F(Form2, l_image_et_quitter_ne_font_rien) {
 
 TEST_F(Form2, apropos_compte_et_finit_le_programme) {
     charger();
+    ASSERT_EQ(form->minuteries().size(), 1U);
+    const auto& minuterie = *form->minuteries().front();
+    EXPECT_EQ(minuterie.nom(), "Timer1");
+    EXPECT_FALSE(minuterie.actif());
     machine.plateforme.executer([&] { form->apropos(); });
     EXPECT_EQ(form->texte(), "A bientôt !");
+    EXPECT_TRUE(minuterie.actif());
     for (const auto* nom : {"user", "Label1", "Command1", "quitter"})
         EXPECT_FALSE(controle(nom).visible()) << nom;
     EXPECT_TRUE(controle("Text1").visible());
