@@ -15,6 +15,7 @@
 #include "dessin.h"
 #include "fenetre.h"
 #include "menuedition.h"
+#include "pressepapiers.h"
 #include "texteqt.h"
 #include "theme.h"
 
@@ -147,16 +148,15 @@ void Boite::mouseMoveEvent(QMouseEvent* evenement) {
 
 void Boite::mouseReleaseEvent(QMouseEvent* evenement) {
     evenement->accept();
-    if (controle() == nullptr || !isEnabled())
-        return;
+    const bool glissee = std::exchange(glisse_, false);
     // The clipboard of the mouse, on systems that have one.
-    auto* bloc = QGuiApplication::clipboard();
-    if (std::exchange(glisse_, false) && controle()->selection() > 0)
-        bloc->setText(versqt(controle()->texteselectionne()), QClipboard::Selection);
-    if (evenement->button() == Qt::MiddleButton && bloc->supportsSelection()) {
-        executer(
-            [&] { controle()->formulaire().coller(depuisqt(bloc->text(QClipboard::Selection))); });
-    }
+    const bool bloc = QGuiApplication::clipboard()->supportsSelection();
+    if (controle() == nullptr || !isEnabled() || !bloc)
+        return;
+    if (glissee)
+        copier(*controle(), QClipboard::Selection);
+    if (evenement->button() == Qt::MiddleButton)
+        executer([this] { coller(*controle(), QClipboard::Selection); });
 }
 
 /// Where a double click means nothing else, it selects the text.
@@ -174,25 +174,20 @@ void Boite::contextMenuEvent(QContextMenuEvent* evenement) {
         return;
     executer([this] { controle()->formulaire().focaliser(*controle()); });
     const bool libre = !controle()->verrou() && controle()->pressepapiers;
-    auto* bloc = QGuiApplication::clipboard();
+    const bool choisi = controle()->selection() > 0;
+    const bool plein = !QGuiApplication::clipboard()->text().isEmpty();
     const auto seulement = [this](const auto& suite) {
         return [this, suite] {
             if (controle() != nullptr)
-                executer(suite);
+                executer([&] { suite(*controle()); });
         };
     };
     deroulermenuedition(*this, evenement->globalPos(), fontedemenu(),
-                        {.couper = {libre && controle()->selection() > 0, seulement([this, bloc] {
-                                        bloc->setText(versqt(controle()->formulaire().couper()));
-                                    })},
-                         .copier = {controle()->selection() > 0, seulement([this, bloc] {
-                                        bloc->setText(versqt(controle()->texteselectionne()));
-                                    })},
-                         .coller = {libre && !bloc->text().isEmpty(), seulement([this, bloc] {
-                                        controle()->formulaire().coller(depuisqt(bloc->text()));
-                                    })},
-                         .toutselectionner = {!text().isEmpty(), seulement([this] {
-                                                  controle()->toutselectionner();
+                        {.couper = {libre && choisi, seulement([](auto& boite) { couper(boite); })},
+                         .copier = {choisi, seulement([](auto& boite) { copier(boite); })},
+                         .coller = {libre && plein, seulement([](auto& boite) { coller(boite); })},
+                         .toutselectionner = {!text().isEmpty(), seulement([](auto& boite) {
+                                                  boite.toutselectionner();
                                               })}});
 }
 

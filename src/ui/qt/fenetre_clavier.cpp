@@ -1,13 +1,11 @@
 // The way of the keys and of the focus between Qt and the model.
 
-#include <QClipboard>
 #include <QFocusEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include "clavierqt.h"
 #include "fenetre.h"
-#include "texteqt.h"
+#include "pressepapiers.h"
 
 namespace ui::qt {
 
@@ -90,24 +88,15 @@ bool Fenetre::touchelongue(Controle& controle, const QKeyEvent& evenement) {
 bool Fenetre::pressepapiers(const Controle& controle, const QKeyEvent& evenement) {
     if (controle.genre() != Genre::Boite && controle.genre() != Genre::Liste)
         return false;
-    auto* bloc = QGuiApplication::clipboard();
-    if (evenement.matches(QKeySequence::Copy)) {
-        if (controle.selection() > 0)
-            bloc->setText(versqt(controle.texteselectionne()));
-        return true;
-    }
-    if (evenement.matches(QKeySequence::Cut)) {
-        executer([&] {
-            if (const auto coupe = formulaire_->couper(); !coupe.empty())
-                bloc->setText(versqt(coupe));
-        });
-        return true;
-    }
-    if (evenement.matches(QKeySequence::Paste)) {
-        executer([&] { formulaire_->coller(depuisqt(bloc->text())); });
-        return true;
-    }
-    return false;
+    if (evenement.matches(QKeySequence::Copy))
+        copier(controle);
+    else if (evenement.matches(QKeySequence::Cut))
+        executer([&] { couper(controle); });
+    else if (evenement.matches(QKeySequence::Paste))
+        executer([&] { coller(controle); });
+    else
+        return false;
+    return true;
 }
 
 void Fenetre::relacher(const QKeyEvent& evenement) {

@@ -31,6 +31,13 @@ class Boites : public BureauQt {
         solution[0]->selectionner(bout, bout);
         fenetrier->rafraichir();
     }
+    /// Opens the menu of the first box.
+    void deroulermenu() const {
+        auto& boite = widget(*solution[0]);
+        QContextMenuEvent demande(QContextMenuEvent::Mouse, QPoint(10, 10),
+                                  boite.mapToGlobal(QPoint(10, 10)));
+        QApplication::sendEvent(&boite, &demande);
+    }
     /// Entry of the box's own menu.
     static QAction* entree(const QString& texte) {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -142,15 +149,48 @@ TEST_F(Boites, le_menu_de_la_boite_est_en_francais_et_passe_par_le_modele) {
     ecrire("ABC");
     solution[0]->toutselectionner();
     QGuiApplication::clipboard()->setText("XY");
-    QContextMenuEvent demande(QContextMenuEvent::Mouse, QPoint(10, 10),
-                              widget(*solution[0]).mapToGlobal(QPoint(10, 10)));
-    QApplication::sendEvent(&widget(*solution[0]), &demande);
+    deroulermenu();
     ASSERT_NE(entree("Coller"), nullptr);
     EXPECT_TRUE(entree("Couper")->isEnabled());
     EXPECT_TRUE(entree("Copier")->isEnabled());
     entree("Coller")->trigger();
     EXPECT_EQ(solution[0]->texte(), "XY");
     QApplication::activePopupWidget()->close();
+}
+
+TEST_F(Boites, une_selection_partie_sous_le_menu_laisse_le_presse_papiers) {
+    for (const char* action : {"Couper", "Copier"}) {
+        ecrire("ABC");
+        solution[0]->toutselectionner();
+        QGuiApplication::clipboard()->setText("XY");
+        deroulermenu();
+        ASSERT_NE(entree(action), nullptr) << action;
+        solution[0]->selectionner(1, 1);
+        entree(action)->trigger();
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "XY") << action;
+        EXPECT_EQ(solution[0]->texte(), "ABC") << action;
+        QApplication::activePopupWidget()->close();
+        laisser();
+    }
+}
+
+TEST_F(Boites, le_menu_d_une_boite_quittee_laisse_les_autres) {
+    for (const char* action : {"Couper", "Coller"}) {
+        ecrire("ABC");
+        solution[0]->toutselectionner();
+        solution[1]->texte = "DEF";
+        solution[1]->toutselectionner();
+        forme->donnerfocus(*solution[0]);
+        QGuiApplication::clipboard()->setText("XY");
+        deroulermenu();
+        ASSERT_NE(entree(action), nullptr) << action;
+        forme->donnerfocus(*solution[1]);
+        entree(action)->trigger();
+        EXPECT_EQ(solution[1]->texte(), "DEF") << action;
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "XY") << action;
+        QApplication::activePopupWidget()->close();
+        laisser();
+    }
 }
 
 TEST_F(Boites, le_bouton_du_milieu_colle_la_selection_de_la_souris) {
