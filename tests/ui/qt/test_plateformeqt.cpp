@@ -132,17 +132,28 @@ TEST_F(Machine, un_message_laisse_battre_les_minuteries_et_retient_la_souris) {
     bouton.placer({0, 0, 1500, 600});
     int clics = 0;
     bouton.clic = [&clics] { ++clics; };
+    auto& minuterie = forme.ajouterminuterie("Timer1");
+    int tics = 0;
+    minuterie.tic = [&] {
+        if (++tics == 1)
+            repondre("OK");
+    };
     plateforme.accueillir(forme);
     forme.visible = true;
     plateforme.fenetrier().rafraichir();
     auto* fenetre = plateforme.fenetrier().fenetre(forme);
     ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre));
+    minuterie.actif = true;
     QTimer::singleShot(0, &plateforme.fenetrier(), [&] {
         EXPECT_EQ(QApplication::activeModalWidget()->parentWidget(), fenetre);
         QTest::mouseClick(fenetre->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
     });
-    repondre("OK");
+    QTimer secours;  // closes a box that no tick has answered
+    QObject::connect(&secours, &QTimer::timeout,
+                     [] { QApplication::activeModalWidget()->close(); });
+    secours.start(5 * static_cast<int>(ui::qt::Minuteur::periode));
     plateforme.message("un instant");
+    EXPECT_EQ(tics, 1);
     EXPECT_EQ(clics, 0);
     QTest::mouseClick(fenetre->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
     EXPECT_EQ(clics, 1);
