@@ -89,6 +89,9 @@ void Form2::dresser() {
 
 void Form2::brancher() {
     user_.change = [this] { commencer_.actif = true; };
+    // Enter takes what was typed where it was typed.
+    user_.entree = [this] { mettredefaut(commencer_); };
+    nom_.entree = [this] { mettredefaut(ok_); };
     commencer_.clic = [this] { connecter(); };
     nouveau_.clic = [this] { saisirnouveau(); };
     ok_.clic = [this] { accepternouveau(); };
@@ -108,6 +111,7 @@ void Form2::charger() {
         return;
     }
     user_.texte = lus.derniereligne;
+    commencer_.actif = true;
     donnerfocus(commencer_);
     if (common::essayerlire(disque, cheminsettings(lus.derniereligne), octets))
         return;
@@ -115,11 +119,11 @@ void Form2::charger() {
         fond = couleurdufond(*couleur);
 }
 
-/// The entry of a new name; Enter in its box accepts it.
+/// The entry of a new name.
 void Form2::montrersaisie(bool montree) {
     for (auto* controle : {&invite_, &nom_, &conseil_, &ok_})
         controle->visible = montree;
-    mettredefaut(montree ? ok_ : commencer_);
+    mettredefaut(commencer_);
 }
 
 void Form2::saisirnouveau() {
