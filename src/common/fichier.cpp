@@ -135,10 +135,10 @@ bool Lignes::lirepuissuivante(std::string_view& ligne) {
     if (debut_ == fin_)
         return false;
     ligne = std::string_view(tampon_.get() + debut_, fin_ - debut_);
-    if (ligne.back() == '\r')
+    terminee_ = ligne.back() == '\r';
+    if (terminee_)
         ligne.remove_suffix(1);
     debut_ = fin_;
-    terminee_ = false;
     ++numero_;
     return true;
 }

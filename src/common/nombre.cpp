@@ -61,8 +61,8 @@ double valeur(std::string_view texte) {
         const auto entiere = nombre.substr(0, nombre.find('.'));
         if (entiere.find_first_not_of("-0") == std::string_view::npos)
             return 0;  // too small
-        constexpr double infini = std::numeric_limits<double>::infinity();
-        return nombre.front() == '-' ? -infini : infini;
+        constexpr double enorme = std::numeric_limits<double>::max();
+        return nombre.front() == '-' ? -enorme : enorme;
     }
     return resultat;
 }
@@ -114,6 +114,8 @@ std::string decimales(double nombre, int nombrededecimales) {
 }
 
 std::string deuxchiffres(std::int64_t nombre) {
+    if (nombre < 0)
+        return "-" + deuxchiffres(-nombre);
     const auto texte = std::to_string(nombre);
     return texte.size() < 2 ? "0" + texte : texte;
 }

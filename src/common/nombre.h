@@ -11,7 +11,7 @@
 namespace common {
 
 /// Numeric value of a text: the longest number that it begins with (blanks, an optional sign,
-/// digits, at most one point, no exponent); 0 if it begins with none.
+/// digits, at most one point, no exponent); 0 if it begins with none. Never infinite.
 [[nodiscard]] double valeur(std::string_view texte);
 
 /// Nearest integer, a tie going to the even one, as a 16-bit integer.
@@ -32,7 +32,7 @@ namespace common {
 /// exact decimal value of the number, a tie away from zero.
 [[nodiscard]] std::string decimales(double nombre, int nombrededecimales);
 
-/// A number from 0 in at least two digits.
+/// A number in at least two digits, behind its sign if it is negative.
 [[nodiscard]] std::string deuxchiffres(std::int64_t nombre);
 
 }  // namespace common

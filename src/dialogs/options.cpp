@@ -97,8 +97,11 @@ Verdict valider(const Saisie& saisie) {
 }
 
 std::string tempsdeserie(double secondesparmot) {
-    return common::CalcDuree(
-        common::entier16(secondesparmot * motsparserie, "Temps d'une série de 30 mots (options)"));
+    // 32767 seconds for 30 words.
+    constexpr std::string_view quoi =
+        "Temps d'une série de 30 mots, à 1092 secondes par mot au plus (options, ligne 3 de "
+        "« settings.dat »)";
+    return common::CalcDuree(common::entier16(secondesparmot * motsparserie, quoi));
 }
 
 std::array<std::string, nbtailles> tailles(common::VariablesDialog2& variables,

@@ -1,6 +1,5 @@
 #include "chronos.h"
 
-#include "faute.h"
 #include "nombre.h"
 #include "texte.h"
 
@@ -110,10 +109,8 @@ void Chronos::battreserie() {
 void Chronos::battretotal() {
     ++tempstotal_;
     if (limitetotal_ && tempstotal_ >= *limitetotal_) {
-        throw common::Faute(
-            "Chronomètre total de la liste : il ne peut pas atteindre 10 heures (limite : "
-            "9:59:59). "
-            "Vos résultats et vos révisions sont enregistrés.");
+        alalimite();
+        return;
     }
     tempstot.texte = textetotal(tempstotal_);
 }

@@ -21,11 +21,14 @@ namespace series {
 /// `tempstot` the list up, `tempsmot` the seconds in the current box.
 class Chronos {
   public:
-    /// `limitetotal`: seconds at which the total clock is a fault, if it has such a limit.
+    /// `limitetotal`: seconds that the total clock cannot reach, if it has such a limit.
     Chronos(ui::Formulaire& formulaire, std::optional<std::int32_t> limitetotal);
 
     /// Runs at the tick that brings the series to its end.
     std::function<void()> auterme;
+    /// Runs at the tick that brings the list to the limit of the total clock, which stays as it
+    /// was.
+    std::function<void()> alalimite;
     /// Runs when a pause begins (true) or ends (false), to lock or unlock the boxes.
     std::function<void(bool)> surpause;
     /// The series is open, so that the end of a pause starts its clock again.

@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "faute.h"
+#include "fichier.h"
 #include "polices.h"
 
 namespace series {
@@ -189,6 +191,12 @@ void Formserie::brancher() {
     quitter.clic = [this] { quitterserie(); };
     Command3.clic = [this] { changerpolice(); };
     chronos.auterme = [this] { corrigerserie(); };
+    chronos.alalimite = [this] {
+        throw common::Faute(common::rapportfichier(
+            "Chronomètre total de la liste", fich_,
+            "il ne peut pas atteindre 10 heures ; la limite est de 9:59:59. Les révisions des "
+            "séries corrigées sont enregistrées ; la liste en cours n'a pas de résultat"));
+    };
     chronos.serieouverte = [this] { return serieouverte(); };
     chronos.surpause = [this](bool pause) {
         recherche.actif = !pause;

@@ -37,7 +37,7 @@ void Rangees::lire(common::Disque& disque, std::string_view chemin) {
         const auto numero = rangees_.size() + 1;
         const auto saut = std::min(tout.find('\n', i), tout.size());
         auto ligne = tout.substr(i, saut - i);
-        if (saut < tout.size() && !ligne.empty() && ligne.back() == '\r')
+        if (!ligne.empty() && ligne.back() == '\r')
             ligne.remove_suffix(1);
         i = saut + 1;
         const auto place = separateur(ligne, chemin, numero);

@@ -23,6 +23,9 @@ class Rangees {
 
     /// `limite`: most rows of a list.
     explicit Rangees(std::size_t limite) : limite_(limite) {}
+    Rangees(const Rangees&) = delete;  // the rows point into the bytes
+    Rangees& operator=(const Rangees&) = delete;
+    ~Rangees() = default;
 
     /// Reads a list file, replacing all rows. Throws `Faute`, naming the line, on a row without
     /// ";" (an empty line too) and on a row over the limit.

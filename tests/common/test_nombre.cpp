@@ -9,6 +9,7 @@
 namespace {
 
 constexpr double infini = std::numeric_limits<double>::infinity();
+constexpr double enorme = std::numeric_limits<double>::max();
 
 struct Lecture {
     const char* nom;
@@ -33,8 +34,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Lecture{"sans_exposant", "1e3", 1}, Lecture{"ni_hexadecimal", "0x10", 0},
                     Lecture{"ni_infini", "inf", 0}, Lecture{"ni_nan", "nan", 0},
                     Lecture{"zeros_devant", "007", 7},
-                    Lecture{"trop_grand", std::string(400, '9'), infini},
-                    Lecture{"trop_petit_negatif", "-" + std::string(400, '9'), -infini},
+                    Lecture{"trop_grand", std::string(400, '9'), enorme},
+                    Lecture{"trop_petit_negatif", "-" + std::string(400, '9'), -enorme},
                     Lecture{"trop_fin", "0." + std::string(400, '0') + "1", 0}),
     [](const auto& rangee) { return rangee.param.nom; });
 

@@ -26,9 +26,10 @@ std::vector<Ligne> leslignes(std::string_view octets) {
         const bool finie = saut != std::string_view::npos;
         auto ligne = octets.substr(0, saut);
         octets.remove_prefix(finie ? saut + 1 : octets.size());
-        if (finie && ligne.ends_with('\r'))
+        const bool retour = ligne.ends_with('\r');
+        if (retour)
             ligne.remove_suffix(1);
-        lignes.emplace_back(ligne, finie);
+        lignes.emplace_back(ligne, finie || retour);
     }
     return lignes;
 }
@@ -64,7 +65,8 @@ class Articles {
     [[nodiscard]] std::size_t fin() const {
         if (ici() == '\n')
             return 1;
-        return octets_.substr(place_, 2) == "\r\n" ? 2 : 0;
+        const auto deux = octets_.substr(place_, 2);
+        return deux == "\r\n" || deux == "\r" ? deux.size() : 0;
     }
     void passerblancs() {
         while (ici() == ' ' || ici() == '\t')
@@ -86,7 +88,8 @@ class Articles {
             place_ += std::max<std::size_t>(saut, 1);
         }
         if (place_ >= octets_.size()) {  // never closed: the last line end is none of it
-            const bool saut = octets_.ends_with('\n') && article.ends_with("\r\n");
+            const bool saut =
+                (octets_.ends_with('\n') || octets_.ends_with('\r')) && article.ends_with("\r\n");
             return saut ? article.substr(0, article.size() - 2) : article;
         }
         ++place_;

@@ -213,7 +213,7 @@ TEST_F(Lancement, trop_de_series_est_une_faute) {
     ouvrir("bt");
     v.dialog2.nbechantillon = 1093;
     cliquer("Command6(0)");
-    EXPECT_THAT(rapport(), HasSubstr("Taille des échantillons : la valeur 32790"));
+    EXPECT_THAT(rapport(), HasSubstr("ligne 4 de « settings.dat ») : la valeur 32790"));
 }
 
 TEST_F(Lancement, un_disque_plein_finit_en_le_disant) {

@@ -29,6 +29,7 @@ TEST_P(Serie, s_ecrit) {
 
 INSTANTIATE_TEST_SUITE_P(Chronos, Serie,
                          testing::Values(Texte{"zero", 0, "0:00"},
+                                         Texte{"au_dela_du_terme", -1, "0:-01"},
                                          Texte{"neuf_secondes_ont_un_zero", 9, "0:09"},
                                          Texte{"soixante_secondes_font_une_minute", 60, "1:00"},
                                          Texte{"quatre_minutes", 240, "4:00"},
@@ -85,6 +86,7 @@ class Chronos : public testing::Test {
   protected:
     Chronos() {
         chronos.auterme = [this] { ++termes; };
+        chronos.alalimite = [this] { ++limites; };
         chronos.surpause = [this](bool pause) { pauses.push_back(pause); };
         chronos.serieouverte = [this] { return ouverte; };
     }
@@ -95,6 +97,7 @@ class Chronos : public testing::Test {
     ui::Formulaire form{plateforme, "Essai"};
     series::Chronos chronos{form, 36000};
     int termes = 0;
+    int limites = 0;
     std::vector<bool> pauses;
     bool ouverte = true;
 };
@@ -114,12 +117,14 @@ TEST_F(Chronos, le_tic_qui_atteint_zero_ecrit_puis_termine) {
     EXPECT_EQ(termes, 1);
 }
 
-TEST_F(Chronos, le_total_fait_faute_a_sa_limite) {
+TEST_F(Chronos, le_total_n_atteint_pas_sa_limite) {
     for (int i = 1; i < 36000; ++i)
         seconde(chronos.Timer2);
     EXPECT_EQ(chronos.tempstot.texte(), "9:59:59");
-    EXPECT_THAT([this] { seconde(chronos.Timer2); },
-                ThrowsMessage<common::Faute>(HasSubstr("10 heures")));
+    EXPECT_EQ(limites, 0);
+    seconde(chronos.Timer2);
+    EXPECT_EQ(limites, 1);
+    EXPECT_EQ(chronos.tempstot.texte(), "9:59:59");
 }
 
 TEST_F(Chronos, le_total_sans_limite_passe_dix_heures) {

@@ -39,7 +39,7 @@ class Liste : public testing::Test {
 
     essais::DossierTemporaire dossier;
     common::DisqueReel disque{dossier.chemin()};
-    series::Rangees rangees{series::limiterangeesform1};
+    series::Rangees rangees{common::rangeesform1};
 };
 
 struct Lecture {
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
         Lecture{"fichier_vide", "", {}, 0}, Lecture{"une", "AB;BA\r\n", {{"AB", "BA"}}, 2},
         Lecture{"sans_fin_de_ligne", "AB;BA\r\nCD;DC", {{"AB", "BA"}, {"CD", "DC"}}, 2},
         Lecture{"saut_de_ligne_seul", "AB;BA\nCDE;DC\n", {{"AB", "BA"}, {"CDE", "DC"}}, 3},
-        Lecture{"retour_seul_a_la_fin_reste", "AB;BA\r", {{"AB", "BA\r"}}, 2},
+        Lecture{"coupe_entre_CR_et_LF", "AB;BA\r", {{"AB", "BA"}}, 2},
         Lecture{"seul_le_premier_point_virgule_separe", "AB;BA;AB;\r\n", {{"AB", "BA;AB;"}}, 2},
         Lecture{"rien_n_est_rogne", " A B ; b,a \r\n", {{" A B ", " b,a "}}, 5},
         Lecture{"tirage_vide", ";A\r\n", {{"", "A"}}, 0},
@@ -116,7 +116,7 @@ TEST_F(Liste, absente_est_une_faute) {
 }
 
 TEST_F(Liste, de_15000_rangees_se_lit) {
-    lire(repetees(series::limiterangeesform1));
+    lire(repetees(common::rangeesform1));
     EXPECT_EQ(rangees.nbmots(), 15000);
     EXPECT_EQ(rangees.ligne(14999), 15000U);
 }
