@@ -4,12 +4,24 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace common {
 
 /// Folder of the word lists, beside the program.
 inline constexpr std::string_view dossierlistes = "listes";
+
+/// `listes\<fichier>`
+[[nodiscard]] std::string cheminliste(std::string_view fichier);
+/// The name or path of a list without the suffix of a part ("_" and one character before ".txt").
+[[nodiscard]] std::string sanspartie(std::string_view fichier);
+/// `<util>\rev-<fichier>`; the parts of a list share the file of the whole list.
+[[nodiscard]] std::string cheminrevision(std::string_view util, std::string_view fichier);
+/// What follows the folder in the path of a list.
+[[nodiscard]] std::string nomdeliste(std::string_view chemin);
+/// What follows `<util>\rev-` in the path of a revision file.
+[[nodiscard]] std::string nomderevision(std::string_view chemin, std::string_view util);
 
 /// A list of words, one a line, that decides a mark at correction.
 struct ListeReference {

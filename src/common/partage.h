@@ -4,16 +4,28 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace common {
 
+/// Kinds of run, as `toue` holds them; a part of a list has the empty text.
+namespace modes {
+inline constexpr std::string_view tout = "T";
+inline constexpr std::string_view echantillon = "E";
+inline constexpr std::string_view revision = "R";
+inline constexpr std::string_view partie;
+}  // namespace modes
+
+/// Content of `typ` in the panel of the extensions.
+inline constexpr std::string_view typrallonges = "rallong";
+
 /// Public variables of `Form3` (the menu).
 struct VariablesForm3 {
-    std::string util;         ///< user name, and the name of the user's folder
-    std::string toue;         ///< kind of run: "T" whole, "E" sample, "R" revision, "" a part
-    std::string typ;          ///< "rallong" or empty
-    std::string nombase;      ///< title of the list
-    bool persomulti = false;  ///< the personal list has several solutions
+    std::string util;                          ///< user name, and the name of the user's folder
+    std::string toue;                          ///< kind of run, one of `modes`
+    std::string typ;                           ///< `typrallonges` or empty
+    std::string nombase;                       ///< title of the list
+    bool persomulti = false;                   ///< the personal list has several solutions
     std::string couleurdufond = "Par défaut";  ///< name of the background colour
     std::string versionlocale;
     std::string dateversion;

@@ -2,13 +2,14 @@
 
 #include "aides.h"
 #include "form3.h"
+#include "listes.h"
 #include "nombre.h"
 
 namespace menu {
 
 /// Makes the revision file of a row's list if it is missing; gives its path.
 std::string Form3::preparerrevision(std::size_t rangee) {
-    auto chemin = cheminrevision(voisins_.form3.util, listes_.at(rangee).fichier);
+    auto chemin = common::cheminrevision(voisins_.form3.util, listes_.at(rangee).fichier);
     common::toucher(plateforme().disque(), chemin, "Préparation du fichier de révisions");
     return chemin;
 }
@@ -24,16 +25,17 @@ void Form3::lancer(Ecran ecran, std::string_view chemin) {
 
 void Form3::jouertout(std::size_t rangee) {
     auto& variables = voisins_.form3;
-    variables.toue = modes::tout;
+    variables.toue = common::modes::tout;
     variables.nombase = lignes_[rangee].nom.texte();
     variables.typ = typdupanneau(panneau_);
     preparerrevision(rangee);
-    lancer(ecran(panneau_, rangee, variables.persomulti), cheminliste(listes_.at(rangee).fichier));
+    lancer(ecran(panneau_, rangee, variables.persomulti),
+           common::cheminliste(listes_.at(rangee).fichier));
 }
 
 void Form3::jouerrevision(std::size_t rangee) {
     auto& variables = voisins_.form3;
-    variables.toue = modes::revision;
+    variables.toue = common::modes::revision;
     variables.nombase = lignes_[rangee].nom.texte() + " (révisions)";
     variables.typ = typdupanneau(panneau_);
     lancer(ecran(panneau_, rangee, variables.persomulti), preparerrevision(rangee));
@@ -46,12 +48,12 @@ void Form3::jouerpartie(std::size_t index, std::size_t partie) {
     if (!rangee)
         return;
     auto& variables = voisins_.form3;
-    variables.toue = modes::partie;
+    variables.toue = common::modes::partie;
     variables.nombase = lignes_[*rangee].nom.texte();
     ecrireresultat(index, {});
     preparerrevision(*rangee);
     lancer(ecran(panneau_, *rangee, variables.persomulti),
-           cheminliste(fichierdepartie(listes_.at(*rangee).fichier, partie)));
+           common::cheminliste(fichierdepartie(listes_.at(*rangee).fichier, partie)));
 }
 
 /// The stages go on after a launch, with the menu hidden.
@@ -59,7 +61,7 @@ void Form3::jouerechantillon(std::size_t rangee) {
     auto& variables = voisins_.form3;
     auto& tailles = voisins_.dialog2;
     variables.typ.clear();
-    variables.toue = modes::echantillon;
+    variables.toue = common::modes::echantillon;
     variables.nombase = lignes_[rangee].nom.texte();
     tailles.affecterechantillons(tailles.nbechantillon);
     const auto base = common::valeur(lignes_[rangee].nombre.texte());
@@ -70,7 +72,7 @@ void Form3::jouerechantillon(std::size_t rangee) {
             continue;
         variables.typ = typdupanneau(panneau_);
         preparerrevision(rangee);
-        lancer(*etape.lancement, cheminliste(listes_.at(rangee).fichier));
+        lancer(*etape.lancement, common::cheminliste(listes_.at(rangee).fichier));
     }
 }
 

@@ -6,11 +6,11 @@
 #include "compteur.h"
 #include "faute.h"
 #include "form3.h"
+#include "listes.h"
 
 namespace menu {
 namespace {
 
-constexpr std::string_view panneaudecale = "rallong";    // sizes stand a little to the right
 constexpr std::string_view panneaudimages = "quatquin";  // shows `Command11`
 
 /// What the name of a button adds for those who cannot see its row.
@@ -73,7 +73,7 @@ void Form3::remplir(const Panneau& panneau) {
     for (std::size_t r = 0; r < panneau.rangees.size(); ++r)
         somme += compterrangee(r);
     for (std::size_t r = 0; r < listes_.size(); ++r) {
-        placernombre(r, panneau.cle == panneaudecale);
+        placernombre(r, panneau.cle == panneaudesrallonges);
         if (listes_[r].parties > 0)
             montrerparties(r);
     }
@@ -101,7 +101,7 @@ void Form3::remplirrangee(std::size_t rangee, std::string_view libelle) {
 }
 
 std::size_t Form3::compterrangee(std::size_t rangee) {
-    const auto chemin = cheminliste(listes_[rangee].fichier);
+    const auto chemin = common::cheminliste(listes_[rangee].fichier);
     Compteur compteur;
     if (const auto erreur = compter(plateforme().disque(), chemin, compteur)) {
         throw common::Faute(common::rapportfichier("Comptage des mots d'une liste", chemin,
@@ -139,7 +139,7 @@ void Form3::montrerinsignes(const Panneau& panneau) {
 void Form3::verifierpersonnel() {
     const auto nom = perso_.texte();
     Compteur compteur;
-    if (const auto erreur = compter(plateforme().disque(), cheminliste(nom), compteur)) {
+    if (const auto erreur = compter(plateforme().disque(), common::cheminliste(nom), compteur)) {
         aide(common::raison(erreur));
         return;
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "listes.h"
 #include "tableau.h"
 
 namespace menu {
@@ -56,8 +55,7 @@ std::size_t etapedelancement(std::string_view cle, Ecran ecran) {
 }  // namespace
 
 std::string_view typdupanneau(std::string_view cle) {
-    constexpr std::string_view panneaudesrallonges = "rallong";
-    return cle == panneaudesrallonges ? typrallonges : std::string_view();
+    return cle == panneaudesrallonges ? common::typrallonges : std::string_view();
 }
 
 Ecran ecran(std::string_view cle, std::size_t rangee, bool persomulti) {
@@ -67,14 +65,6 @@ Ecran ecran(std::string_view cle, std::size_t rangee, bool persomulti) {
     if (trouve == nullptr || rangee >= trouve->rangees.size())
         return Ecran::form1;
     return trouve->rangees[rangee].ecran;
-}
-
-std::string cheminliste(std::string_view fichier) {
-    return std::string(common::dossierlistes) + "\\" + std::string(fichier);
-}
-
-std::string cheminrevision(std::string_view util, std::string_view fichier) {
-    return std::string(util) + "\\rev-" + std::string(fichier);
 }
 
 std::array<Etape, 5> etapes(std::string_view cle, std::size_t rangee, bool persomulti, double base,

@@ -14,28 +14,12 @@
 
 namespace menu {
 
-/// Kinds of run, as `toue` holds them; a part of a list has the empty text.
-namespace modes {
-inline constexpr std::string_view tout = "T";
-inline constexpr std::string_view echantillon = "E";
-inline constexpr std::string_view revision = "R";
-inline constexpr std::string_view partie;
-}  // namespace modes
-
-/// Content of `typ` in the panel of the extensions.
-inline constexpr std::string_view typrallonges = "rallong";
-/// `typ` after a click on "Tout" or "Révision" in a panel.
+/// `typ` after a launch from a panel.
 [[nodiscard]] std::string_view typdupanneau(std::string_view cle);
 
 /// The form on which a row is worked. While the personal list has several solutions every row of
 /// its panel goes to `Multi`.
 [[nodiscard]] Ecran ecran(std::string_view cle, std::size_t rangee, bool persomulti);
-
-/// `listes\<fichier>`
-[[nodiscard]] std::string cheminliste(std::string_view fichier);
-
-/// `<util>\rev-<fichier>`; the parts of a list share the file of the whole list.
-[[nodiscard]] std::string cheminrevision(std::string_view util, std::string_view fichier);
 
 /// What a stage of the launch of a sample does.
 struct Etape {

@@ -6,6 +6,7 @@
 
 #include "hist.h"
 #include "nombre.h"
+#include "partage.h"
 #include "texte.h"
 
 namespace menu {
@@ -122,7 +123,7 @@ void Derniers::voir(std::string_view record) {
         if (!record.ends_with(trouvee.nom))
             continue;
         const auto lu = profiles::balayer(record);
-        if (!lu || lu->mode == profiles::moderevision)
+        if (!lu || lu->mode == common::modes::revision)
             return;
         trouvee.record = record;
     }

@@ -18,6 +18,8 @@ inline constexpr std::size_t nbparties = 4;  ///< parts of a list, at most
 /// The panel whose last row is the user's own list, and that row.
 inline constexpr std::string_view panneaupersonnel = "autres";
 inline constexpr std::size_t rangeepersonnelle = 7;
+/// The panel of the lists of extensions.
+inline constexpr std::string_view panneaudesrallonges = "rallong";
 
 /// The list of a row: its file, and in how many parts it can be worked (0, or 2 to 4).
 struct Liste {

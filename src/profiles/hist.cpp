@@ -1,7 +1,9 @@
 #include "hist.h"
 
 #include "faute.h"
+#include "listes.h"
 #include "nombre.h"
+#include "partage.h"
 #include "texte.h"
 
 namespace profiles {
@@ -9,11 +11,9 @@ namespace {
 
 constexpr std::string_view lecture = "Lecture des résultats";
 constexpr std::string_view separateur = " - ";
-constexpr std::size_t longueurdossier = 7;  // the folder of the lists and its backslash
-constexpr std::size_t longueurrev = 5;      // a backslash and "rev-"
-constexpr std::size_t longueurheure = 5;    // HH:MM
-constexpr std::size_t placepourcent = 21;   // of the percent text, from 0
-constexpr std::size_t versmode = 4;         // from the "%" to the mode
+constexpr std::size_t longueurheure = 5;   // HH:MM
+constexpr std::size_t placepourcent = 21;  // of the percent text, from 0
+constexpr std::size_t versmode = 4;        // from the "%" to the mode
 
 }  // namespace
 
@@ -28,8 +28,8 @@ double pourcentage(std::int64_t nbmotsinitial, std::int64_t nbfautes) {
 }
 
 std::string nomcourt(std::string_view fich, std::string_view toue, std::string_view util) {
-    const auto oter = toue == moderevision ? common::longueur(util) + longueurrev : longueurdossier;
-    return common::milieu(fich, oter + 1);
+    return toue == common::modes::revision ? common::nomderevision(fich, util)
+                                           : common::nomdeliste(fich);
 }
 
 std::string enregistrement(const common::Instant& quand, double pourc, std::string_view toue,

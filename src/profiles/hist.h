@@ -19,8 +19,6 @@ namespace profiles {
 inline constexpr std::size_t maximumhist = 30001;
 /// Characters of the date and time of a record.
 inline constexpr std::size_t largeurdate = 18;
-/// Mode of a run on the revision file.
-inline constexpr std::string_view moderevision = "R";
 
 /// `<util>\hist.dat`
 [[nodiscard]] std::string cheminhist(std::string_view util);

@@ -1,11 +1,22 @@
 #include "form1.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "listes.h"
 
 namespace series {
 namespace {
 
 constexpr std::int32_t dixheures = 36000;
+
+/// Every list of reference as long as it may come with the program.
+Limites placesdeslistes() {
+    Limites limites{};
+    std::transform(common::listesreference.begin(), common::listesreference.end(), limites.begin(),
+                   [](const common::ListeReference& liste) { return liste.places; });
+    return limites;
+}
 
 const Gabarit gabaritform1{
     .nom = "Form1",
@@ -14,14 +25,14 @@ const Gabarit gabaritform1{
     .nblignes = 5,
     .nbtirages = nbboitesform1,
     .nbboites = nbboitesform1,
-    .limiterangees = limiterangeesform1,
+    .limiterangees = common::rangeesform1,
     .comblement = Comblement::Dernier,
     .longsgardentpolice = true,
     .nomdesfautes = "nbftot",
     .enmoinsde = "Eliminer un mot trouvé en moins de",
     .troptard = "NON",
-    .limites = {5001, 5001, 5001, 2501, 20001, 1001},
-    .limitenotes = 500001,
+    .limites = placesdeslistes(),
+    .limitenotes = common::lignesinfosouris,
     .lignesdemots = Lignesdemots::Paires,
     .notessurletirage = true,
     .marquesgardees = "-+(",

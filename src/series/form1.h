@@ -14,8 +14,6 @@ namespace series {
 
 /// Racks of a series on `Form1`.
 inline constexpr int nbboitesform1 = 30;
-/// Most rows of a list.
-inline constexpr std::size_t limiterangeesform1 = 15000;
 /// Different wrong rows that a list can hold (`motsfaux`).
 inline constexpr std::size_t limitemotsfaux = 5001;
 /// Largest sample.

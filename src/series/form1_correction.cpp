@@ -13,10 +13,11 @@ namespace {
 
 constexpr std::string_view action = "Correction de la série";
 
-/// One word for each letter: with a joker the letters are so many answers.
+/// One word for each letter: with a joker the letters are so many answers. One word past the limit
+/// tells that there are too many.
 std::vector<std::string> variantes(std::string_view mot, std::string_view lettres, bool devant) {
     std::vector<std::string> mots;
-    for (const auto& lettre : common::caracteres(lettres))
+    for (const auto& lettre : common::caracteres(common::debut(lettres, limitevariantes + 1)))
         mots.push_back(devant ? lettre + std::string(mot) : std::string(mot) + lettre);
     return mots;
 }
@@ -25,7 +26,7 @@ std::vector<std::string> variantes(std::string_view mot, std::string_view lettre
 
 std::vector<std::string> motsdesnotes(std::string_view tirage, std::string_view solution,
                                       std::string_view typ, std::string_view titre) {
-    if (typ != "rallong")
+    if (typ != common::typrallonges)
         return {std::string(solution)};
     if (titre.starts_with("Rallonges ava")) {
         if (tirage.starts_with('?'))
@@ -73,7 +74,7 @@ void Form1::marquer(int nombre) {
 void Form1::noter(int nombre) {
     const auto& menu = voisins_.form3;
     const bool sansnotes =
-        menu.nombase == "Benjamins uniques" || menu.nombase == "Benjamins uniques (révisions)";
+        menu.nombase == benjamins || menu.nombase == std::string(benjamins) + " (révisions)";
     std::vector<std::string> mots;
     std::vector<int> boites;
     for (int i = 0; i < nombre && !sansnotes; ++i) {
@@ -131,7 +132,7 @@ void Form1::montrerfaute(int rang) {
     reponse.fond = ui::couleurs::faux;
     if (reponse.texte().empty()) {
         reponse.texte = rack.texte();
-    } else if (voisins_.form3.typ == "rallong") {
+    } else if (voisins_.form3.typ == common::typrallonges) {
         reponse.infobulle = "Vous aviez saisi: " + reponse.texte();
         reponse.texte = rack.texte();
     } else {
@@ -145,7 +146,7 @@ void Form1::montrerfaute(int rang) {
 /// A definition is offered for the box that shows the right word.
 void Form1::ouvrirmenu(int rang, const ui::Controle& boite) {
     const bool juste = boite.fond() == ui::couleurs::juste;
-    ouvrirmenumot(rang, boite, boite.texte(), juste && voisins_.form3.typ != "rallong");
+    ouvrirmenumot(rang, boite, boite.texte(), juste && voisins_.form3.typ != common::typrallonges);
 }
 
 }  // namespace series

@@ -14,7 +14,8 @@ void Form1::branchersaisie() {
     }
     recherche.change = [this] {
         const auto limite = common::longueur(tirage[static_cast<std::size_t>(boite_)]->texte());
-        if (voisins_.form3.typ == "rallong" || common::longueur(recherche.texte()) <= limite)
+        if (voisins_.form3.typ == common::typrallonges ||
+            common::longueur(recherche.texte()) <= limite)
             return;
         if (voisins_.options.check1())
             plateforme().bip();

@@ -24,6 +24,9 @@
 
 namespace series {
 
+/// Title of the list in which the letters of an answer aren't those of its rack.
+inline constexpr std::string_view benjamins = "Benjamins uniques";
+
 /// What tells the two forms apart in the pieces that they share.
 struct Gabarit {
     std::string_view nom;    ///< design name of the form

@@ -41,7 +41,7 @@ void Formserie::retenirrapide(int rang, bool bon, std::string_view atemps) {
 }
 
 bool Formserie::erreursaurevision() const {
-    return voisins_.form3.toue != "R" && !voisins_.menu.app();
+    return voisins_.form3.toue != common::modes::revision && !voisins_.menu.app();
 }
 
 void Formserie::garderenrevision(std::span<const Ratee> ratees) {
@@ -74,8 +74,8 @@ void Formserie::afficherscore(int justes, int tirages) {
 }
 
 void Formserie::montrernotes(std::span<const std::string> mots, std::span<const int> boites) {
-    auto notes = cherchernotes(plateforme().disque(), fichierdesnotes, gabarit_.limitenotes,
-                               gabarit_.lignesdemots, Recherche(mots));
+    auto notes = cherchernotes(plateforme().disque(), common::fichierinfosouris,
+                               gabarit_.limitenotes, gabarit_.lignesdemots, Recherche(mots));
     if (notes.empty())
         return;
     const auto boite = [&](const Note& note) { return boites[note.mot]; };

@@ -66,7 +66,7 @@ double Formserie::seuil() const {
 }
 
 bool Formserie::criterelibre() const {
-    return voisins_.form3.toue == "R" || voisins_.menu.app();
+    return voisins_.form3.toue == common::modes::revision || voisins_.menu.app();
 }
 
 void Formserie::nouvelleserie() {

@@ -12,9 +12,6 @@
 namespace series {
 namespace {
 
-constexpr std::string_view benjamins = "Benjamins uniques";
-constexpr std::string_view rallonge = "rallong";
-
 int majuscule(int code) {
     return code >= 'a' && code <= 'z' ? code - ('a' - 'A') : code;
 }
@@ -97,7 +94,7 @@ void Formserie::cliquerrecherche(int rang) {
 }
 
 bool Formserie::saisieassistee() const {
-    return voisins_.form3.nombase != benjamins && voisins_.form3.typ != rallonge &&
+    return voisins_.form3.nombase != benjamins && voisins_.form3.typ != common::typrallonges &&
            serieouverte() && voisins_.dialog2.saisieassistee != 0;
 }
 

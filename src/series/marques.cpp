@@ -77,9 +77,9 @@ bool Marques::datee(std::size_t boite) const {
 void Marques::montrer(std::span<const std::string> mots) {
     const Recherche recherche(mots);
     for (std::size_t i = 0; i < nombredelistes; ++i) {
-        const auto trouves =
-            chercherliste(formulaire_.plateforme().disque(), tabledesmarques[i].fichier,
-                          limites_[i], recherche, mots.size());
+        const auto chemin = common::cheminliste(common::listesreference.at(i).fichier);
+        const auto trouves = chercherliste(formulaire_.plateforme().disque(), chemin, limites_[i],
+                                           recherche, mots.size());
         for (std::size_t boite = 0; boite < mots.size(); ++boite) {
             if (!trouves[boite])
                 continue;

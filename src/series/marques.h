@@ -8,12 +8,13 @@
 #include <vector>
 
 #include "formulaire.h"
+#include "listes.h"
 
 namespace series {
 
 /// The lists that drive marks, in the order in which they are read.
 enum class Liste : std::size_t { Ods5, Ods6, Ods7, Vbi, Vbt, Inv };
-inline constexpr std::size_t nombredelistes = 6;
+inline constexpr std::size_t nombredelistes = common::listesreference.size();
 
 /// Most items of each list, in the order of `Liste`.
 using Limites = std::array<std::size_t, nombredelistes>;
@@ -21,7 +22,6 @@ using Limites = std::array<std::size_t, nombredelistes>;
 /// What one list puts on a box: a full mark, or for a grammar list beside a dated mark the half
 /// one.
 struct Marque {
-    std::string_view fichier;   ///< list of words
     std::string_view controle;  ///< full mark
     std::string_view image;
     std::string_view demicontrole;  ///< half mark, empty for the dated marks
@@ -30,14 +30,13 @@ struct Marque {
 };
 
 inline constexpr std::array<Marque, nombredelistes> tabledesmarques = {{
-    {"listes\\ods5.txt", "Image1", "images\\ods5_28x28.bmp", {}, {}, "Entré en janvier 2008"},
-    {"listes\\ods6.txt", "Image4", "images\\ods6_28x28.bmp", {}, {}, "Entré en janvier 2012"},
-    {"listes\\ods7.txt", "Image5", "images\\ods7_28x28.bmp", {}, {}, "Entré en janvier 2016"},
-    {"listes\\vbi.txt", "Image2", "images\\ppi_28x28.bmp", "ImageDemiPpi", "images\\ppi_14x28.bmp",
+    {"Image1", "images\\ods5_28x28.bmp", {}, {}, "Entré en janvier 2008"},
+    {"Image4", "images\\ods6_28x28.bmp", {}, {}, "Entré en janvier 2012"},
+    {"Image5", "images\\ods7_28x28.bmp", {}, {}, "Entré en janvier 2016"},
+    {"Image2", "images\\ppi_28x28.bmp", "ImageDemiPpi", "images\\ppi_14x28.bmp",
      "Participe passé invariable !"},
-    {"listes\\vbt4-10.txt", "Image6", "images\\vbt_28x28.bmp", "ImageDemiVbt",
-     "images\\vbt_14x28.bmp", "Verbe transitif"},
-    {"listes\\inv.txt", "Image3", "images\\inv_28x28.bmp", "ImageDemiInv", "images\\inv_14x28.bmp",
+    {"Image6", "images\\vbt_28x28.bmp", "ImageDemiVbt", "images\\vbt_14x28.bmp", "Verbe transitif"},
+    {"Image3", "images\\inv_28x28.bmp", "ImageDemiInv", "images\\inv_14x28.bmp",
      "Mot invariable !"},
 }};
 

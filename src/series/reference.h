@@ -74,7 +74,4 @@ enum class Lignesdemots {
                                               std::size_t limite, Lignesdemots lignes,
                                               const Recherche& recherche);
 
-/// Path of the notes, beside the program.
-inline constexpr std::string_view fichierdesnotes = "infosouris.txt";
-
 }  // namespace series

@@ -3,37 +3,24 @@
 #include <algorithm>
 
 #include "faute.h"
+#include "listes.h"
+#include "partage.h"
 #include "reference.h"
 #include "texte.h"
 
 namespace series {
-namespace {
-
-constexpr std::size_t longueurlistes = 7;  // "listes\"
-
-}  // namespace
-
-std::string sanspartie(std::string_view chemin) {
-    const auto n = common::longueur(chemin);
-    constexpr std::size_t suffixe = 6;  // "_a.txt"
-    if (n < suffixe || common::milieu(chemin, n - suffixe + 1, 1) != "_")
-        return std::string(chemin);
-    return common::sansfin(chemin, suffixe) + ".txt";
-}
 
 std::string nomfichierderevision(std::string_view fich, std::string_view toue,
                                  std::string_view util) {
-    auto base = sanspartie(fich);
-    if (toue == "R")
-        return base;
-    return std::string(util) + "\\rev-" + common::milieu(base, longueurlistes + 1);
+    return toue == common::modes::revision ? common::sanspartie(fich)
+                                           : common::cheminrevision(util, common::nomdeliste(fich));
 }
 
 std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view chemin,
                                      std::span<const std::string> lignes) {
     std::vector<bool> presents(lignes.size(), false);
     const Recherche recherche(lignes);
-    common::Items(disque, sanspartie(chemin), "Lecture des révisions")
+    common::Items(disque, common::sanspartie(chemin), "Lecture des révisions")
         .chaque([&](std::string_view item, std::size_t /*ligne*/) {
             for (const auto rang : recherche.rangs(item))
                 presents[rang] = true;

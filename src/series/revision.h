@@ -16,9 +16,6 @@ namespace series {
 /// Most rows of a revision file that `retirerderevision` can go through.
 inline constexpr std::size_t limiterevision = 5001;
 
-/// A list's path without the suffix of a part ("_" and one character before ".txt").
-[[nodiscard]] std::string sanspartie(std::string_view chemin);
-
 /// Path of the revision file of a running list: the list itself in a revision run (`toue` "R"),
 /// otherwise "rev-" and the list's name in the user's folder.
 [[nodiscard]] std::string nomfichierderevision(std::string_view fich, std::string_view toue,

@@ -79,7 +79,7 @@ void eliminer(series::Rangees& rangees, fuzz::Alea& alea) {
 }
 
 void listeform1(Essai& essai) {
-    series::Rangees rangees(series::limiterangeesform1);
+    series::Rangees rangees(common::rangeesform1);
     rangees.lire(essai.disque, fuzz::chemin);
     verifierrangees(rangees, essai.octets);
     eliminer(rangees, essai.alea);

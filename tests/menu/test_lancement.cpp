@@ -3,6 +3,7 @@
 #include "attendu.h"
 #include "lancement.h"
 #include "lignes.h"
+#include "listes.h"
 #include "tableau.h"
 
 namespace {
@@ -153,8 +154,8 @@ const Bouton boutons[] = {
 INSTANTIATE_TEST_SUITE_P(Table, Boutons, testing::ValuesIn(boutons), essai::nommer<Bouton>);
 
 TEST(Chemins, de_la_liste_et_de_sa_revision) {
-    EXPECT_EQ(menu::cheminliste("3lc.txt"), "listes\\3lc.txt");
-    EXPECT_EQ(menu::cheminrevision("Zoé", "3lc.txt"), "Zoé\\rev-3lc.txt");
+    EXPECT_EQ(common::cheminliste("3lc.txt"), "listes\\3lc.txt");
+    EXPECT_EQ(common::cheminrevision("Zoé", "3lc.txt"), "Zoé\\rev-3lc.txt");
 }
 
 TEST(Typ, n_est_plein_que_pour_les_rallonges) {

@@ -57,4 +57,11 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"lettre_accentuee", "?RAT", "ÉA", "rallong", avant, {"ÉRAT", "ARAT"}}),
     [](const auto& cas) { return cas.param.regle; });
 
+TEST(Limitedesnotes, un_mot_de_plus_que_la_limite_dit_qu_il_y_en_a_trop) {
+    const std::string tirage = "?" + std::string(30000, 'A');
+    const auto mots = series::motsdesnotes(tirage, std::string(900000, 'B'), common::typrallonges,
+                                           "Rallonges avant");
+    EXPECT_EQ(mots.size(), series::limitevariantes + 1);
+}
+
 }  // namespace

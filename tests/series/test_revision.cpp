@@ -7,6 +7,7 @@
 #include "disquereel.h"
 #include "dossiertemporaire.h"
 #include "faute.h"
+#include "listes.h"
 #include "revision.h"
 
 namespace {
@@ -56,7 +57,7 @@ struct Suffixe {
 class Partie : public testing::TestWithParam<Suffixe> {};
 
 TEST_P(Partie, se_retranche) {
-    EXPECT_EQ(series::sanspartie(GetParam().chemin), GetParam().attendu);
+    EXPECT_EQ(common::sanspartie(GetParam().chemin), GetParam().attendu);
 }
 
 INSTANTIATE_TEST_SUITE_P(Revision, Partie,
