@@ -28,7 +28,7 @@ Dialog::Dialog(ui::Plateforme& plateforme, std::function<void()> decharger)
 }
 
 void Dialog::montrer(std::string_view titre) {
-    visible = true;
+    Formulaire::montrer();
     texte = texte() + " - " + std::string(titre);
     donnerfocus(resultats_);
 }

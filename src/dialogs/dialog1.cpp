@@ -68,7 +68,7 @@ void Dialog1::dimensionner(int largeurforme, int hauteurforme) {
 }
 
 void Dialog1::montrertexte() {
-    visible = true;
+    montrer();
     dimensionner(largeurtexte, hauteurtexte);
     texte = "A propos de Orvane";
     apropos();
@@ -87,7 +87,7 @@ void Dialog1::montrerimage(int index) {
     texte_.visible = false;
     appui_.visible = false;
     texte = "Tirages 7 et 8 lettres avec 6 anagrammes et plus";
-    visible = true;
+    montrer();
     const bool sept = index == 1;
     auto& montree = sept ? image1_ : image2_;
     auto& cachee = sept ? image2_ : image1_;

@@ -12,6 +12,11 @@ Formulaire::~Formulaire() {
         vue->adieu();
 }
 
+void Formulaire::montrer() {
+    visible = true;
+    modifie(ChampFormulaire::Montre);
+}
+
 Controle& Formulaire::ajouter(Genre genre, std::string_view nomducontrole, int index) {
     controles_.push_back(
         std::make_unique<Controle>(*this, genre, std::string(nomducontrole), index));

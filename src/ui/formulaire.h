@@ -20,6 +20,7 @@ enum class ChampFormulaire : std::uint8_t {
     Fond,
     Pointeur,
     Visible,
+    Montre,  ///< asked for, shown already or not
     Devant,
     Largeur,
     Hauteur,
@@ -75,6 +76,9 @@ class Formulaire : public Observe<ChampFormulaire> {
     Evenement<> fermeture;
     /// Another window has come in front.
     Evenement<> desactivation;
+
+    /// Shows the form, or brings it back in front of the others if it is shown.
+    void montrer();
 
     /// Makes a control. Those made later lie in front.
     Controle& ajouter(Genre genre, std::string_view nomducontrole, int index = -1);

@@ -20,7 +20,9 @@ class Bureau::Place : public ui::VueFormulaire {
     void modifie(ui::ChampFormulaire champ) override {
         if (fenetre_ != nullptr)
             fenetre_->modifie(champ);
-        if (champ == ui::ChampFormulaire::Visible && formulaire_.visible())
+        const bool montre =
+            champ == ui::ChampFormulaire::Visible || champ == ui::ChampFormulaire::Montre;
+        if (montre && formulaire_.visible())
             bureau_.activer(formulaire_);
     }
     void adieu() override {

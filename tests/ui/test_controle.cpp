@@ -13,6 +13,13 @@ class Vue : public ui::VueControle {
     std::vector<ui::Champ> champs;
 };
 
+class VueDeForme : public ui::VueFormulaire {
+  public:
+    void modifie(ui::ChampFormulaire champ) override { champs.push_back(champ); }
+    void adieu() override {}
+    std::vector<ui::ChampFormulaire> champs;
+};
+
 class Controle : public testing::Test {
   protected:
     Controle() { boite.vue = &vue; }
@@ -159,6 +166,18 @@ TEST_F(Controle, la_case_de_fermeture_cache_le_formulaire_ou_fait_ce_qui_est_dit
     form.fermer();
     EXPECT_TRUE(form.visible());
     EXPECT_THAT(form.journal(), ElementsAre("fermeture"));
+}
+
+TEST_F(Controle, un_formulaire_deja_montre_que_l_on_montre_encore_previent_sa_vue) {
+    VueDeForme surveillant;
+    form.vue = &surveillant;
+    form.montrer();
+    EXPECT_TRUE(form.visible());
+    EXPECT_THAT(std::exchange(surveillant.champs, {}),
+                ElementsAre(ui::ChampFormulaire::Visible, ui::ChampFormulaire::Montre));
+    form.montrer();
+    EXPECT_THAT(surveillant.champs, ElementsAre(ui::ChampFormulaire::Montre));
+    form.vue = nullptr;
 }
 
 TEST_F(Controle, une_minuterie_ne_dit_que_ses_departs_et_ses_arrets) {

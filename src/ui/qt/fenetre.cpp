@@ -132,6 +132,7 @@ void Fenetre::adieu() {
 
 void Fenetre::noter(Vue& vue) {
     notees_.push_back(&vue);
+    appelee_ = appelee_ || champ == ChampFormulaire::Montre;
     fenetrier_.demanderrafraichissement();
 }
 
@@ -248,6 +249,9 @@ void Fenetre::apparaitre() {
         if (voisine != nullptr && voisine != this && windowHandle() != nullptr)
             windowHandle()->setTransientParent(voisine->windowHandle());
     }
+    const bool appelee = std::exchange(appelee_, false);
+    if (formulaire_->visible() && isVisible() && appelee)
+        revenir();
     // A window that follows another comes up dressed. The first one, for which somebody waits, is
     // dressed while the desktop finds it its place, and painted no earlier either.
     if (voisine != nullptr)
@@ -267,6 +271,13 @@ void Fenetre::accorder() {
     accorderdefaut();
     deroulant_->accorder();
 }
+void Fenetre::revenir() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    fenetrier_.garderdevant(*this);
+    activateWindow();
+}
+
 
 void Fenetre::accorderdefaut() {
     if (formulaire_->defaut() == defaut_)

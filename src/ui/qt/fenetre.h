@@ -74,6 +74,8 @@ class Fenetre : public QWidget, public VueFormulaire {
     void completer();
     void filtrer(QWidget& widget, Controle& controle);
     void montrerformulaire();
+    /// A window that is shown already comes back in front.
+    void revenir();
     void dimensionner();
     void redimensionner();
     void prendretaille(const QRect& place);
@@ -115,6 +117,7 @@ class Fenetre : public QWidget, public VueFormulaire {
     double voulue_ = 0;                 ///< pixels a twip: scale that the user wants to see
     unsigned champs_ = ~0U;
     bool dimensionnee_ = false;
+    bool appelee_ = false;   ///< the form was asked for
     bool attendue_ = false;  ///< the window will take the size of its design when it isn't enlarged
     bool accord_ = false;    ///< the focus of Qt is being put where the model has it
     bool active_ = false;

@@ -123,6 +123,10 @@ void Fenetrier::tour() {
 
 void Fenetrier::activee(Fenetre& fenetre) {
     derniere_ = &fenetre;
+    garderdevant(fenetre);
+}
+
+void Fenetrier::garderdevant(const Fenetre& fenetre) {
     for (auto* autre : fenetres_) {
         if (autre != &fenetre && autre->isVisible() && autre->formulaire().devant())
             autre->raise();

@@ -63,6 +63,8 @@ class Fenetrier : public QObject {
     // Told by the windows.
     void demanderrafraichissement();
     void activee(Fenetre& fenetre);
+    /// A window has come in front of the others, but for those of forms that stay there.
+    void garderdevant(const Fenetre& fenetre);
     /// A window is on screen: the program's icon, whose files take their time, may follow.
     void peinte();
     void oublier(Fenetre& fenetre, const Formulaire& formulaire);

@@ -164,6 +164,38 @@ TEST_F(Fenetres, une_forme_cachee_puis_montree_dans_le_meme_evenement_ne_bouge_p
     EXPECT_TRUE(fenetre().isVisible());
 }
 
+TEST_F(Fenetres, une_forme_deja_montree_que_l_on_montre_revient_devant) {
+    ui::Formulaire autre(plateforme, "Dialog1");
+    autre.largeur = 200 * twips;
+    autre.hauteur = 100 * twips;
+    fenetrier->accueillir(autre);
+    montrer(autre);
+    ASSERT_FALSE(fenetre().isActiveWindow());
+    fenetrier->executer([this] { forme->visible = true; });
+    laisser();
+    EXPECT_FALSE(fenetre().isActiveWindow());
+    fenetrier->executer([this] { forme->montrer(); });
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
+}
+
+TEST_F(Fenetres, une_forme_reduite_en_icone_que_l_on_montre_se_deplie) {
+    fenetre().showMinimized();
+    laisser();
+    ASSERT_TRUE(fenetre().isMinimized());
+    fenetrier->executer([this] { forme->montrer(); });
+    EXPECT_FALSE(fenetre().isMinimized());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
+    EXPECT_EQ(fenetre().size(), QSize(600, 400));
+}
+
+TEST_F(Fenetres, montrer_une_forme_cachee_la_montre) {
+    fenetrier->executer([this] { forme->visible = false; });
+    EXPECT_FALSE(fenetre().isVisible());
+    fenetrier->executer([this] { forme->montrer(); });
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
+    EXPECT_TRUE(forme->visible());
+}
+
 TEST_F(Fenetres, une_forme_dechargee_pendant_son_propre_evenement_s_en_va_sans_dommage) {
     const QPointer<ui::qt::Fenetre> vue = &fenetre();
     auto* bouton = &widget(*valider);
