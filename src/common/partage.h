@@ -19,14 +19,17 @@ inline constexpr std::string_view partie;
 /// Content of `typ` in the panel of the extensions.
 inline constexpr std::string_view typrallonges = "rallong";
 
+/// The name of the colour that stands for every unknown name.
+inline constexpr std::string_view couleurpardefaut = "Par défaut";
+
 /// Public variables of `Form3` (the menu).
 struct VariablesForm3 {
-    std::string util;                          ///< user name, and the name of the user's folder
-    std::string toue;                          ///< kind of run, one of `modes`
-    std::string typ;                           ///< `typrallonges` or empty
-    std::string nombase;                       ///< title of the list
-    bool persomulti = false;                   ///< the personal list has several solutions
-    std::string couleurdufond = "Par défaut";  ///< name of the background colour
+    std::string util;                             ///< user name, and the name of the user's folder
+    std::string toue;                             ///< kind of run, one of `modes`
+    std::string typ;                              ///< `typrallonges` or empty
+    std::string nombase;                          ///< title of the list
+    bool persomulti = false;                      ///< the personal list has several solutions
+    std::string couleurdufond{couleurpardefaut};  ///< name of the background colour
     std::string versionlocale;
     std::string dateversion;
 };

@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "partage.h"
 #include "valeurs.h"
 
 namespace profiles {
@@ -14,8 +15,7 @@ struct Couleurdufond {
     ui::Couleur couleur;
 };
 
-/// The name of the colour that stands for every unknown name.
-inline constexpr std::string_view couleurpardefaut = "Par défaut";
+using common::couleurpardefaut;
 
 /// The colours, in the order in which they are offered.
 [[nodiscard]] std::span<const Couleurdufond> couleursdufond();

@@ -120,7 +120,7 @@ void Formserie::habillerboites() {
     }
 }
 
-void Formserie::habillerpanneaux() {
+void Formserie::ecriretextes() {
     const std::array<std::pair<ui::Controle*, std::string_view>, 18> textes = {{
         {&Label5, "Eliminer un mot après "},
         {&seuiltxt, "1"},
@@ -143,6 +143,10 @@ void Formserie::habillerpanneaux() {
     }};
     for (const auto& [controle, texteinitial] : textes)
         controle->texte = std::string(texteinitial);
+}
+
+void Formserie::habillerpanneaux() {
+    ecriretextes();
     seuiltxt.accessible = "Seuil d'élimination";
     motsleft.accessible = "Tirages restants";
     recherche.accessible = "Ligne de saisie";

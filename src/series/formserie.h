@@ -208,6 +208,7 @@ class Formserie : public ui::Formulaire {
     std::vector<ui::Controle*> rangerde(ui::Genre genre, std::string_view nomcommun, int nombre,
                                         int premier = 0);
     void habillerboites();
+    void ecriretextes();
     void habillerpanneaux();
     void brancher();
     /// The racks and the answer boxes in use.

@@ -26,6 +26,7 @@ Controle::Controle(Formulaire& formulaire, Genre genre, std::string nom, int ind
       formulaire_(formulaire),
       nom_(std::move(nom)),
       index_(index),
+      plan_(formulaire.plan()),
       genre_(genre) {
     if (genre == Genre::Boite || genre == Genre::Liste)
         fond = Couleur::fenetre();
@@ -40,6 +41,11 @@ void Controle::placer(const Cadrage& cadre) {
     haut = cadre.haut;
     largeur = cadre.largeur;
     hauteur = cadre.hauteur;
+}
+
+void Controle::premierplan() {
+    plan_ = formulaire_.nouveauplan();
+    notifier(Champ::PremierPlan);
 }
 
 void Controle::modifie(Champ champ) {

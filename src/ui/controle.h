@@ -137,7 +137,10 @@ class Controle : public Observe<Champ> {
 
     void placer(const Cadrage& cadre);
     /// Brings the control in front of the others.
-    void premierplan() { notifier(Champ::PremierPlan); }
+    void premierplan();
+    /// Controls of a higher number lie in front of those of a lower one; among those of one number,
+    /// the later made in front.
+    [[nodiscard]] int plan() const { return plan_; }
 
     Evenement<> clic;
     Evenement<> doubleclic;
@@ -182,6 +185,7 @@ class Controle : public Observe<Champ> {
     std::size_t curseur_ = 0;
     std::size_t ancre_ = 0;
     int index_;
+    int plan_;
     Genre genre_;
     bool saisie_ = false;  ///< the text is being written by an edit that sets the caret itself
 };

@@ -96,6 +96,11 @@ class Formulaire : public Observe<ChampFormulaire> {
         return minuteries_;
     }
 
+    /// How often a control was brought to the front: the `plan` of the one in front.
+    [[nodiscard]] int plan() const { return plan_; }
+    /// For a control that comes to the front.
+    [[nodiscard]] int nouveauplan() { return ++plan_; }
+
     /// The controls that Tab goes through, in order.
     void tabulation(std::vector<Controle*> ordre) { ordre_ = std::move(ordre); }
     [[nodiscard]] const std::vector<Controle*>& tabulation() const { return ordre_; }
@@ -162,6 +167,7 @@ class Formulaire : public Observe<ChampFormulaire> {
     Controle* repere_ = nullptr;  ///< where Tab goes on from when nobody has the focus
     Controle* defaut_ = nullptr;
     Menu* menuouvert_ = nullptr;
+    int plan_ = 0;
 };
 
 }  // namespace ui

@@ -180,6 +180,17 @@ TEST_F(Controle, un_formulaire_deja_montre_que_l_on_montre_encore_previent_sa_vu
     form.vue = nullptr;
 }
 
+TEST_F(Controle, le_premier_plan_passe_devant_tous_et_derriere_ceux_qui_viennent_apres) {
+    EXPECT_EQ(form.boite(1).plan(), form.boite(0).plan());
+    boite.premierplan();
+    EXPECT_GT(boite.plan(), form.score().plan());
+    EXPECT_THAT(vue.champs, ElementsAre(ui::Champ::PremierPlan));
+    const auto& nouveau = form.ajouter(ui::Genre::Bouton, "nouveau");
+    EXPECT_EQ(nouveau.plan(), boite.plan());
+    form.score().premierplan();
+    EXPECT_GT(form.score().plan(), nouveau.plan());
+}
+
 TEST_F(Controle, une_minuterie_ne_dit_que_ses_departs_et_ses_arrets) {
     auto& minuterie = form.ajouterminuterie("Timer1");
     int changements = 0;

@@ -1,6 +1,7 @@
 #include "fenetre.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <QCloseEvent>
@@ -80,6 +81,22 @@ void Fenetre::completer() {
         filtrer(vue->widget(), controle);
         vue->appliquer();
     }
+    empiler();
+}
+
+/// Raises what has come to the front since the last time, and what was made after it.
+void Fenetre::empiler() {
+    if (plan_ == formulaire_->plan())
+        return;
+    std::vector<Vue*> montees;
+    std::copy_if(vues_.begin(), vues_.end(), std::back_inserter(montees),
+                 [this](const Vue* vue) { return vue->controle()->plan() > plan_; });
+    std::stable_sort(montees.begin(), montees.end(), [](const Vue* a, const Vue* b) {
+        return a->controle()->plan() < b->controle()->plan();
+    });
+    for (auto* vue : montees)
+        vue->widget().raise();
+    plan_ = formulaire_->plan();
 }
 
 void Fenetre::filtrer(QWidget& widget, Controle& controle) {
@@ -115,6 +132,7 @@ void Fenetre::executer(const std::function<void()>& evenement) {
 
 void Fenetre::modifie(ChampFormulaire champ) {
     champs_ |= bit(champ);
+    appelee_ = appelee_ || champ == ChampFormulaire::Montre;
     fenetrier_.demanderrafraichissement();
 }
 
@@ -124,7 +142,6 @@ void Fenetre::adieu() {
     const auto* partant = std::exchange(formulaire_, nullptr);
     deroulant_->accorder();
     notees_.clear();
-    relevees_.clear();
     hide();
     fenetrier_.oublier(*this, *partant);
     deleteLater();
@@ -132,12 +149,7 @@ void Fenetre::adieu() {
 
 void Fenetre::noter(Vue& vue) {
     notees_.push_back(&vue);
-    appelee_ = appelee_ || champ == ChampFormulaire::Montre;
     fenetrier_.demanderrafraichissement();
-}
-
-void Fenetre::relever(Vue& vue) {
-    relevees_.push_back(&vue);
 }
 
 void Fenetre::montrercontroles() {
@@ -145,8 +157,6 @@ void Fenetre::montrercontroles() {
     lacherfocus();
     for (auto* vue : std::exchange(notees_, {}))
         vue->appliquer();
-    for (auto* vue : std::exchange(relevees_, {}))
-        vue->widget().raise();
     montrerformulaire();
 }
 
@@ -239,6 +249,9 @@ void Fenetre::remettreechelle() {
 }
 
 void Fenetre::apparaitre() {
+    const bool appelee = std::exchange(appelee_, false);
+    if (formulaire_->visible() && isVisible() && appelee)
+        revenir();
     if (!formulaire_->visible() || isVisible())
         return;
     if (!dimensionnee_)
@@ -249,9 +262,6 @@ void Fenetre::apparaitre() {
         if (voisine != nullptr && voisine != this && windowHandle() != nullptr)
             windowHandle()->setTransientParent(voisine->windowHandle());
     }
-    const bool appelee = std::exchange(appelee_, false);
-    if (formulaire_->visible() && isVisible() && appelee)
-        revenir();
     // A window that follows another comes up dressed. The first one, for which somebody waits, is
     // dressed while the desktop finds it its place, and painted no earlier either.
     if (voisine != nullptr)
@@ -259,6 +269,13 @@ void Fenetre::apparaitre() {
     show();
     activateWindow();
     completer();
+}
+
+void Fenetre::revenir() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    fenetrier_.garderdevant(*this);
+    activateWindow();
 }
 
 void Fenetre::disparaitre() {
@@ -271,13 +288,6 @@ void Fenetre::accorder() {
     accorderdefaut();
     deroulant_->accorder();
 }
-void Fenetre::revenir() {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    fenetrier_.garderdevant(*this);
-    activateWindow();
-}
-
 
 void Fenetre::accorderdefaut() {
     if (formulaire_->defaut() == defaut_)

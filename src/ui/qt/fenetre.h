@@ -49,9 +49,8 @@ class Fenetre : public QWidget, public VueFormulaire {
     void modifie(ChampFormulaire champ) override;
     void adieu() override;
 
-    // Asked by the views.
+    /// Told by a view that is to be brought to its control.
     void noter(Vue& vue);
-    void relever(Vue& vue);
 
     // The steps of a refresh, in this order, over all windows.
     void montrercontroles();
@@ -72,6 +71,7 @@ class Fenetre : public QWidget, public VueFormulaire {
 
   private:
     void completer();
+    void empiler();
     void filtrer(QWidget& widget, Controle& controle);
     void montrerformulaire();
     /// A window that is shown already comes back in front.
@@ -105,12 +105,12 @@ class Fenetre : public QWidget, public VueFormulaire {
     Echelle echelle_;
     std::vector<Vue*> vues_;  ///< in the order of the form's controls; the widgets are owned by Qt
     std::vector<Vue*> notees_;
-    std::vector<Vue*> relevees_;
     std::unordered_map<const Controle*, Vue*> parcontrole_;
     std::unordered_map<const QObject*, Controle*> parwidget_;
     std::unique_ptr<MenuContextuel> deroulant_;
     const Controle* defaut_ = nullptr;  ///< default button, as drawn
     const Controle* focus_ = nullptr;   ///< control with the focus, as drawn
+    int plan_ = 0;                      ///< up to which the views lie as their controls do
     std::size_t entrees_ = 0;           ///< controls without a widget: entries of menus
     QSize design_;                      ///< twips, at the last fitting
     QSize demandee_;                    ///< size that the window gave itself; empty: the user's own

@@ -49,8 +49,6 @@ void Vue::detacher() {
 }
 
 void Vue::modifie(Champ champ) {
-    if (champ == Champ::PremierPlan)
-        fenetre_.relever(*this);
     champs_ |= ensemble(champ);
     if (!std::exchange(notee_, true))
         fenetre_.noter(*this);

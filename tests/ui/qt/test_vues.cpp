@@ -184,6 +184,70 @@ TEST_F(Vues, un_controle_mis_au_premier_plan_couvre_les_autres) {
     EXPECT_EQ(fenetre().childAt(180 + 75, 50 + 20), &widget(*solution[0]));
 }
 
+/// A form whose controls all lie in one place, named in the order in which they are made.
+class Piles : public BureauQt {
+  protected:
+    Piles() {
+        pile.largeur = 300 * twips;
+        pile.hauteur = 200 * twips;
+        for (int i = 0; i < 3; ++i)
+            empiler();
+        fenetrier->accueillir(pile);
+    }
+    ui::Controle& empiler() {
+        const auto rang = static_cast<int>(pile.controles().size());
+        auto& controle = pile.ajouter(ui::Genre::Bouton, "Command1", rang);
+        controle.placer({0, 0, 300 * twips, 200 * twips});
+        return controle;
+    }
+    [[nodiscard]] ui::Controle& controle(std::size_t i) const { return *pile.controles()[i]; }
+    /// The indexes of the controls, as they lie, the one in front first.
+    std::vector<int> ordre() {
+        fenetrier->rafraichir();
+        std::vector<int> lus;
+        const auto& enfants = fenetrier->fenetre(pile)->children();
+        for (auto enfant = enfants.rbegin(); enfant != enfants.rend(); ++enfant) {
+            for (const auto& controle : pile.controles()) {
+                if (fenetrier->widget(*controle) == *enfant)
+                    lus.push_back(controle->index());
+            }
+        }
+        return lus;
+    }
+
+    ui::Formulaire pile{plateforme, "Form2"};
+};
+
+TEST_F(Piles, les_controles_faits_plus_tard_couvrent_les_autres) {
+    montrer(pile);
+    EXPECT_EQ(ordre(), (std::vector{2, 1, 0}));
+    empiler();
+    EXPECT_EQ(ordre(), (std::vector{3, 2, 1, 0}));
+}
+
+TEST_F(Piles, un_premier_plan_demande_avant_la_fenetre_vaut_quand_elle_se_montre) {
+    controle(1).premierplan();
+    controle(0).premierplan();
+    EXPECT_EQ(ordre(), std::vector<int>{});
+    montrer(pile);
+    EXPECT_EQ(ordre(), (std::vector{0, 1, 2}));
+    controle(2).premierplan();
+    EXPECT_EQ(ordre(), (std::vector{2, 0, 1}));
+}
+
+TEST_F(Piles, un_controle_fait_apres_un_premier_plan_le_couvre) {
+    controle(0).premierplan();
+    empiler();
+    montrer(pile);
+    EXPECT_EQ(ordre(), (std::vector{3, 0, 2, 1}));
+    controle(1).premierplan();
+    empiler();
+    EXPECT_EQ(ordre(), (std::vector{4, 1, 3, 0, 2}));
+    empiler();
+    controle(2).premierplan();
+    EXPECT_EQ(ordre(), (std::vector{2, 5, 4, 1, 3, 0}));
+}
+
 TEST_F(Vues, un_controle_ajoute_apres_l_accueil_recoit_sa_vue) {
     auto& tardif = poser(ui::Genre::Bouton, "Command9", -1, {480, 50, 100, 40});
     tardif.texte = "Plus tard";
