@@ -66,7 +66,6 @@ enum class Aspect : std::uint8_t {
     Case,       ///< box of a rack or of an answer
     Horloge,    ///< clock or counter
     Principal,  ///< the button that a player looks for first
-    Discret,
     Titre
 };
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QPainter>
 #include <QSignalBlocker>

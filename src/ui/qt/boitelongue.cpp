@@ -3,8 +3,6 @@
 #include <cmath>
 #include <string>
 
-#include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QPainter>
 #include <QScrollBar>

@@ -63,11 +63,9 @@ void Bouton::paintEvent(QPaintEvent* /*evenement*/) {
         peindretuile(peintre);
         return;
     }
-    const auto aspect = controle()->aspect();
-    const bool libre = controle()->fond() == Couleur::bouton();
-    const auto genre = aspect == Aspect::Principal && libre ? dessin::Bouton::Principal
-                       : aspect == Aspect::Discret && libre ? dessin::Bouton::Discret
-                                                            : dessin::Bouton::Courant;
+    const bool principal =
+        controle()->aspect() == Aspect::Principal && controle()->fond() == Couleur::bouton();
+    const auto genre = principal ? dessin::Bouton::Principal : dessin::Bouton::Courant;
     const auto encre =
         dessin::bouton(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()), genre,
                        etat(), encreqt(controle()->couleur()));

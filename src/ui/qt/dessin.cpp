@@ -96,21 +96,14 @@ QColor bouton(QPainter& peintre, const QRectF& place, double unite, const QColor
         std::min(rayonbouton * unite, .3 * std::min(place.width(), place.height()));
     const auto v = visage(face, genre, etat);
     const auto corps = place.adjusted(0, 0, 0, -fin);
-    const bool plat = genre == Bouton::Discret && !etat.survole && !etat.enfonce;
-    if (etat.actif && !etat.enfonce && !plat)
+    if (etat.actif && !etat.enfonce)
         arrondi(peintre, corps.translated(0, fin), rayon, voile(noir, .16));
     QLinearGradient degrade(corps.topLeft(), corps.bottomLeft());
-    degrade.setColorAt(0, plat ? voile(blanc, .35) : v.haut);
-    degrade.setColorAt(1, plat ? voile(blanc, .2) : v.bas);
+    degrade.setColorAt(0, v.haut);
+    degrade.setColorAt(1, v.bas);
     const bool marque = etat.defaut && etat.actif && genre != Bouton::Principal;
     const double bord = marque ? 2 * fin : fin;
-    if (plat) {
-        arrondi(peintre, corps, rayon, degrade);
-        contour(peintre, corps, rayon, v.bord, bord);
-    } else {
-        borde(peintre, corps, rayon, degrade, marque ? QColor::fromRgb(teintes::accent) : v.bord,
-              bord);
-    }
+    borde(peintre, corps, rayon, degrade, marque ? QColor::fromRgb(teintes::accent) : v.bord, bord);
     if (etat.focus)
         anneau(peintre, corps, unite, rayon / unite);
     if (!etat.actif)

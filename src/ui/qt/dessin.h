@@ -19,7 +19,7 @@ struct Etat {
     bool focus = false;
 };
 
-enum class Bouton { Courant, Principal, Discret };
+enum class Bouton { Courant, Principal };
 
 /// Draws a button and returns the colour for its text, given the colour asked for.
 QColor bouton(QPainter& peintre, const QRectF& place, double unite, const QColor& face,

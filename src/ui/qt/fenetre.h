@@ -5,7 +5,6 @@
 #include <unordered_map>
 #include <vector>
 
-#include <QPointer>
 #include <QWidget>
 
 #include "echelle.h"

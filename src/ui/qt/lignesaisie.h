@@ -30,7 +30,6 @@ class LigneSaisie {
     /// Where the caret stands.
     [[nodiscard]] QRectF curseur(double epaisseur) const;
     void peindre(QPainter& peintre, const QColor& encre, bool avecselection) const;
-    [[nodiscard]] const QFont& fonte() const { return fonte_; }
 
   private:
     [[nodiscard]] double largeur(int unites) const;

@@ -27,12 +27,4 @@ namespace ui::qt {
     return place;
 }
 
-/// Position, in characters, of a place in a text of Qt.
-[[nodiscard]] inline std::size_t placemodele(const QString& texte, int place) {
-    std::size_t position = 0;
-    for (int i = 0; i < place; ++i)
-        position += texte.at(i).isLowSurrogate() ? 0U : 1U;
-    return position;
-}
-
 }  // namespace ui::qt
