@@ -16,9 +16,8 @@ namespace ui::qt {
 namespace {
 
 constexpr std::int64_t millisecondes = 1000;
-constexpr int marge = 500;    // milliseconds that a device may take to start and to drain
-constexpr int vidange = 200;  // milliseconds
-constexpr std::int64_t dureelimite = 20'000;
+constexpr int marge = 500;             // milliseconds that a device may take to start and to drain
+constexpr int vidange = 200;           // milliseconds
 constexpr qsizetype tailleentete = 8;  // of a chunk: its name and its length
 
 template <class T>

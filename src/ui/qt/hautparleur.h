@@ -24,8 +24,12 @@ struct Onde {
 /// Reads the bytes of a wave file of plain samples; nothing if they are none.
 [[nodiscard]] std::optional<Onde> lireonde(const QByteArray& octets);
 
-/// Plays a wave file to its end, in the middle of an event. Silent, at once, without such a file
-/// or without a device; a device that sticks holds the program up by half a second at the most.
+/// Milliseconds after which a sound is cut.
+inline constexpr std::int64_t dureelimite = 20'000;
+
+/// Plays a wave file to its end, or to that limit, in the middle of an event. Silent, at once,
+/// without such a file or without a device; a device that sticks holds the program up by half a
+/// second at the most.
 void jouer(Minuteur& minuteur, const QString& chemin);
 
 }  // namespace ui::qt
