@@ -8,8 +8,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPainter>
@@ -19,6 +17,7 @@
 #include <QWindow>
 #include <QtTest/QTest>
 
+#include "accordqt.h"
 #include "ecranqt.h"
 #include "fenetre.h"
 #include "messages.h"
@@ -313,42 +312,17 @@ std::string PiloteQt::poser() {
 
 std::string PiloteQt::desaccord(const ui::Formulaire& formulaire) {
     const auto* cadre = fenetrier_.fenetre(formulaire);
-    if (cadre == nullptr)
-        return "pas de fenêtre";
-    if (cadre->isVisible() != formulaire.visible())
-        return "fenêtre visible";
-    if (cadre->windowTitle() != versqt(formulaire.texte()))
-        return "titre";
-    const auto* focus = formulaire.focus();
-    const QWidget* voulu = focus == nullptr ? cadre : fenetrier_.widget(*focus);
-    const auto* lu = cadre->focusWidget();
-    if (cadre->isVisible() && lu != voulu && (lu != nullptr || focus != nullptr))
-        return "focus sur " + (lu == nullptr ? "personne" : lu->objectName().toStdString());
-    return {};
+    return cadre == nullptr ? "pas de fenêtre" : banc::desaccord(formulaire, *cadre);
 }
 
 std::string PiloteQt::desaccord(const ui::Controle& controle) {
+    const auto& cadre = *fenetrier_.fenetre(controle.formulaire());
     const auto* widget = fenetrier_.widget(controle);
     if (controle.genre() == ui::Genre::Entree)
         return {};
     if (widget == nullptr)
-        return fenetrier_.fenetre(controle.formulaire())->habillee() ? "pas de widget" : "";
-    if (widget->isHidden() == controle.visible())
-        return "visible";
-    if (widget->isEnabled() != controle.actif())
-        return "actif";
-    const auto texte = versqt(controle.texte());
-    const auto* ligne = qobject_cast<const QLineEdit*>(widget);
-    const auto* etiquette = qobject_cast<const QLabel*>(widget);
-    const bool lisible = controle.genre() == ui::Genre::Etiquette && etiquette != nullptr;
-    if ((ligne != nullptr && ligne->text() != texte) || (lisible && etiquette->text() != texte))
-        return "texte";
-    if (ligne != nullptr && ligne->isReadOnly() != controle.verrou())
-        return "verrou";
-    const auto* bouton = qobject_cast<const QAbstractButton*>(widget);
-    if (bouton != nullptr && bouton->isChecked() != controle.coche())
-        return "coche";
-    return {};
+        return cadre.habillee() ? "pas de widget" : "";
+    return banc::desaccord(controle, cadre, *widget);
 }
 
 }  // namespace banc
