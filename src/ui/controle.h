@@ -194,6 +194,9 @@ class Controle : public Observe<Champ> {
 class Minuterie final : public Observe<bool> {
   public:
     explicit Minuterie(std::string nom) : nom_(std::move(nom)) {}
+    Minuterie(const Minuterie&) = delete;
+    Minuterie& operator=(const Minuterie&) = delete;
+    virtual ~Minuterie() = default;
     [[nodiscard]] const std::string& nom() const { return nom_; }
     Propriete<bool, bool> actif{*this, true, false};
     Evenement<> tic;

@@ -174,14 +174,14 @@ TEST_F(Vues, le_pointeur_suit_le_controle_et_l_attente_de_la_forme) {
 TEST_F(Vues, un_controle_mis_au_premier_plan_couvre_les_autres) {
     cadre->placer({180 * twips, 50 * twips, 150 * twips, 40 * twips});
     fenetrier->rafraichir();
-    const QPoint milieu(75, 20);
-    EXPECT_EQ(fenetre().childAt(180 + 75, 50 + 20), &widget(*solution[0]));
+    const QPoint milieu(180 + 75, 50 + 20);
+    EXPECT_EQ(fenetre().childAt(milieu), &widget(*solution[0]));
     cadre->premierplan();
     fenetrier->rafraichir();
-    EXPECT_EQ(fenetre().childAt(180 + 75, 50 + 20), &widget(*cadre));
+    EXPECT_EQ(fenetre().childAt(milieu), &widget(*cadre));
     solution[0]->premierplan();
     fenetrier->rafraichir();
-    EXPECT_EQ(fenetre().childAt(180 + 75, 50 + 20), &widget(*solution[0]));
+    EXPECT_EQ(fenetre().childAt(milieu), &widget(*solution[0]));
 }
 
 /// A form whose controls all lie in one place, named in the order in which they are made.
