@@ -239,6 +239,7 @@ TEST(Revisions, une_rangee_ajoutee_pendant_qu_un_autre_programme_en_ote_reste) {
         }
     });
     std::vector<std::string> attendues;
+    attendues.reserve(nbrangees);
     for (int i = 0; i < nbrangees; ++i)
         attendues.push_back("A;" + std::to_string(i));
     std::vector<std::string> lues;
