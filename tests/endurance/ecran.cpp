@@ -11,6 +11,7 @@ constexpr std::array marques{"Image1", "Image2",       "Image3",       "Image4",
 
 std::vector<Boite> boites(const std::vector<const ui::Controle*>& rang) {
     std::vector<Boite> lues;
+    lues.reserve(rang.size());
     for (const auto* c : rang)
         lues.push_back({c->texte(), c->fond(), c->verrou(), c->visible()});
     return lues;

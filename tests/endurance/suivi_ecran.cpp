@@ -106,8 +106,12 @@ void Suivi::verifierouverte(const Moment& moment, Constats& constats) const {
         const auto& texte = apres.tirage[i].texte;
         const auto* sienne = rangee(static_cast<int>(i));
         const auto rack = sienne == nullptr ? std::string() : sienne->tirage;
-        constats.exiger(texte == rack || tirede(texte, net(rack)),
-                        numerote("tirage", i) + " : lu « " + texte + " », de « " + rack + " »");
+        constats.exiger(texte == rack || tirede(texte, net(rack)), numerote("tirage", i)
+                                                                       .append(" : lu « ")
+                                                                       .append(texte)
+                                                                       .append(" », de « ")
+                                                                       .append(rack)
+                                                                       .append(" »"));
     }
     int changees = 0;
     for (std::size_t i = 0; i < apres.solution.size(); ++i) {
