@@ -107,7 +107,8 @@ void Form2::charger() {
     const bool connus = !lus.noms.empty();
     user_.choix = std::move(lus.noms);
     if (erreur || !connus) {
-        donnerfocus(user_);
+        // Whoever types at once does not type into the text of the prompt; Enter goes on.
+        donnerfocus(nouveau_);
         return;
     }
     user_.texte = lus.derniereligne;

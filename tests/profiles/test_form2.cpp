@@ -54,7 +54,7 @@ TEST_F(Form2, premier_lancement) {
     EXPECT_EQ(texte("user"), "Saisissez votre nom d'utilisateur");
     EXPECT_TRUE(controle("user").choix().empty());
     EXPECT_FALSE(controle("Command1").actif());
-    EXPECT_EQ(form->focus(), &controle("user"));
+    EXPECT_EQ(form->focus(), &controle("Command2"));
 }
 
 struct Depart {
@@ -122,7 +122,7 @@ TEST_F(Form2, un_fichier_de_lignes_vides_vaut_un_premier_lancement) {
     EXPECT_TRUE(controle("user").choix().empty());
     EXPECT_EQ(texte("user"), "Saisissez votre nom d'utilisateur");
     EXPECT_FALSE(controle("Command1").actif());
-    EXPECT_EQ(form->focus(), &controle("user"));
+    EXPECT_EQ(form->focus(), &controle("Command2"));
 }
 
 TEST_F(Form2, un_fichier_vide_vaut_un_premier_lancement) {
