@@ -47,7 +47,7 @@ std::string lexique(std::size_t fois) {
 }
 
 void compterlignes(benchmark::State& etat) {
-    for (auto _ : etat) {
+    for ([[maybe_unused]] const auto tour : etat) {
         std::ptrdiff_t lignes = 0;
         for (const auto* texte : {&lexique(), &affixes(), &thesaurus()})
             lignes += std::count(texte->begin(), texte->end(), '\n');
@@ -61,7 +61,7 @@ void lirelesmots(benchmark::State& etat) {
     const Affixes regles(affixes(), ORVANE_AFFIXES);
     const Thesaurus synonymes(thesaurus(), ORVANE_THESAURUS);
     std::size_t mots = 0;
-    for (auto _ : etat) {
+    for ([[maybe_unused]] const auto tour : etat) {
         const Vocabulaire v(lirelexique(texte, "lexique", regles, synonymes), std::nullopt);
         mots = v.mots().size();
     }
@@ -75,7 +75,7 @@ BENCHMARK(lirelesmots)->Arg(1)->Arg(2)->Arg(4)->Unit(benchmark::kMillisecond);
 void fabriquertout(benchmark::State& etat) {
     const auto texte = lexique(static_cast<std::size_t>(etat.range(0)));
     std::size_t mots = 0;
-    for (auto _ : etat) {
+    for ([[maybe_unused]] const auto tour : etat) {
         const Thesaurus synonymes(thesaurus(), ORVANE_THESAURUS);
         const Affixes regles(affixes(), ORVANE_AFFIXES);
         const Vocabulaire v(lirelexique(texte, "lexique", regles, synonymes), std::nullopt);

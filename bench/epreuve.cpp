@@ -46,6 +46,7 @@ void Epreuve::garnirreferences(const Tailles& tailles) const {
 
 std::vector<std::string> Epreuve::fichierslus() const {
     std::vector<std::string> chemins;
+    chemins.reserve(referencesdescorrections.size() + 1);
     for (const auto* fichier : referencesdescorrections)
         chemins.push_back(chemin(fichier));
     chemins.push_back(chemin("Essai/rev-x.txt"));

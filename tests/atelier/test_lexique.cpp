@@ -20,6 +20,7 @@ std::vector<std::string> mots(const atelier::Lexique& lexique) {
     for (const auto& forme : lexique.formes)
         differents.insert(forme.mot);
     std::vector<std::string> textes;
+    textes.reserve(differents.size());
     for (const auto& mot : differents)
         textes.emplace_back(mot.texte());
     return textes;

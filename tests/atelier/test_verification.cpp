@@ -10,7 +10,6 @@ namespace {
 using atelier::Constat;
 using atelier::Gravite;
 using essais::DossierTemporaire;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 

@@ -62,6 +62,7 @@ std::vector<std::string> corpusentier() {
         noms.push_back(fichier.path().filename().string());
     std::sort(noms.begin(), noms.end());  // the system's order is anything
     std::vector<std::string> tous;
+    tous.reserve(noms.size());
     for (const auto& nom : noms)
         tous.push_back(corpus(nom));
     return tous;
