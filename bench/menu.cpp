@@ -28,8 +28,7 @@ void ouverture_de_huit_listes_pleines(benchmark::State& state) {
     constexpr int huitlettres = 3;
     epreuve.cliquer("Command3");
     bench::comparer(
-        state, [] {}, [&] { epreuve.cliquer("Command7", huitlettres); },
-        [&] { benchmark::DoNotOptimize(bench::lectureseche(fichiers)); }, {2, 0});
+        state, [] {}, [&] { epreuve.cliquer("Command7", huitlettres); }, fichiers, {2, 0});
 }
 BENCHMARK(ouverture_de_huit_listes_pleines)->UseManualTime()->Iterations(200);
 
@@ -58,8 +57,8 @@ void rafraichissement(benchmark::State& state) {
     epreuve.cliquer("Command7", huitlettres);
     const std::vector<std::string> fichiers{epreuve.chemin("Essai/hist.dat")};
     bench::comparer(
-        state, [] {}, [&] { epreuve.executer([&] { epreuve.voisins().menu.maj(); }); },
-        [&] { benchmark::DoNotOptimize(bench::lectureseche(fichiers)); }, {3, 0});
+        state, [] {}, [&] { epreuve.executer([&] { epreuve.voisins().menu.maj(); }); }, fichiers,
+        {3, 0});
 }
 BENCHMARK(rafraichissement)->UseManualTime()->Iterations(300)->Arg(300)->Arg(3000)->Arg(30000);
 

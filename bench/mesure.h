@@ -17,18 +17,16 @@ struct Bornes {
     double millisecondes = 0;
 };
 
-/// Times `sujet` and `reference` in turn, after `preparer`, which is not timed; shows the medians
-/// and their ratio, and reports an error where one is over its bound.
+/// Times the plain reading of `fichiers` (their bytes, in blocks, and a count of the line ends) and
+/// `sujet` in turn, after `preparer`, which is not timed; shows the medians and their ratio, and
+/// reports an error where one is over its bound.
 void comparer(benchmark::State& state, const std::function<void()>& preparer,
-              const std::function<void()>& sujet, const std::function<void()>& reference,
+              const std::function<void()>& sujet, const std::vector<std::string>& fichiers,
               const Bornes& bornes);
 
 /// Times `sujet` alone.
 void chronometrer(benchmark::State& state, const std::function<void()>& preparer,
                   const std::function<void()>& sujet, const Bornes& bornes);
-
-/// The plain reading: the bytes of files, in blocks, and how many line ends they hold.
-[[nodiscard]] std::size_t lectureseche(const std::vector<std::string>& fichiers);
 
 }  // namespace bench
 
