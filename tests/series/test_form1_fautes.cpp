@@ -22,6 +22,19 @@ class Form1fautes : public essai::Form1dessai {
                                          (ligne.empty() ? " : " : ", " + ligne + " : ")));
         EXPECT_THAT(rapport(), HasSubstr(limite));
     }
+
+    /// A sample of so many rows cannot be drawn from a list; nothing on disk changes.
+    void refuserechantillon(const std::string& lignes, std::int16_t taille,
+                            const std::string& limite) {
+        machine.ecrire(liste, lignes);
+        v.form3.toue = "E";
+        v.dialog2.nbechuni = taille;
+        const auto avant = fichiers();
+        commencer(lignes);
+        attendrefaute("", limite);
+        EXPECT_THAT(rapport(), HasSubstr(std::to_string(taille) + " mots"));
+        EXPECT_EQ(fichiers(), avant);
+    }
 };
 
 // A draw of 0 each time puts the second row of three in the third place.
@@ -54,26 +67,11 @@ TEST_F(Form1fautes, un_echantillon_de_901_mots) {
     std::string lignes;
     for (int i = 0; i < 1000; ++i)
         lignes += "AB;BA\r\n";
-    machine.ecrire(liste, lignes);
-    v.form3.toue = "E";
-    v.dialog2.nbechuni = 901;
-    const auto avant = fichiers();
-    commencer(lignes);
-    attendrefaute("", "la limite est de 900.");
-    EXPECT_THAT(rapport(), HasSubstr("901 mots"));
-    EXPECT_EQ(fichiers(), avant);
+    refuserechantillon(lignes, 901, "la limite est de 900.");
 }
 
 TEST_F(Form1fautes, un_echantillon_plus_grand_que_la_liste) {
-    const std::string lignes = "AB;BA\r\nCD;DC\r\n";
-    machine.ecrire(liste, lignes);
-    v.form3.toue = "E";
-    v.dialog2.nbechuni = 3;
-    const auto avant = fichiers();
-    commencer(lignes);
-    attendrefaute("", "la liste n'en compte que 2.");
-    EXPECT_THAT(rapport(), HasSubstr("3 mots"));
-    EXPECT_EQ(fichiers(), avant);
+    refuserechantillon("AB;BA\r\nCD;DC\r\n", 3, "la liste n'en compte que 2.");
 }
 
 /// Numbers that draw, from a list of so many rows, 30 of them from this one downwards.
