@@ -16,6 +16,9 @@ inline constexpr std::string_view revision = "R";
 inline constexpr std::string_view partie;
 }  // namespace modes
 
+/// Behind the title of a list, in `nombase`, when its revision file is worked.
+inline constexpr std::string_view titrerevision = " (révisions)";
+
 /// Content of `typ` in the panel of the extensions.
 inline constexpr std::string_view typrallonges = "rallong";
 

@@ -22,8 +22,8 @@ struct Reglages {
     std::int16_t tempsparmot = 8;
     std::int16_t nbechantillon = 5;
     std::int16_t son = 1;
-    std::optional<std::string> couleur{
-        common::couleurpardefaut};  ///< nothing: the file stops before it
+    /// Nothing: the file stops before it.
+    std::optional<std::string> couleur{common::couleurpardefaut};
     std::int16_t saisieassistee = 1;
 };
 

@@ -73,8 +73,8 @@ void Form1::marquer(int nombre) {
 
 void Form1::noter(int nombre) {
     const auto& menu = voisins_.form3;
-    const bool sansnotes =
-        menu.nombase == benjamins || menu.nombase == std::string(benjamins) + " (révisions)";
+    const bool sansnotes = menu.nombase == benjamins ||
+                           menu.nombase == std::string(benjamins).append(common::titrerevision);
     std::vector<std::string> mots;
     std::vector<int> boites;
     for (int i = 0; i < nombre && !sansnotes; ++i) {
