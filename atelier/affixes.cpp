@@ -94,6 +94,8 @@ class LecteurAffixes {
                 longs_ = mots[1] == "long";
             return;
         }
+        if (mots.coupes())
+            faute("la règle a trop de champs ; la limite est de " + std::to_string(Mots::limite));
         if (attendues_ == 0)
             ouvrirbloc(mots);
         else if (mots[1] != drapeau_)

@@ -1,5 +1,7 @@
 #include "capitales.h"
 
+#include <stdexcept>
+
 #include "texte.h"
 
 namespace atelier {
@@ -20,6 +22,11 @@ constexpr std::array accentuees{
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
 }  // namespace
+
+void Capitales::troplong(std::string_view texte) {
+    throw std::length_error("le mot « " + std::string(texte) + " » a plus de " +
+                            std::to_string(longueurmax) + " lettres");
+}
 
 std::string_view capitalesde(char32_t lettre) {
     if (lettre >= U'a' && lettre <= U'z')

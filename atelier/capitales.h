@@ -25,9 +25,12 @@ constexpr std::size_t longueurmin = 2;
 class Capitales {
   public:
     Capitales() = default;
-    /// Takes a text of at most 15 characters A to Z.
+    /// Takes a text of characters A to Z. Throws `std::length_error`, with the text, if it is
+    /// longer than a word of a board.
     explicit Capitales(std::string_view texte) {
-        std::memcpy(lettres_.data(), texte.data(), std::min(texte.size(), longueurmax));
+        if (texte.size() > longueurmax)
+            troplong(texte);
+        std::memcpy(lettres_.data(), texte.data(), texte.size());
         lettres_[longueurmax] = static_cast<char>(texte.size());
     }
 
@@ -69,6 +72,8 @@ class Capitales {
     }
 
   private:
+    [[noreturn]] static void troplong(std::string_view texte);
+
     std::array<char, longueurmax + 1> lettres_{};  // the last one is the length
 };
 

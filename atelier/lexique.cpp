@@ -115,6 +115,8 @@ class LecteurLexique {
     /// The entry of a line; nothing if the game has no use for it.
     std::optional<Entree> lireentree(std::string_view ligne) {
         const Mots mots(ligne);
+        if (mots.coupes())
+            faute("l'entrée a trop de champs ; la limite est de " + std::to_string(Mots::limite));
         const auto tete = mots[0];
         const auto barre = tete.find('/');
         Entree entree;
@@ -150,7 +152,10 @@ class LecteurLexique {
                 return false;
             if (drapeau == drapeausansforme)
                 entree.seule = false;
-            else if (entree.nombredrapeaux < entree.drapeaux.size())
+            else if (entree.nombredrapeaux == entree.drapeaux.size())
+                faute("l'entrée a trop de drapeaux ; la limite est de " +
+                      std::to_string(entree.drapeaux.size()));
+            else
                 entree.drapeaux[entree.nombredrapeaux++] = drapeau;
         }
         return true;

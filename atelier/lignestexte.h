@@ -35,6 +35,9 @@ class LignesTexte {
 /// The words of a line; a place past the last one is the empty text.
 class Mots {
   public:
+    /// Most words that are kept.
+    static constexpr std::size_t limite = 24;
+
     explicit Mots(std::string_view ligne) {
         while (nombre_ < mots_.size()) {
             const auto debut = ligne.find_first_not_of(' ');
@@ -47,15 +50,19 @@ class Mots {
                 return;
             ligne.remove_prefix(fin);
         }
+        coupes_ = ligne.find_first_not_of(' ') != std::string_view::npos;
     }
+    /// The line has words past the limit.
+    [[nodiscard]] bool coupes() const { return coupes_; }
     [[nodiscard]] std::size_t nombre() const { return nombre_; }
     [[nodiscard]] std::string_view operator[](std::size_t i) const {
         return i < nombre_ ? mots_[i] : std::string_view();
     }
 
   private:
-    std::array<std::string_view, 24> mots_{};
+    std::array<std::string_view, limite> mots_{};
     std::size_t nombre_ = 0;
+    bool coupes_ = false;
 };
 
 }  // namespace atelier

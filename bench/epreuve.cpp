@@ -76,7 +76,7 @@ void Epreuve::montrermenu() {
 }
 
 void Epreuve::cliquer(std::string_view controle, int index) {
-    executer([&] { form_->cliquer(*form_->trouver(controle, index)); });
+    executer([&] { form_->cliquer(form_->controle(controle, index)); });
 }
 
 void Epreuve::executer(const std::function<void()>& evenement) {

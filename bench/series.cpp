@@ -68,7 +68,7 @@ void touche_en_saisie_assistee(benchmark::State& state) {
     epreuve.lancer(false);
     bench::chronometrer(
         state, [&] { epreuve.touche(touches::retour); }, [&] { epreuve.taper('M'); }, {0, 1});
-    if (epreuve.form().trouver("tirage", 0)->texte() != "ABCDEFGHIJKLNO")
+    if (epreuve.form().controle("tirage", 0).texte() != "ABCDEFGHIJKLNO")
         state.SkipWithError("the key did not reach the rack");
 }
 BENCHMARK(touche_en_saisie_assistee)->UseManualTime()->Iterations(2000);

@@ -1,5 +1,6 @@
 #include "nombre.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -89,14 +90,17 @@ std::string textenombre(double nombre) {
 }
 
 std::string decimales(double nombre, int nombrededecimales) {
-    // 60 digits hold the exact value of any number whose tie could matter here.
+    // That many digits hold the exact value of any number whose tie could matter here.
+    constexpr int decimalesexactes = 60;
     std::array<char, 400> tampon{};
     const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(),
-                                     std::fabs(nombre), std::chars_format::fixed, 60);
+                                     std::fabs(nombre), std::chars_format::fixed, decimalesexactes);
     std::string texte(tampon.data(), ecrit.ptr);
-    const auto coupe = texte.find('.') + static_cast<std::size_t>(nombrededecimales) + 1;
-    const bool plus = texte[coupe] >= '5';
-    texte.resize(coupe);
+    const auto point = texte.find('.');
+    const auto gardees =
+        static_cast<std::size_t>(std::clamp(nombrededecimales, 0, decimalesexactes - 1));
+    const bool plus = texte[point + 1 + gardees] >= '5';
+    texte.resize(gardees > 0 ? point + 1 + gardees : point);
     for (auto i = texte.size(); plus && i > 0;) {
         auto& c = texte[--i];
         if (c == '.')

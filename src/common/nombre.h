@@ -28,8 +28,8 @@ namespace common {
 /// A number as text in at most 15 significant digits, without trailing zeros.
 [[nodiscard]] std::string textenombre(double nombre);
 
-/// A number with a fixed number of decimals ("#0.000" is 3, "#0.0" is 1), to the nearest on the
-/// exact decimal value of the number, a tie away from zero.
+/// A number with a fixed number of decimals ("#0.000" is 3, "#0.0" is 1; 0 to 59, none without the
+/// point), to the nearest on the exact decimal value of the number, a tie away from zero.
 [[nodiscard]] std::string decimales(double nombre, int nombrededecimales);
 
 /// A number in at least two digits, behind its sign if it is negative.

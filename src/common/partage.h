@@ -31,6 +31,7 @@ struct VariablesForm3 {
     std::string toue;                             ///< kind of run, one of `modes`
     std::string typ;                              ///< `typrallonges` or empty
     std::string nombase;                          ///< title of the list
+    std::string listerevisee;                     ///< file of the list of a revision run
     bool persomulti = false;                      ///< the personal list has several solutions
     std::string couleurdufond{couleurpardefaut};  ///< name of the background colour
     std::string versionlocale;

@@ -145,7 +145,7 @@ void Dialog2::colorerlabels() {
         controle->fond = fond();
     const auto colorer = [this](std::string_view nomdulabel, int nombre) {
         for (int i = 0; i < nombre; ++i)
-            trouver(nomdulabel, i)->fond = fond();
+            controle(nomdulabel, i).fond = fond();
     };
     colorer("Label1", nblabel1colores);
     colorer("Label2", nblabel2);

@@ -164,7 +164,7 @@ void dessinerdialog2(ui::Formulaire& form) {
     for (const int haut : {lignechrono, ligneechantillons, lignecouleur, lignemessage})
         filet(form, index++, haut - ecartsousfilet);
     for (const auto& place : places) {
-        auto& controle = *form.trouver(place.nom, place.index);
+        auto& controle = form.controle(place.nom, place.index);
         controle.placer(place.cadre);
         controle.accessible = std::string(place.nomaccessible);
     }

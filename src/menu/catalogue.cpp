@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+
+#include "tableau.h"
 
 namespace menu {
 namespace {
@@ -185,6 +188,33 @@ constexpr std::array lespanneaux{
     Panneau{"conjm", conjm, true},      Panneau{"formdif", formdif, false},
     Panneau{"rallong", rallong, false}, Panneau{"autres", autres, false},
 };
+
+/// Most rows of a panel that have a badge.
+constexpr std::size_t insignes(Insigne insigne) {
+    std::size_t plus = 0;
+    for (const auto& p : lespanneaux) {
+        const auto nombre = std::count_if(p.rangees.begin(), p.rangees.end(),
+                                          [&](const Rangee& r) { return r.insigne == insigne; });
+        plus = std::max(plus, static_cast<std::size_t>(nombre));
+    }
+    return plus;
+}
+
+constexpr bool tient() {
+    for (const auto& p : lespanneaux) {
+        const bool bon = std::all_of(p.rangees.begin(), p.rangees.end(), [](const Rangee& rangee) {
+            return rangee.parties <= nbparties && rangee.parties != 1;
+        });
+        if (!bon || p.rangees.size() > nblignes)
+            return false;
+    }
+    return true;
+}
+
+static_assert(insignes(Insigne::verbe) <= nbverbes, "a panel has more verb rows than badges");
+static_assert(insignes(Insigne::chere) <= nbcheres,
+              "a panel has more dear-letter rows than badges");
+static_assert(tient(), "a panel has more rows, or a row other parts, than the menu can show");
 
 }  // namespace
 

@@ -16,9 +16,6 @@ constexpr std::string_view datedeversion = "24/08/2019";
 /// Who the menu runs for when no name was chosen at login.
 constexpr std::string_view utilisateurdesecours = "Ferdo";
 
-constexpr int nbverbes = 5;
-constexpr int nbcheres = 8;
-
 }  // namespace
 
 Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
@@ -73,7 +70,10 @@ void Form3::maj() {
         listes[rangeepersonnelle].fichier = perso_.texte();
     Derniers derniers(listes);
     profiles::parcourirhist(plateforme().disque(), voisins_.form3.util,
-                            [&](std::string_view record) { derniers.voir(record); });
+                            [&](std::string_view record) {
+                                derniers.voir(record);
+                                return true;
+                            });
     Resultats resultats;
     for (std::size_t r = 0; r < nblignes; ++r)
         resultats.at(r) = {lignes_[r].date.texte(), lignes_[r].resultat.texte()};
@@ -124,9 +124,11 @@ void Form3::historique(std::size_t rangee) {
     profiles::parcourirhist(plateforme().disque(), voisins_.form3.util,
                             [&](std::string_view record) {
                                 if (rangee >= listes_.size())
-                                    return;
-                                if (auto ligne = lignehistorique(record, listes_[rangee]))
+                                    return false;
+                                auto ligne = lignehistorique(record, listes_[rangee]);
+                                if (ligne)
                                     lignes.push_back(std::move(*ligne));
+                                return ligne.has_value();
                             });
     voisins_.historique.ajouter(lignes);
 }

@@ -64,7 +64,7 @@ class Form3 : public ui::Formulaire {
     Controles poserentetes();
     std::vector<Ligne> poserlignes();
     Ligne poserligne(int rangee);
-    Controles poserinsignes(std::string_view nom, int combien, std::string_view image,
+    Controles poserinsignes(std::string_view nom, std::size_t combien, std::string_view image,
                             std::string_view accessible);
     Controles poserimages();
     void dresser();

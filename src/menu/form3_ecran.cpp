@@ -137,10 +137,10 @@ std::vector<Form3::Ligne> Form3::poserlignes() {
     return lignes;
 }
 
-Form3::Controles Form3::poserinsignes(std::string_view nom, int combien, std::string_view image,
-                                      std::string_view accessible) {
+Form3::Controles Form3::poserinsignes(std::string_view nom, std::size_t combien,
+                                      std::string_view image, std::string_view accessible) {
     Controles insignes;
-    for (int i = 0; i < combien; ++i) {
+    for (int i = 0; i < static_cast<int>(combien); ++i) {
         auto& insigne =
             poser(Genre::Image, nom, i, "", {colonneinsigne, 0, coteinsigne, coteinsigne});
         insigne.image = std::string(image);

@@ -37,6 +37,7 @@ void Form3::jouerrevision(std::size_t rangee) {
     auto& variables = voisins_.form3;
     variables.toue = common::modes::revision;
     variables.nombase = lignes_[rangee].nom.texte() + std::string(common::titrerevision);
+    variables.listerevisee = listes_.at(rangee).fichier;
     variables.typ = typdupanneau(panneau_);
     lancer(ecran(panneau_, rangee, variables.persomulti), preparerrevision(rangee));
 }

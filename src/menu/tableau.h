@@ -15,6 +15,9 @@ namespace menu {
 
 inline constexpr std::size_t nblignes = 8;   ///< rows of the menu
 inline constexpr std::size_t nbparties = 4;  ///< parts of a list, at most
+/// Badges of each kind: the rows of a panel that can have one.
+inline constexpr std::size_t nbverbes = 5;
+inline constexpr std::size_t nbcheres = nblignes;
 /// The panel whose last row is the user's own list, and that row.
 inline constexpr std::string_view panneaupersonnel = "autres";
 inline constexpr std::size_t rangeepersonnelle = 7;

@@ -14,9 +14,7 @@ namespace multi {
 void Multi::corrigerserie() {
     arreterserie();
     fermersaisie();
-    const int courant = placede(derniereboite_);
-    if (rangee(courant) >= 0)
-        tirage[static_cast<std::size_t>(courant)]->texte = tiragedelarangee(courant);
+    rendretirages();
     const int nombre = nombredelaserie();
     const int justes = jugertirages(nombre);
     fautesaffichees.texte =

@@ -72,7 +72,7 @@ int gauchedecolonne(int colonnes) {
 void Multi::disposer() {
     hauteur = hauteurfenetre;
     for (const auto& place : fixes)
-        trouver(place.nom, place.index)->placer(place.cadre);
+        controle(place.nom, place.index).placer(place.cadre);
     for (std::size_t i = 0; i < solution.size(); ++i) {
         const auto place = static_cast<int>(i) % nbtirages;
         auto cadre = boite0;
@@ -99,7 +99,7 @@ void Multi::disposercolonne() {
     for (const auto& place : decolonne) {
         auto cadre = place.cadre;
         cadre.gauche += colonne;
-        trouver(place.nom, place.index)->placer(cadre);
+        controle(place.nom, place.index).placer(cadre);
     }
 }
 

@@ -43,7 +43,9 @@ std::string enregistrement(const common::Instant& quand, double pourc, std::stri
 }
 
 void ajouterhist(common::Disque& disque, std::string_view util, const std::string& record) {
-    common::ajouterlignes(disque, cheminhist(util), {&record, 1}, "Enregistrement du résultat");
+    // The record in the report lets the player keep the percent.
+    common::ajouterlignes(disque, cheminhist(util), {&record, 1},
+                          "Enregistrement du résultat « " + record + " »");
 }
 
 std::optional<Balayage> balayer(std::string_view record) {
@@ -62,19 +64,18 @@ std::optional<Balayage> balayer(std::string_view record) {
 }
 
 void parcourirhist(common::Disque& disque, std::string_view util,
-                   const std::function<void(std::string_view)>& voir) {
+                   const std::function<bool(std::string_view)>& voir) {
     const auto chemin = cheminhist(util);
     common::Items items(disque, chemin, lecture);
     std::string_view item;
-    std::size_t lus = 0;
+    std::size_t gardes = 0;
     while (items.lireitem(item)) {
-        if (++lus > maximumhist) {
+        if (voir(item) && ++gardes > maximumhist) {
             throw common::Faute(common::rapportligne(
                 lecture, chemin, items.numero(),
                 "le journal dépasse la limite de " + std::to_string(maximumhist) +
                     " résultats. Ôtez-en les lignes les plus anciennes, en tête du fichier"));
         }
-        voir(item);
     }
 }
 

@@ -15,7 +15,7 @@
 
 namespace profiles {
 
-/// Most items that the menu reads of the file.
+/// Most items of the file that a reader keeps.
 inline constexpr std::size_t maximumhist = 30001;
 /// Characters of the date and time of a record.
 inline constexpr std::size_t largeurdate = 18;
@@ -35,7 +35,7 @@ inline constexpr std::size_t largeurdate = 18;
 [[nodiscard]] std::string enregistrement(const common::Instant& quand, double pourc,
                                          std::string_view toue, std::string_view nom);
 
-/// Appends a record to a user's file in one write. Throws `Faute`.
+/// Appends a record to a user's file in one write. Throws `Faute`, whose report says the record.
 void ajouterhist(common::Disque& disque, std::string_view util, const std::string& record);
 
 /// What the scan of a record finds, inside the record.
@@ -49,8 +49,9 @@ struct Balayage {
 [[nodiscard]] std::optional<Balayage> balayer(std::string_view record);
 
 /// Gives every item of a user's file to `voir`, oldest first, as bytes of Windows-1252, in one
-/// pass. Throws `Faute` if the file is missing or holds more than `maximumhist` items.
+/// pass; `voir` says whether it keeps the item. Throws `Faute` if the file is missing or more than
+/// `maximumhist` items are kept.
 void parcourirhist(common::Disque& disque, std::string_view util,
-                   const std::function<void(std::string_view)>& voir);
+                   const std::function<bool(std::string_view)>& voir);
 
 }  // namespace profiles

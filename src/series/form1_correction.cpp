@@ -44,8 +44,7 @@ std::vector<std::string> motsdesnotes(std::string_view tirage, std::string_view 
 void Form1::corrigerserie() {
     arreterserie();
     const int nombre = nombredelaserie();
-    if (rangee(derniereboite_) >= 0)
-        tirage[static_cast<std::size_t>(derniereboite_)]->texte = tiragedelarangee(derniereboite_);
+    rendretirages();
     marquer(nombre);
     noter(nombre);
     if (criteresecondes() && nombre > 0)
@@ -107,7 +106,7 @@ int Form1::jugerreponses(int nombre) {
                 rangees_.eliminer(rangee(i));
             continue;
         }
-        auto ligne = tirage[static_cast<std::size_t>(i)]->texte() + ";" + mot;
+        auto ligne = lignedelaliste(rangee(i));
         if (motsfaux_.size() == limitemotsfaux && !motsfaux_.contains(ligne))
             break;
         montrerfaute(i);

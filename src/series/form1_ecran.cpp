@@ -101,7 +101,7 @@ void Form1::disposer() {
     largeur = ecran.largeur;
     hauteur = ecran.hauteur;
     for (const auto& place : places)
-        trouver(place.nom, place.index)->placer(modecompact_ ? place.compact : place.normal);
+        controle(place.nom, place.index).placer(modecompact_ ? place.compact : place.normal);
     disposerboites();
     int rang = 0;
     for (auto* tuile : tuiles.controles()) {

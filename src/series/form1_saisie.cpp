@@ -14,12 +14,15 @@ void Form1::branchersaisie() {
     }
     recherche.change = [this] {
         const auto limite = common::longueur(tirage[static_cast<std::size_t>(boite_)]->texte());
-        if (voisins_.form3.typ == common::typrallonges ||
-            common::longueur(recherche.texte()) <= limite)
+        const auto longueur = common::longueur(recherche.texte());
+        if (voisins_.form3.typ == common::typrallonges || longueur <= limite)
             return;
-        if (voisins_.options.check1())
-            plateforme().bip();
-        recherche.texte = common::sansfin(recherche.texte(), 1);
+        // One beep a letter that is cut, in one write.
+        if (voisins_.options.check1()) {
+            for (auto trop = longueur - limite; trop > 0; --trop)
+                plateforme().bip();
+        }
+        recherche.texte = common::debut(recherche.texte(), limite);
     };
     recherche.entree = [this] {
         mettredefaut(valider);

@@ -59,7 +59,8 @@ Formserie::Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const
       rangboite_(tirage.size(), -1),
       lignesdufichier_(tirage.size()),
       ligneboite_(tirage.size()),
-      enrevision_(tirage.size(), false) {
+      enrevision_(tirage.size(), false),
+      entame_(tirage.size(), false) {
     texte = std::string(gabarit.titre);
     habillerboites();
     habillerpanneaux();

@@ -146,6 +146,9 @@ class Formserie : public ui::Formulaire {
 
     // The correction.
     [[nodiscard]] bool serieouverte() const { return corriger.actif(); }
+    /// Gives every rack that assisted entry has reduced, and the one of the box entered last, the
+    /// text that it has in the list.
+    void rendretirages();
     /// Stops the clocks of the series; the next one may be drawn.
     void arreterserie();
     /// No answer can be changed any more; all racks at rest.
@@ -222,6 +225,7 @@ class Formserie : public ui::Formulaire {
     void quitterboite(int rang);
     void frapper(int rang, int& code);
     void toucheboite(int rang, ui::Touche& touche);
+    void reduire(int place);
     void suivante();
     void validerrecherche();
     void focaliserboite(int rang) { donnerfocus(*solution[static_cast<std::size_t>(rang)]); }
@@ -230,12 +234,14 @@ class Formserie : public ui::Formulaire {
     void tirerrangees();
     void prendrerevisions();
     void ouvrirserie();
+    [[nodiscard]] std::string nomenregistre() const;
     void finirliste(std::int64_t base, std::int64_t fautes);
 
     std::vector<int> rangboite_;                ///< by rack place: the row shown, -1 for none
     std::vector<std::size_t> lignesdufichier_;  ///< by rack place: line of that row in the list
     std::vector<std::string> ligneboite_;       ///< by rack place: that row in list format
     std::vector<bool> enrevision_;              ///< by rack place: that row is in the revision file
+    std::vector<bool> entame_;                  ///< by rack place: assisted entry wrote the rack
     std::int16_t nbseriesfaites_ = 0;
     std::size_t numpolice_ = 0;  ///< of the next font, from 0
 };

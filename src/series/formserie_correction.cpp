@@ -51,7 +51,7 @@ void Formserie::garderenrevision(std::span<const Ratee> ratees) {
     std::vector<std::string> lignesratees;
     for (const auto& ratee : ratees)
         lignesratees.push_back(ratee.ligne);
-    const auto presentes = presentsenrevision(plateforme().disque(), chemin, lignesratees);
+    const auto presentes = ajoutsdejapresents(plateforme().disque(), chemin, lignesratees);
     std::vector<std::string> nouvelles;
     for (std::size_t i = 0; i < ratees.size(); ++i) {
         const auto& ligne = lignesratees[i];

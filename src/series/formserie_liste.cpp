@@ -5,6 +5,7 @@
 #include "fichier.h"
 #include "formserie.h"
 #include "hist.h"
+#include "listes.h"
 #include "nombre.h"
 #include "revision.h"
 
@@ -19,6 +20,15 @@ constexpr std::string_view apressucces = "Eliminer un mot après";
 
 std::string Formserie::getnomfichierderev() const {
     return nomfichierderevision(fich_, voisins_.form3.toue, voisins_.form3.util);
+}
+
+/// The name that the record of this run bears. Lists that share a revision file each keep their
+/// own.
+std::string Formserie::nomenregistre() const {
+    const auto& menu = voisins_.form3;
+    const bool connue = menu.toue == common::modes::revision &&
+                        common::cheminrevision(menu.util, menu.listerevisee) == fich_;
+    return connue ? menu.listerevisee : profiles::nomcourt(fich_, menu.toue, menu.util);
 }
 
 void Formserie::ouvrirliste(std::string_view chemin) {
@@ -83,6 +93,7 @@ void Formserie::nouvelleserie() {
     }
     for (int place = 0; place < gabarit_.nbtirages; ++place)
         tirage[static_cast<std::size_t>(place)]->texte = tiragedelarangee(place);
+    std::fill(entame_.begin(), entame_.end(), false);
     prendrerevisions();
     ouvrirserie();
 }
@@ -159,10 +170,9 @@ void Formserie::finirliste(std::int64_t base, std::int64_t fautes) {
     if (base != 0) {
         const auto pourc = profiles::pourcentage(base, fautes);
         fautesaffichees.texte = fautesaffichees.texte() + " - " + common::textenombre(pourc) + " %";
-        const auto nom = profiles::nomcourt(fich_, menu.toue, menu.util);
         profiles::ajouterhist(
             plateforme().disque(), menu.util,
-            profiles::enregistrement(plateforme().maintenant(), pourc, menu.toue, nom));
+            profiles::enregistrement(plateforme().maintenant(), pourc, menu.toue, nomenregistre()));
     }
     tuiles.peindre(ui::couleurs::faux);
     motsleft.texte = "0";

@@ -111,10 +111,26 @@ void Formserie::recalculerlettres(int rang) {
     if (!saisieassistee())
         return;
     lettres_.recalculer(solution[static_cast<std::size_t>(rang)]->texte());
-    auto& boite = *tirage[static_cast<std::size_t>(placede(rang))];
+    const auto& boite = *tirage[static_cast<std::size_t>(placede(rang))];
     if (boite.texte().find_first_of(gabarit_.marquesgardees) != std::string::npos)
         return;
-    boite.texte = lettres_.restantes();
+    reduire(placede(rang));
+}
+
+/// Shows the letters left in the place of the rack.
+void Formserie::reduire(int place) {
+    tirage[static_cast<std::size_t>(place)]->texte = lettres_.restantes();
+    entame_[static_cast<std::size_t>(place)] = true;
+}
+
+void Formserie::rendretirages() {
+    const int courant = placede(derniereboite_);
+    for (int place = 0; place < gabarit_.nbtirages; ++place) {
+        const auto i = static_cast<std::size_t>(place);
+        if (rangee(place) >= 0 && (entame_[i] || place == courant))
+            tirage[i]->texte = tiragedelarangee(place);
+    }
+    std::fill(entame_.begin(), entame_.end(), false);
 }
 
 void Formserie::entrerboite(int rang) {
@@ -136,8 +152,10 @@ void Formserie::entrerboite(int rang) {
 void Formserie::quitterboite(int rang) {
     chronos.quitterboite();
     const int place = placede(rang);
-    if (saisieassistee())
+    // A rack that was reduced is given back, even if the option was switched off meanwhile.
+    if (saisieassistee() || entame_[static_cast<std::size_t>(place)])
         rendreletirage(place);
+    entame_[static_cast<std::size_t>(place)] = false;
     if (!occupee(place) || !serieouverte())
         return;
     if (criteresecondes())
@@ -176,14 +194,13 @@ void Formserie::frapper(int rang, int& code) {
     bool refus = refusee(code);
     if (saisieassistee()) {
         // The letter will replace the whole answer: the letters of the rack are free again.
-        const bool remplace = boite.selection() == common::longueur(boite.texte());
-        if (remplace && lettre(code))
+        if (boite.remplacetout() && lettre(code))
             lirelettres(tirageasaisir(place), place);
         const auto touchetexte =
             common::utf8(common::caractere1252(static_cast<unsigned char>(code)));
         const bool prise = lettres_.prendre(touchetexte);
         if (prise)
-            tirage[static_cast<std::size_t>(place)]->texte = lettres_.restantes();
+            reduire(place);
         refus = refus || (lettre(code) && !prise);
     }
     if (!refus)

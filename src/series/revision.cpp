@@ -9,6 +9,37 @@
 #include "texte.h"
 
 namespace series {
+namespace {
+
+/// Rows for a report, each of them shortened.
+std::string citer(std::span<const std::string> lignes) {
+    constexpr std::size_t longueurcitee = 200;
+    std::string citees;
+    for (const auto& ligne : lignes) {
+        const auto debut = common::debut(ligne, longueurcitee);
+        citees.append(citees.empty() ? "« " : ", « ").append(debut);
+        citees.append(debut.size() < ligne.size() ? "… »" : " »");
+    }
+    return citees;
+}
+
+std::string actiondajout(std::span<const std::string> lignes) {
+    return "Ajout au fichier de révision de " + citer(lignes);
+}
+
+std::vector<bool> chercher(common::Disque& disque, std::string_view chemin,
+                           std::span<const std::string> lignes, std::string_view action) {
+    std::vector<bool> presents(lignes.size(), false);
+    const Recherche recherche(lignes);
+    common::Items(disque, common::sanspartie(chemin), action)
+        .chaque([&](std::string_view item, std::size_t /*ligne*/) {
+            for (const auto rang : recherche.rangs(item))
+                presents[rang] = true;
+        });
+    return presents;
+}
+
+}  // namespace
 
 std::string nomfichierderevision(std::string_view fich, std::string_view toue,
                                  std::string_view util) {
@@ -18,25 +49,24 @@ std::string nomfichierderevision(std::string_view fich, std::string_view toue,
 
 std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view chemin,
                                      std::span<const std::string> lignes) {
-    std::vector<bool> presents(lignes.size(), false);
-    const Recherche recherche(lignes);
-    common::Items(disque, common::sanspartie(chemin), "Lecture des révisions")
-        .chaque([&](std::string_view item, std::size_t /*ligne*/) {
-            for (const auto rang : recherche.rangs(item))
-                presents[rang] = true;
-        });
-    return presents;
+    return chercher(disque, chemin, lignes, "Lecture des révisions");
+}
+
+std::vector<bool> ajoutsdejapresents(common::Disque& disque, std::string_view chemin,
+                                     std::span<const std::string> lignes) {
+    return chercher(disque, chemin, lignes, actiondajout(lignes));
 }
 
 void ajouterenrevision(common::Disque& disque, std::string_view chemin,
                        std::span<const std::string> lignes) {
     if (lignes.empty())
         return;
-    common::ajouterlignes(disque, chemin, lignes, "Ajout au fichier de révision");
+    common::ajouterlignes(disque, chemin, lignes, actiondajout(lignes));
 }
 
 void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne) {
-    constexpr std::string_view action = "Suppression dans le fichier de révision";
+    const std::string retiree(ligne);
+    const auto action = "Suppression dans le fichier de révision de " + citer({&retiree, 1});
     // A row that another program appends meanwhile would be lost with the old file.
     const auto verrou = disque.verrouiller(chemin);
     std::vector<std::string> gardees;

@@ -25,7 +25,11 @@ inline constexpr std::size_t limiterevision = 5001;
 [[nodiscard]] std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view chemin,
                                                    std::span<const std::string> lignes);
 
-/// Appends rows, in one write. Throws `Faute`.
+/// The same before these rows are added: the report of a failure says them.
+[[nodiscard]] std::vector<bool> ajoutsdejapresents(common::Disque& disque, std::string_view chemin,
+                                                   std::span<const std::string> lignes);
+
+/// Appends rows, in one write. Throws `Faute`, whose report says the rows.
 void ajouterenrevision(common::Disque& disque, std::string_view chemin,
                        std::span<const std::string> lignes);
 

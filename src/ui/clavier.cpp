@@ -98,24 +98,30 @@ void Formulaire::editer(Controle& controle, const Touche& touche) {
     }
 }
 
-/// A typed character: the handler may change or drop it. One that the Western code page lacks is
-/// refused, as no file could hold it.
-void Formulaire::taper(Controle& controle, char32_t caractere) {
+/// What a typed character writes: the handler may change or drop it. One that the Western code page
+/// lacks is refused, as no file could hold it.
+std::string Formulaire::accepter(Controle& controle, char32_t caractere) {
     if (controle.verrou())
-        return;
+        return {};
     const auto numero = common::code1252(caractere);
     if (!numero) {
         plateforme_.bip();
-        return;
+        return {};
     }
     int code = *numero;
     declencher(controle.caractere, code);
     constexpr int premiervisible = 32;
-    const bool saut = controle.multiligne && code == touches::entree;
-    if (saut)
-        controle.inserer("\n");
-    else if (code >= premiervisible && code <= 0xFF)
-        controle.inserer(common::utf8(common::caractere1252(static_cast<unsigned char>(code))));
+    if (controle.multiligne && code == touches::entree)
+        return "\n";
+    if (code < premiervisible || code > 0xFF)
+        return {};
+    return common::utf8(common::caractere1252(static_cast<unsigned char>(code)));
+}
+
+void Formulaire::taper(Controle& controle, char32_t caractere) {
+    const auto accepte = accepter(controle, caractere);
+    if (!accepte.empty())
+        controle.inserer(accepte);
 }
 
 void Formulaire::tabuler(bool enarriere) {
@@ -142,11 +148,14 @@ void Formulaire::coller(std::string_view texteacoller) {
     if (controle == nullptr || !editable(*controle) || controle->verrou() ||
         !controle->pressepapiers)
         return;
-    for (const auto& lettre : common::caracteres(texteacoller)) {
-        if (focus_ != controle)
-            return;
-        taper(*controle, common::premier(lettre));
-    }
+    plateforme_.unseulbip([&] {
+        for (const auto& lettre : common::caracteres(texteacoller)) {
+            if (focus_ != controle)
+                break;
+            controle->amasser(accepter(*controle, common::premier(lettre)));
+        }
+        controle->deposer();
+    });
 }
 
 std::string Formulaire::couper() {

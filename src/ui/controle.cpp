@@ -101,6 +101,11 @@ void Controle::inserer(std::string_view caracteres) {
            place + common::longueur(caracteres));
 }
 
+void Controle::deposer() {
+    if (!amas_.empty())
+        inserer(std::exchange(amas_, {}));
+}
+
 void Controle::effacer(bool avant) {
     if (selection() == 0) {
         if (avant ? curseur_ == 0 : curseur_ == longueur_)

@@ -163,6 +163,11 @@ class Controle : public Observe<Champ> {
     void toutselectionner();
     /// Puts a text in the place of the selection, as typing does.
     void inserer(std::string_view caracteres);
+    /// Holds characters that were let through back, for `deposer` to put them in at once.
+    void amasser(std::string_view caracteres) { amas_ += caracteres; }
+    void deposer();
+    /// What comes next takes the place of the whole text, which may be empty.
+    [[nodiscard]] bool remplacetout() const { return amas_.empty() && selection() == longueur_; }
     /// Backspace (`avant`) or Delete: takes out the selection, or one character.
     void effacer(bool avant);
 
@@ -181,6 +186,7 @@ class Controle : public Observe<Champ> {
 
     Formulaire& formulaire_;
     std::string nom_;
+    std::string amas_;          ///< characters held back
     std::size_t longueur_ = 0;  ///< of the text, to tell a shortened one
     std::size_t curseur_ = 0;
     std::size_t ancre_ = 0;

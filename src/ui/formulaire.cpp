@@ -1,6 +1,7 @@
 #include "formulaire.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace ui {
 
@@ -45,6 +46,14 @@ Menu& Formulaire::ajoutermenu(std::string_view nomdumenu) {
 Controle* Formulaire::trouver(std::string_view nomducontrole, int index) const {
     const auto place = parnom_.find(std::pair(std::string(nomducontrole), index));
     return place == parnom_.end() ? nullptr : place->second;
+}
+
+Controle& Formulaire::controle(std::string_view nomducontrole, int index) const {
+    if (auto* trouve = trouver(nomducontrole, index))
+        return *trouve;
+    const auto rang = index < 0 ? std::string() : "(" + std::to_string(index) + ")";
+    throw std::out_of_range("la fenêtre " + nom_ + " n'a pas de contrôle « " +
+                            std::string(nomducontrole) + rang + " »");
 }
 
 bool Formulaire::accessible(const Controle& controle) {

@@ -89,6 +89,9 @@ class Formulaire : public Observe<ChampFormulaire> {
     Menu& ajoutermenu(std::string_view nomdumenu);
     /// The control of a design name and index (-1: none); null if there is none.
     [[nodiscard]] Controle* trouver(std::string_view nomducontrole, int index = -1) const;
+    /// The same for a name that the form is known to have. Throws `std::out_of_range`, with the
+    /// name, if it has not.
+    [[nodiscard]] Controle& controle(std::string_view nomducontrole, int index = -1) const;
     [[nodiscard]] const std::vector<std::unique_ptr<Controle>>& controles() const {
         return controles_;
     }
@@ -131,7 +134,8 @@ class Formulaire : public Observe<ChampFormulaire> {
     void enfoncer(Touche touche, std::optional<char32_t> caractere = std::nullopt);
     void relacher(int code);
     void tabuler(bool enarriere);
-    /// Pastes, character by character, into the control that has the focus.
+    /// Pastes into the control that has the focus. Each character goes through `caractere` as if it
+    /// were typed; what they let through is written at once, and refusals make one beep in all.
     void coller(std::string_view texteacoller);
     /// Cuts the selection of the control that has the focus; empty if it refuses.
     std::string couper();
@@ -155,6 +159,7 @@ class Formulaire : public Observe<ChampFormulaire> {
     bool touchedebouton(Controle& controle, const Touche& touche);
     void editer(Controle& controle, const Touche& touche);
     void taper(Controle& controle, char32_t caractere);
+    [[nodiscard]] std::string accepter(Controle& controle, char32_t caractere);
 
     std::string nom_;
     Plateforme& plateforme_;

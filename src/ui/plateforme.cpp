@@ -7,6 +7,31 @@
 
 namespace ui {
 
+void Plateforme::bip() {
+    if (bipsretenus_)
+        bipdemande_ = true;
+    else
+        sonner();
+}
+
+void Plateforme::unseulbip(const std::function<void()>& suite) {
+    if (bipsretenus_) {
+        suite();
+        return;
+    }
+    bipsretenus_ = true;
+    bipdemande_ = false;
+    try {
+        suite();
+    } catch (...) {
+        bipsretenus_ = false;
+        throw;
+    }
+    bipsretenus_ = false;
+    if (bipdemande_)
+        sonner();
+}
+
 void Plateforme::message(std::string_view texte, Icone icone) {
     static_cast<void>(demander(texte, icone, false));
     verifierfin();

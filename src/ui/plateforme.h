@@ -38,7 +38,9 @@ class Plateforme {
     [[nodiscard]] virtual common::Instant maintenant() = 0;
 
     /// The system beep.
-    virtual void bip() = 0;
+    void bip();
+    /// Runs `suite`; however many beeps it asks for, they make one at its end.
+    void unseulbip(const std::function<void()>& suite);
     /// Opens an address or a file with its default handler; a failure is ignored.
     virtual void ouvrir(std::string_view cible) = 0;
     /// Downloads an address, never from a cache, to a file that takes its name only when whole.
@@ -73,6 +75,8 @@ class Plateforme {
     [[nodiscard]] int statut() const { return statut_; }
 
   protected:
+    /// Makes the system beep.
+    virtual void sonner() = 0;
     [[nodiscard]] virtual Reponse demander(std::string_view texte, Icone icone, bool ouinon) = 0;
     virtual void jouer(std::string_view fichier) = 0;
     virtual void pomper() = 0;
@@ -90,6 +94,8 @@ class Plateforme {
     int profondeur_ = 0;
     int statut_ = 0;
     bool fini_ = false;
+    bool bipsretenus_ = false;  ///< inside `unseulbip`
+    bool bipdemande_ = false;
 };
 
 }  // namespace ui

@@ -56,7 +56,7 @@ class Form1Ecran : public testing::TestWithParam<Disposition> {
     }
 
     [[nodiscard]] ui::Controle& controle(std::string_view nom, int index = -1) const {
-        return *form->trouver(nom, index);
+        return form->controle(nom, index);
     }
 
     banc::Dossier dossier;

@@ -73,6 +73,14 @@ TEST(Affixes, un_suffixe_qui_n_est_pas_fait_de_lettres_ne_donne_pas_de_mot) {
     EXPECT_EQ(lus.suffixes("aA")[0].ajout, "VA");
 }
 
+TEST(Affixes, une_ligne_de_commentaire_peut_etre_longue) {
+    std::string ligne = "#";
+    for (int i = 0; i < 40; ++i)
+        ligne += " mot";
+    const Affixes lus("SET UTF-8\nFLAG long\n" + ligne + "\n", "petit.aff");
+    EXPECT_FALSE(lus.connait("S."));
+}
+
 struct Casse {
     const char* nom;
     std::string texte;
@@ -92,6 +100,12 @@ TEST_P(AffixesCasses, est_une_faute_avec_fichier_et_ligne) {
                                         HasSubstr(GetParam().ennui)));
     }
 }
+std::string repete(const std::string& texte, int fois) {
+    std::string resultat;
+    while (fois-- > 0)
+        resultat += texte;
+    return resultat;
+}
 const std::string entete = "SET UTF-8\nFLAG long\n";
 INSTANTIATE_TEST_SUITE_P(
     Affixes, AffixesCasses,
@@ -110,6 +124,8 @@ INSTANTIATE_TEST_SUITE_P(
         Casse{"nombre_illisible", entete + "SFX S. Y 2x\n", "ligne 3", "le nombre des règles"},
         Casse{"condition_ouverte", entete + "SFX S. Y 1\nSFX S. 0 s [^sx is:pl\n", "ligne 4",
               "n'est pas fermée"},
+        Casse{"trop_de_champs", entete + "SFX S. Y 1\nSFX S. 0 s ." + repete(" po:nom", 20) + "\n",
+              "ligne 4", "trop de champs ; la limite est de 24"},
         Casse{"pas_utf8", entete + "SFX S. Y 1\nSFX S. 0 \xE9 . is:pl\n", "ligne 4", "UTF-8"}),
     [](const auto& rangee) { return rangee.param.nom; });
 

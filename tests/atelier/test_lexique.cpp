@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -141,6 +142,21 @@ TEST(Lexique, un_verbe_dont_un_participe_s_accorde_n_est_pas_invariable) {
     EXPECT_FALSE(essais::lexique("nager/a0() po:v1_i_____a\n").lemmes[0].participesinvariables());
 }
 
+TEST(Lexique, seize_drapeaux_et_vingt_quatre_champs_se_lisent) {
+    std::string entree = "chat/";
+    for (int i = 0; i < 16; ++i)
+        entree += "S.";
+    for (int i = 0; i < 23; ++i)
+        entree += " po:nom";
+    EXPECT_THAT(mots(essais::lexique(entree + "  \n")), testing::ElementsAre("CHAT", "CHATS"));
+}
+
+TEST(Capitales, plus_de_15_lettres_sont_refusees) {
+    EXPECT_EQ(atelier::Capitales("ANTICONSTITUTIO").texte(), "ANTICONSTITUTIO");
+    EXPECT_THAT([] { std::ignore = atelier::Capitales("ANTICONSTITUTION"); },
+                testing::ThrowsMessage<std::length_error>(HasSubstr("ANTICONSTITUTION")));
+}
+
 struct Casse {
     const char* nom;
     std::string texte;
@@ -148,6 +164,12 @@ struct Casse {
 };
 void PrintTo(const Casse& casse, std::ostream* os) {
     *os << casse.nom;
+}
+std::string repete(const std::string& texte, int fois) {
+    std::string resultat;
+    while (fois-- > 0)
+        resultat += texte;
+    return resultat;
 }
 class LexiqueCasse : public testing::TestWithParam<Casse> {};
 TEST_P(LexiqueCasse, est_une_faute_avec_fichier_et_ligne) {
@@ -174,6 +196,10 @@ INSTANTIATE_TEST_SUITE_P(
                                       9),
                           "le nombre"},
                     Casse{"drapeau_inconnu", "1\nchat/Q9 po:nom\n", "« Q9 »"},
+                    Casse{"dix_sept_drapeaux", "1\nchat/" + repete("S.", 17) + " po:nom\n",
+                          "trop de drapeaux ; la limite est de 16"},
+                    Casse{"vingt_cinq_champs", "1\nchat" + repete(" po:nom", 24) + "\n",
+                          "trop de champs ; la limite est de 24"},
                     Casse{"demi_drapeau", "1\nchat/S.( po:nom\n", "qu'un caractère"}),
     [](const auto& rangee) { return rangee.param.nom; });
 

@@ -43,14 +43,14 @@ class FauxForm1 : public ui::Formulaire {
     void action(std::string_view nomducontrole, std::function<void()> faire) {
         ajouter(Genre::Bouton, nomducontrole).clic = std::move(faire);
     }
-    void ecrireetat(const std::string& texteecrit) { trouver("etat")->texte = texteecrit; }
+    void ecrireetat(const std::string& texteecrit) { controle("etat").texte = texteecrit; }
 
     void menuetactions() {
         auto& menu = ajoutermenu("menumot");
         menu.entrees = {&ajouter(Genre::Entree, "un"), &ajouter(Genre::Entree, "deux")};
         menu.entrees[0]->clic = [this] { ecrireetat("un"); };
         menu.entrees[1]->actif = false;
-        trouver("solution", 1)->doubleclic = [this, &menu] { ouvrirmenu(menu); };
+        controle("solution", 1).doubleclic = [this, &menu] { ouvrirmenu(menu); };
         action("question",
                [this] { ecrireetat(plateforme().question("Deux\r\nlignes ?") ? "oui" : "non"); });
         action("message", [this] { plateforme().message("Bonjour"); });
@@ -85,7 +85,7 @@ class FauxForm1 : public ui::Formulaire {
         auto& second = ajouterminuterie("Timer2");
         auto& troisieme = ajouterminuterie("Timer3");
         const auto noter = [this](const char* lettre) {
-            ecrireetat(trouver("etat")->texte() + lettre);
+            ecrireetat(controle("etat").texte() + lettre);
         };
         premier.tic = [noter, &troisieme] {
             noter("1");
@@ -162,7 +162,7 @@ class FauxProgramme : public Programme,
     void maj() override {}
     std::uint32_t fond() override { return formulaire3().fond().rvb(); }
     void donnerfond(std::uint32_t /*rvb*/) override {}
-    bool app() override { return formulaire3().trouver("app")->coche(); }
+    bool app() override { return formulaire3().controle("app").coche(); }
     void aide(std::string_view /*texte*/) override {}
     void patienter(bool /*attente*/) override {}
 
@@ -175,8 +175,8 @@ class FauxProgramme : public Programme,
         const auto& v = voisins_.form3;
         appels_ += std::string(chemin) + "|" + v.toue + "|" + v.typ + "|" + v.nombase + "|" +
                    v.util + "|" + (app() ? "1" : "0");
-        formulaire1().trouver("etat")->texte = appels_;
-        formulaire1().donnerfocus(*formulaire1().trouver("solution", 0));
+        formulaire1().controle("etat").texte = appels_;
+        formulaire1().donnerfocus(formulaire1().controle("solution", 0));
         attend_ = false;
     }
     void activerseuil(bool /*actif*/) override {}

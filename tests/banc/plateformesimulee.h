@@ -31,7 +31,6 @@ class PlateformeSimulee : public ui::Plateforme {
     [[nodiscard]] DisqueSimule& disque() override { return disque_; }
     [[nodiscard]] HasardSimule& hasard() override { return hasard_; }
     [[nodiscard]] common::Instant maintenant() override { return instant_; }
-    void bip() override { ++journal.bips; }
     void ouvrir(std::string_view cible) override { journal.ouvertures.emplace_back(cible); }
     [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
     void accueillir(ui::Formulaire& formulaire) override;
@@ -60,6 +59,7 @@ class PlateformeSimulee : public ui::Plateforme {
     std::function<void(std::string_view)> affichage;
 
   protected:
+    void sonner() override { ++journal.bips; }
     [[nodiscard]] ui::Reponse demander(std::string_view texte, ui::Icone icone,
                                        bool ouinon) override;
     void jouer(std::string_view fichier) override { journal.sons.emplace_back(fichier); }

@@ -117,7 +117,16 @@ INSTANTIATE_TEST_SUITE_P(
                     Ecriture{"demi_exact", common::decimales(2.25, 1), "2.3"},
                     Ecriture{"un_peu_moins_qu_un_demi", common::decimales(0.15, 1), "0.1"},
                     Ecriture{"un_peu_plus_qu_un_demi", common::decimales(0.05, 1), "0.1"},
+                    Ecriture{"sans_decimale", common::decimales(3, 0), "3"},
+                    Ecriture{"demi_sans_decimale", common::decimales(2.5, 0), "3"},
+                    Ecriture{"retenue_sans_decimale", common::decimales(-9.5, 0), "-10"},
+                    Ecriture{"rien_sans_decimale", common::decimales(-0.4, 0), "0"},
                     Ecriture{"negatif_qui_s_annule", common::decimales(-0.0001, 3), "0.000"}),
     [](const auto& rangee) { return rangee.param.nom; });
+
+TEST(Decimales, au_plus_59) {
+    EXPECT_EQ(common::decimales(0.5, 99), "0.5" + std::string(58, '0'));
+    EXPECT_EQ(common::decimales(2.5, -1), "3");
+}
 
 }  // namespace

@@ -98,7 +98,6 @@ class Plateforme : public ui::Plateforme {
     common::Disque& disque() override { return lesfichiers; }
     common::Hasard& hasard() override { return hasard_; }
     common::Instant maintenant() override { return {}; }
-    void bip() override { journal.emplace_back("bip"); }
     void ouvrir(std::string_view cible) override { noter("ouvrir ", cible); }
     bool telecharger(std::string_view adresse, std::string_view chemin) override {
         noter("telecharger ", std::string(adresse) + " > " + std::string(chemin));
@@ -115,6 +114,7 @@ class Plateforme : public ui::Plateforme {
     }
 
   protected:
+    void sonner() override { journal.emplace_back("bip"); }
     ui::Reponse demander(std::string_view texte, ui::Icone icone, bool ouinon) override {
         noter(genre(icone), texte);
         return ouinon ? reponse : ui::Reponse::Ok;

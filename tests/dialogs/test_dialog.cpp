@@ -12,7 +12,7 @@ class Dialog : public testing::Test {
     essai::Voisinage v;
     int decharges = 0;
     dialogs::Dialog form{v.plateforme, [this] { ++decharges; }};
-    ui::Controle& boite = *form.trouver("Text1");
+    ui::Controle& boite = form.controle("Text1");
 
     static constexpr std::array<const char*, 2> records{"24/08/2019 - 14:35 - 95.3% - T",
                                                         "25/08/2019 - 09:02 - 100% - R"};

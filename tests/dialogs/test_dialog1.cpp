@@ -26,7 +26,7 @@ class Dialog1 : public testing::Test {
     essai::Voisinage v;
     dialogs::Dialog1 form{v.plateforme, v.voisins};
 
-    [[nodiscard]] ui::Controle& controle(const char* nom) const { return *form.trouver(nom); }
+    [[nodiscard]] ui::Controle& controle(const char* nom) const { return form.controle(nom); }
     [[nodiscard]] bool visible(const char* nom) const { return controle(nom).visible(); }
     void poser(const char* nom, int largeur, int hauteur) {
         v.plateforme.lesfichiers.fichiers[controle(nom).image()] = bmp(largeur, hauteur);

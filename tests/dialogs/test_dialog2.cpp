@@ -28,7 +28,7 @@ class Dialog2 : public testing::Test {
         form->charger();
     }
     [[nodiscard]] ui::Controle& controle(const char* nom, int index = -1) const {
-        return *form->trouver(nom, index);
+        return form->controle(nom, index);
     }
     [[nodiscard]] const std::string& texte(const char* nom, int index = -1) const {
         return controle(nom, index).texte();

@@ -71,6 +71,7 @@ void resultats(Essai& essai) {
             EXPECT_EQ(lu->pourcentage.find('%'), std::string_view::npos);
             EXPECT_LE(lu->mode.size(), 1U);
         }
+        return true;
     });
     EXPECT_LE(lignes, essai.octets.size());
     menu::Resultats table;

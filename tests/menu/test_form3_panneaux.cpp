@@ -253,9 +253,9 @@ TEST_F(Groupes, les_images_d_anagrammes) {
 
 TEST_F(Groupes, chaque_insigne_porte_son_image) {
     for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(form->trouver("Image2", i)->image(), "images\\vb_30x30.bmp") << i;
+        EXPECT_EQ(form->controle("Image2", i).image(), "images\\vb_30x30.bmp") << i;
     for (int i = 0; i < 8; ++i)
-        EXPECT_EQ(form->trouver("Image3", i)->image(), "images\\jkq_30x30.bmp") << i;
+        EXPECT_EQ(form->controle("Image3", i).image(), "images\\jkq_30x30.bmp") << i;
 }
 
 TEST_F(Groupes, les_boutons_disent_leur_rangee_a_qui_ne_la_voit_pas) {

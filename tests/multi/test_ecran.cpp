@@ -69,7 +69,7 @@ class Ecran : public testing::TestWithParam<int> {
     }
 
     [[nodiscard]] Controle& controle(std::string_view nom, int index = -1) const {
-        return *form->trouver(nom, index);
+        return form->controle(nom, index);
     }
     /// What a player sees, frames and the controls that only logic needs left out.
     [[nodiscard]] std::vector<Controle*> visibles() const {

@@ -97,7 +97,10 @@ void jouer(common::Disque& disque) {
 
 std::vector<std::string> records(common::Disque& disque) {
     std::vector<std::string> lus;
-    profiles::parcourirhist(disque, "Zoé", [&](std::string_view r) { lus.emplace_back(r); });
+    profiles::parcourirhist(disque, "Zoé", [&](std::string_view r) {
+        lus.emplace_back(r);
+        return true;
+    });
     return lus;
 }
 

@@ -25,7 +25,7 @@ class Form2 : public testing::Test {
         machine.plateforme.executer([&] { form->charger(); });
         form->visible = true;
     }
-    [[nodiscard]] ui::Controle& controle(const char* nom) const { return *form->trouver(nom); }
+    [[nodiscard]] ui::Controle& controle(const char* nom) const { return form->controle(nom); }
     [[nodiscard]] std::string texte(const char* nom) const { return controle(nom).texte(); }
     void cliquer(const char* nom) {
         machine.plateforme.executer([&] { form->cliquer(controle(nom)); });

@@ -128,8 +128,10 @@ class Hist : public testing::Test {
 
     std::vector<std::string> lire() {
         std::vector<std::string> vus;
-        parcourirhist(machine.disque(), "Léa",
-                      [&](std::string_view item) { vus.emplace_back(item); });
+        parcourirhist(machine.disque(), "Léa", [&](std::string_view item) {
+            vus.emplace_back(item);
+            return true;
+        });
         return vus;
     }
 };
@@ -175,7 +177,7 @@ TEST_F(Hist, un_disque_plein_laisse_le_journal_tel_quel) {
     machine.ecrire("Léa\\hist.dat", "un\r\n");
     machine.disque().refuser("Léa\\hist.dat");
     EXPECT_THAT(essai::faute([&] { ajouterhist(machine.disque(), "Léa", "deux"); }),
-                HasSubstr("Enregistrement du résultat : fichier « Léa\\hist.dat »"));
+                HasSubstr("Enregistrement du résultat « deux » : fichier « Léa\\hist.dat »"));
     EXPECT_EQ(machine.lire("Léa\\hist.dat"), "un\r\n");
 }
 

@@ -52,7 +52,7 @@ class Form1dessai : public testing::Test {
         machine.plateforme.executer([&] { form->commencer(liste); });
     }
     [[nodiscard]] ui::Controle& controle(std::string_view nom, int index = -1) const {
-        return *form->trouver(nom, index);
+        return form->controle(nom, index);
     }
     void cliquer(std::string_view nom) {
         machine.plateforme.executer([&] { form->cliquer(controle(nom)); });

@@ -22,10 +22,10 @@ class FormulaireTemoin : public ui::Formulaire {
         tabulation({&boite(0), &boite(1), &boite(2), &valider(), &app()});
     }
 
-    [[nodiscard]] ui::Controle& boite(int index) const { return *trouver("solution", index); }
-    [[nodiscard]] ui::Controle& valider() const { return *trouver("valider"); }
-    [[nodiscard]] ui::Controle& app() const { return *trouver("app"); }
-    [[nodiscard]] ui::Controle& score() const { return *trouver("score"); }
+    [[nodiscard]] ui::Controle& boite(int index) const { return controle("solution", index); }
+    [[nodiscard]] ui::Controle& valider() const { return controle("valider"); }
+    [[nodiscard]] ui::Controle& app() const { return controle("app"); }
+    [[nodiscard]] ui::Controle& score() const { return controle("score"); }
     /// Types letters, each as a key of its own.
     void taper(const std::string& lettres) {
         for (const char lettre : lettres) {

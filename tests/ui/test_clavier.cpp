@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include <gmock/gmock.h>
 
 #include "formulairetemoin.h"
@@ -197,10 +199,73 @@ TEST_F(Clavier, coller_prend_la_place_de_la_selection) {
 }
 
 TEST_F(Clavier, coller_s_arrete_si_le_focus_s_en_va) {
-    boite.change = [&] { form.donnerfocus(form.boite(1)); };
-    form.coller("ab");
-    EXPECT_EQ(boite.texte(), "a");
+    boite.caractere = [&](int& code) {
+        if (code == 'b')
+            form.donnerfocus(form.boite(1));
+    };
+    form.coller("abc");
+    EXPECT_EQ(boite.texte(), "ab");
     EXPECT_EQ(form.boite(1).texte(), "");
+}
+
+TEST_F(Clavier, coller_ecrit_et_change_une_fois) {
+    form.taper("XY");
+    form.touche(touches::gauche);
+    std::vector<std::string> textes;
+    boite.change = [&] { textes.push_back(boite.texte()); };
+    form.coller("abc");
+    EXPECT_THAT(textes, ElementsAre("XabcY"));
+    EXPECT_EQ(boite.curseur(), 4U);
+    boite.caractere = [](int& code) { code = 0; };
+    form.coller("abc");
+    EXPECT_THAT(textes, ElementsAre("XabcY"));
+}
+
+TEST_F(Clavier, coller_ne_fait_qu_un_bip) {
+    boite.caractere = [&](int& code) {
+        if (code == 'x')
+            plateforme.bip();
+    };
+    form.coller("axxőxb");
+    EXPECT_EQ(plateforme.journal.bips, 1);
+    form.coller("ab");
+    EXPECT_EQ(plateforme.journal.bips, 1);
+    form.taper("xx");
+    EXPECT_EQ(plateforme.journal.bips, 3);
+}
+
+TEST_F(Clavier, ce_que_l_on_colle_remplace_tout_jusqu_a_la_premiere_lettre_prise) {
+    form.taper("ABC");
+    boite.toutselectionner();
+    std::string remplacants;
+    boite.caractere = [&](int& code) {
+        if (boite.remplacetout())
+            remplacants += static_cast<char>(code);
+        if (code == 'x')
+            code = 0;
+    };
+    form.coller("xabx");
+    EXPECT_EQ(remplacants, "xa");
+    EXPECT_EQ(boite.texte(), "ab");
+    form.taper("c");
+    EXPECT_EQ(remplacants, "xa");
+}
+
+TEST_F(Clavier, une_faute_en_collant_laisse_les_bips_suivants) {
+    boite.caractere = [](int&) { throw std::runtime_error("essai"); };
+    EXPECT_THROW(form.coller("a"), std::runtime_error);
+    plateforme.bip();
+    EXPECT_EQ(plateforme.journal.bips, 1);
+}
+
+TEST_F(Clavier, deux_cents_milliers_de_lettres_se_collent_d_une_ecriture) {
+    int changements = 0;
+    boite.change = [&] { ++changements; };
+    const std::string lettres(200000, 'A');
+    form.coller(lettres + "ő" + lettres);
+    EXPECT_EQ(boite.texte().size(), 400000U);
+    EXPECT_EQ(changements, 1);
+    EXPECT_EQ(plateforme.journal.bips, 1);
 }
 
 TEST_F(Clavier, coller_laisse_tomber_les_fins_de_ligne) {

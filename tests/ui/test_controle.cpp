@@ -1,3 +1,6 @@
+#include <stdexcept>
+#include <tuple>
+
 #include <gmock/gmock.h>
 
 #include "formulairetemoin.h"
@@ -30,9 +33,13 @@ class Controle : public testing::Test {
 };
 
 TEST_F(Controle, se_trouve_par_nom_et_index) {
-    EXPECT_EQ(form.trouver("solution", 2)->nomcomplet(), "solution(2)");
-    EXPECT_EQ(form.trouver("valider")->nomcomplet(), "valider");
+    EXPECT_EQ(form.controle("solution", 2).nomcomplet(), "solution(2)");
+    EXPECT_EQ(form.controle("valider").nomcomplet(), "valider");
     EXPECT_EQ(form.trouver("solution"), nullptr);
+    EXPECT_THAT([&] { std::ignore = form.controle("solucion"); },
+                testing::ThrowsMessage<std::out_of_range>(testing::HasSubstr("« solucion »")));
+    EXPECT_THAT([&] { std::ignore = form.controle("solution", 9); },
+                testing::ThrowsMessage<std::out_of_range>(testing::HasSubstr("« solution(9) »")));
     EXPECT_EQ(form.trouver("solution", 3), nullptr);
     EXPECT_EQ(form.trouver("valider", 0), nullptr);
 }

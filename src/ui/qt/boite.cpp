@@ -54,13 +54,14 @@ void Boite::composer() {
     ligne_.composer(texte(), fonte(), place, controle()->alignement(), *this);
 }
 
-/// Brings the line, and QLineEdit's own copy of it, to the model's text, caret and selection.
+/// Brings the line, and QLineEdit's own copy of it, which has a bound, to the model's text, caret
+/// and selection.
 void Boite::montrertexte() {
     const auto ancre = controle()->ancre();
     const auto curseur = controle()->curseur();
     ligne_.poserselection(ancre, curseur);
     const QSignalBlocker muet(this);
-    const auto voulu = texte();
+    const auto voulu = texte().left(maxLength());
     if (text() != voulu)
         setText(voulu);
     const int debut = placeqt(voulu, ancre);

@@ -13,6 +13,8 @@
 namespace ui::qt {
 namespace {
 
+/// Code units of a text that are laid out at once: many more than a screen is wide.
+constexpr qsizetype troncon = 4000;
 constexpr double plancher = .55;  // of the font's size, under which the text slides instead
 // A font's height leaves room for accents on capitals: that much of it may pass the edges.
 constexpr double hauteurutile = .86;
@@ -21,20 +23,40 @@ constexpr double hauteurutile = .86;
 
 void LigneSaisie::composer(const QString& texte, const QFont& fonte, const QRectF& place,
                            Alignement alignement, const QPaintDevice& support) {
-    texte_ = texte;
+    complet_ = texte;
     place_ = place;
+    alignement_ = alignement;
     const QSizeF libre(place.width(), place.height() / hauteurutile);
-    fonte_ = ajusterligne(fonte, texte, libre, support, plancher);
+    fonte_ = ajusterligne(fonte, texte.left(troncon), libre, support, plancher);
     // The painter measures as the screen does.
     fonte_ = QFont(fonte_, &support);
-    const QFontMetricsF mesure(fonte_);
-    hauteur_ = mesure.height();
-    entiere_ = mesure.horizontalAdvance(texte);
-    const double reste = std::max(0.0, place.width() - entiere_);
-    const double part = alignement == Alignement::Centre   ? .5
-                        : alignement == Alignement::Droite ? 1
-                                                           : 0;
-    depart_ = place.left() + reste * part;
+    hauteur_ = QFontMetricsF(fonte_).height();
+    decouper(debut_);
+}
+
+/// Lays out the stretch that begins at a code unit, or the last one before the end.
+void LigneSaisie::decouper(qsizetype debut) {
+    debut_ = std::clamp<qsizetype>(debut, 0, std::max<qsizetype>(0, complet_.size() - troncon));
+    if (debut_ > 0 && complet_.at(debut_).isLowSurrogate())
+        --debut_;
+    texte_ = complet_.mid(debut_, troncon);
+    avant_ = static_cast<std::size_t>(complet_.left(debut_).toUcs4().size());
+    entiere_ = QFontMetricsF(fonte_).horizontalAdvance(texte_);
+    const double reste = std::max(0.0, place_.width() - entiere_);
+    const double part = alignement_ == Alignement::Centre   ? .5
+                        : alignement_ == Alignement::Droite ? 1
+                                                            : 0;
+    depart_ = place_.left() + reste * part;
+}
+
+/// Moves the stretch on when the caret comes near an end of it that is not the text's.
+void LigneSaisie::suivre(qsizetype curseur) {
+    constexpr qsizetype bord = troncon / 4;
+    const auto fin = debut_ + texte_.size();
+    const bool tropagauche = debut_ > 0 && curseur < debut_ + bord;
+    const bool tropadroite = fin < complet_.size() && curseur > fin - bord;
+    if (tropagauche || tropadroite)
+        decouper(curseur - troncon / 2);
 }
 
 double LigneSaisie::largeur(int unites) const {
@@ -42,8 +64,13 @@ double LigneSaisie::largeur(int unites) const {
 }
 
 void LigneSaisie::poserselection(std::size_t ancre, std::size_t curseur) {
-    ancre_ = placeqt(texte_, ancre);
-    curseur_ = placeqt(texte_, curseur);
+    const qsizetype place = placeqt(complet_, curseur);
+    suivre(place);
+    const auto dedans = [this](qsizetype unite) {
+        return static_cast<int>(std::clamp<qsizetype>(unite - debut_, 0, texte_.size()));
+    };
+    ancre_ = dedans(placeqt(complet_, ancre));
+    curseur_ = dedans(place);
     const double trop = std::max(0.0, entiere_ - place_.width());
     const double x = trop > 0 ? largeur(curseur_) : 0;
     glisse_ = std::clamp(glisse_, x - place_.width(), x);
@@ -52,17 +79,21 @@ void LigneSaisie::poserselection(std::size_t ancre, std::size_t curseur) {
 
 std::size_t LigneSaisie::caractere(double x) const {
     const double cible = x - depart_ + glisse_;
-    std::size_t position = 0;
-    double avant = 0;
-    for (int i = 0; i < texte_.size(); ++position) {
-        const int suivant = i + (texte_.at(i).isHighSurrogate() ? 2 : 1);
-        const double apres = largeur(suivant);
-        if (cible < (avant + apres) / 2)
-            return position;
-        avant = apres;
-        i = suivant;
+    // Half of each character belongs to the place before it.
+    const auto devant = [&](std::size_t position) {
+        const int ici = placeqt(texte_, position);
+        return cible < (largeur(ici) + largeur(placeqt(texte_, position + 1))) / 2;
+    };
+    std::size_t bas = 0;
+    auto haut = static_cast<std::size_t>(texte_.toUcs4().size());
+    while (bas < haut) {
+        const auto milieu = (bas + haut) / 2;
+        if (devant(milieu))
+            haut = milieu;
+        else
+            bas = milieu + 1;
     }
-    return position;
+    return avant_ + bas;
 }
 
 QRectF LigneSaisie::curseur(double epaisseur) const {

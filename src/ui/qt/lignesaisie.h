@@ -33,8 +33,14 @@ class LigneSaisie {
 
   private:
     [[nodiscard]] double largeur(int unites) const;
+    void decouper(qsizetype debut);
+    void suivre(qsizetype curseur);
 
-    QString texte_;
+    QString complet_;
+    QString texte_;  ///< the stretch of it that is laid out: all of it, unless it is very long
+    qsizetype debut_ = 0;    ///< where that stretch begins
+    std::size_t avant_ = 0;  ///< characters before it
+    Alignement alignement_{};
     QFont fonte_;
     QRectF place_;
     double depart_ = 0;   ///< where the text begins, before it slides

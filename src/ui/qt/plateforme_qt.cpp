@@ -24,7 +24,7 @@ common::Instant PlateformeQt::maintenant() {
             .seconde = instant.time().second()};
 }
 
-void PlateformeQt::bip() {
+void PlateformeQt::sonner() {
     QApplication::beep();
 }
 

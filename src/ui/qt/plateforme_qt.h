@@ -19,7 +19,6 @@ class PlateformeQt : public Plateforme {
     common::Disque& disque() override { return disque_; }
     common::Hasard& hasard() override { return hasard_; }
     [[nodiscard]] common::Instant maintenant() override;
-    void bip() override;
     void ouvrir(std::string_view cible) override;
     [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
     void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
@@ -27,6 +26,7 @@ class PlateformeQt : public Plateforme {
     [[nodiscard]] Fenetrier& fenetrier() { return fenetrier_; }
 
   protected:
+    void sonner() override;
     [[nodiscard]] Reponse demander(std::string_view texte, Icone icone, bool ouinon) override;
     void jouer(std::string_view fichier) override;
     void pomper() override;

@@ -205,6 +205,26 @@ TEST_F(Boites, le_bouton_du_milieu_colle_la_selection_de_la_souris) {
     EXPECT_EQ(solution[1]->texte(), "Q");
 }
 
+TEST_F(Boites, deux_cents_milliers_de_lettres_se_collent_d_une_ecriture) {
+    int changements = 0;
+    const QString lettres(200000, QLatin1Char('A'));
+    QGuiApplication::clipboard()->setText(lettres);
+    for (auto* controle : {solution[0], user}) {
+        controle->change = [&changements] { ++changements; };
+        forme->donnerfocus(*controle);
+        fenetrier->rafraichir();
+        touche(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(controle->texte().size(), 200000U) << controle->nomcomplet();
+        EXPECT_EQ(std::exchange(changements, 0), 1) << controle->nomcomplet();
+        EXPECT_FALSE(image(*controle).isNull());
+        cliquer(*controle, QPoint(75, 20));
+        EXPECT_GT(controle->curseur(), 199000U);
+        touche(Qt::Key_Home);
+        cliquer(*controle, QPoint(2, 20));
+        EXPECT_LT(controle->curseur(), 3U);
+    }
+}
+
 TEST_F(Boites, rien_ne_se_depose) {
     for (const auto* controle : {solution[0], notes, user})
         EXPECT_FALSE(widget(*controle).acceptDrops()) << controle->nomcomplet();
