@@ -96,7 +96,7 @@ void Dialog2::charger() {
 }
 
 void Dialog2::ouvrir() {
-    visible = true;
+    montrer();
     assistance_.coche = voisins_.dialog2.saisieassistee != 0;
     choisircouleur(voisins_.form3.couleurdufond);
     if (focus() == nullptr)
