@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "contours.h"
 #include "menudessai.h"
 
 namespace {
@@ -53,6 +54,24 @@ TEST_P(Panneaux, montre_ses_rangees) {
         for (const auto* bouton : {"Command14", "Command6", "Command22"})
             EXPECT_EQ(visible(essai::avecrang(bouton, r)), r < fin) << bouton << r;
     }
+}
+
+/// Of controls that share a place, those made later lie in front.
+TEST_P(Panneaux, rien_ne_couvre_ce_qui_se_clique) {
+    ouvrir(GetParam().cle);
+    const auto liste = banc::vus(*form);
+    std::size_t clics = 0;
+    for (std::size_t i = 0; i < liste.size(); ++i) {
+        const auto& dessous = *liste[i];
+        if (!dessous.clic && !dessous.focalisable)
+            continue;
+        ++clics;
+        EXPECT_TRUE(banc::danslafenetre(dessous)) << dessous.nomcomplet();
+        for (std::size_t j = i + 1; j < liste.size(); ++j)
+            EXPECT_FALSE(banc::secouvrent(dessous, *liste[j]))
+                << liste[j]->nomcomplet() << " sur " << dessous.nomcomplet();
+    }
+    EXPECT_GT(clics, 20U);
 }
 
 TEST_P(Panneaux, montre_ses_parties_sous_tout) {
