@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,6 +12,18 @@ constexpr const char* secondaires =
     "Command7(0) Command7(1) Command7(2) Command7(3) Command7(4) Command7(5) Command7(6) "
     "Command7(7) Command7(8) Command7(9) Command8 Command9 Command15(0) Command15(1) "
     "Command15(2) Command11(0) Command11(1) Text2 Command16";
+
+/// One control lies over more than the edge of another: the part buttons share their edges, less
+/// than a pixel wide.
+bool cache(const ui::Controle& dessus, const ui::Controle& dessous) {
+    constexpr int pixel = 15;  // twips
+    const auto commun = [](int a, int longueura, int b, int longueurb) {
+        return std::min(a + longueura, b + longueurb) - std::max(a, b);
+    };
+    return commun(dessus.gauche(), dessus.largeur(), dessous.gauche(), dessous.largeur()) >=
+               pixel &&
+           commun(dessus.haut(), dessus.hauteur(), dessous.haut(), dessous.hauteur()) >= pixel;
+}
 
 class Panneaux : public essai::Menudessai, public testing::WithParamInterface<essai::Panneau> {
   protected:
@@ -68,7 +82,7 @@ TEST_P(Panneaux, rien_ne_couvre_ce_qui_se_clique) {
         ++clics;
         EXPECT_TRUE(banc::danslafenetre(dessous)) << dessous.nomcomplet();
         for (std::size_t j = i + 1; j < liste.size(); ++j)
-            EXPECT_FALSE(banc::secouvrent(dessous, *liste[j]))
+            EXPECT_FALSE(cache(*liste[j], dessous))
                 << liste[j]->nomcomplet() << " sur " << dessous.nomcomplet();
     }
     EXPECT_GT(clics, 20U);
