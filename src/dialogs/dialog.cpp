@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "echap.h"
+
 namespace dialogs {
 namespace {
 
@@ -18,6 +20,7 @@ Dialog::Dialog(ui::Plateforme& plateforme, std::function<void()> decharger)
     largeur = largeurforme;
     hauteur = hauteurforme;
     resultats_.multiligne = true;
+    resultats_.ascenseur = true;
     resultats_.accessible = "Résultats de la liste, du plus ancien au plus récent";
     resultats_.placer({0, 0, largeurforme, hauteurforme});
     tabulation({&resultats_});
@@ -25,6 +28,7 @@ Dialog::Dialog(ui::Plateforme& plateforme, std::function<void()> decharger)
         visible = false;
         decharger_();
     };
+    fermerparechap(*this);
 }
 
 void Dialog::montrer(std::string_view titre) {

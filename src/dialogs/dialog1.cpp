@@ -4,6 +4,7 @@
 
 #include "adresses.h"
 #include "dimensions.h"
+#include "echap.h"
 
 namespace dialogs {
 namespace {
@@ -59,6 +60,7 @@ Dialog1::Dialog1(ui::Plateforme& plateforme, common::Voisins& voisins)
     appui_.accessible = "Fin du texte";
     appui_.placer({2 * marge, 2 * marge, cotedeappui, cotedeappui});  // behind the text
     tabulation({&texte_, &appui_});
+    fermerparechap(*this);
     dimensionner(largeurtexte, hauteurtexte);
 }
 

@@ -5,6 +5,7 @@
 
 #include "couleurs.h"
 #include "dialog2_dessin.h"
+#include "echap.h"
 #include "nombre.h"
 #include "settings.h"
 
@@ -75,6 +76,7 @@ void Dialog2::brancher() {
     ok_.clic = [this] { cliquerok(); };
     annuler_.clic = [this] { partir(); };
     fermeture = [this] { partir(); };
+    fermerparechap(*this);
     mettredefaut(ok_);
     tabulation({&vert_, &rouge_, &temps_, &base_, &couleur_, &son_, &assistance_, &ok_, &annuler_});
 }
@@ -96,7 +98,7 @@ void Dialog2::charger() {
 }
 
 void Dialog2::ouvrir() {
-    visible = true;
+    montrer();
     assistance_.coche = voisins_.dialog2.saisieassistee != 0;
     choisircouleur(voisins_.form3.couleurdufond);
     if (focus() == nullptr)

@@ -32,6 +32,7 @@ Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
       total_(poser(Genre::Etiquette, "Label12", -1, "", {})),
       cadrepied_(ajouter(Genre::Cadre, "cadreaide")),
       aide_(poser(Genre::Etiquette, "Label11", -1, "", {})),
+      fondmessage_(ajouter(Genre::Etiquette, "fondmessage")),
       message_(poser(Genre::Etiquette, "Label13", -1, "", {})),
       app_(poser(Genre::Case, "app", -1, "Apprentissage", {7560, 8610, 1860, 480})),
       options_(poser(Genre::Bouton, "Command12", -1, "Options", {9450, 8610, 2010, 480})),
@@ -93,7 +94,6 @@ bool Form3::Verification(std::string_view chemin) {
 void Form3::donnerfond(std::uint32_t rvb) {
     fond = ui::Couleur(rvb);
     app_.fond = fond();
-    message_.fond = fond();
 }
 
 void Form3::aide(std::string_view texteaide) {
@@ -108,6 +108,7 @@ void Form3::patienter(bool attente) {
 void Form3::annoncer(std::string_view annonce) {
     message_.texte = std::string(annonce);
     message_.fondu = annonce.empty();
+    fondmessage_.visible = !annonce.empty();
 }
 
 /// A row without a result shows no ground either.
@@ -116,6 +117,13 @@ void Form3::ecrireresultat(std::size_t rangee, const Resultat& resultat) {
     ligne.date.texte = resultat.date;
     ligne.resultat.texte = resultat.texte;
     ligne.resultat.fondu = resultat.texte.empty();
+    decrire(ligne.resultat);
+}
+
+/// What the colour of a result says is heard too.
+void Form3::decrire(ui::Controle& resultat) {
+    resultat.description =
+        std::string(resultat.texte().empty() ? "" : nomdelateinte(resultat.couleur()));
 }
 
 void Form3::historique(std::size_t rangee) {

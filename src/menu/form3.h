@@ -89,6 +89,7 @@ class Form3 : public ui::Formulaire {
     void montrerinsignes(const Panneau& panneau);
     void verifierpersonnel();
     void ecrireresultat(std::size_t rangee, const Resultat& resultat);
+    static void decrire(ui::Controle& resultat);
     void annoncer(std::string_view annonce);
     void historique(std::size_t rangee);
 
@@ -112,6 +113,7 @@ class Form3 : public ui::Formulaire {
     ui::Controle& total_;
     ui::Controle& cadrepied_;
     ui::Controle& aide_;
+    ui::Controle& fondmessage_;  ///< hides the end of the help box behind the message line
     ui::Controle& message_;
     ui::Controle& app_;
     ui::Controle& options_;

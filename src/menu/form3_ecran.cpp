@@ -49,6 +49,8 @@ constexpr ui::Couleur encreentete{0x4A4438};
 constexpr ui::Cadrage cadrepied{45, 8505, 7395, 1290};
 constexpr ui::Cadrage cadreaide{120, 8600, 7215, 1000};
 constexpr ui::Cadrage cadremessage{120, 9240, 7215, 495};
+/// Under the message line: from the end of the second line of help, so that no line is half hidden.
+constexpr ui::Cadrage cadrefondmessage{75, 9150, 7335, 615};
 constexpr std::string_view policeaide = "Times New Roman";
 
 /// The ground of a result: on it green, orange and red stand out alike, whatever background the
@@ -150,14 +152,15 @@ Form3::Controles Form3::poserinsignes(std::string_view nom, std::size_t combien,
     return insignes;
 }
 
-/// The two pictures of racks, in the place of the row that their panel does not have.
+/// The two pictures of racks, beside the row that their panel does not have: its result stays free.
 Form3::Controles Form3::poserimages() {
-    constexpr int largeurimage = 2940;
+    constexpr int ecart = 90;
+    constexpr int largeurimage = (colonnerevision + largeurlancement - colonnetout - ecart) / 2;
     const int sommet = haut(nblignes - 1);
     return {&poser(Genre::Bouton, "Command11", 0, "8L, + de 5 anagrammes",
-                   {colonnenombre + largeurimage + 90, sommet, largeurimage, hauteurtout}),
+                   {colonnetout + largeurimage + ecart, sommet, largeurimage, hauteurtout}),
             &poser(Genre::Bouton, "Command11", 1, "7L, + de 5 anagrammes",
-                   {colonnenombre, sommet, largeurimage, hauteurtout})};
+                   {colonnetout, sommet, largeurimage, hauteurtout})};
 }
 
 void Form3::dresser() {
@@ -180,10 +183,13 @@ void Form3::dresser() {
     aide_.placer(cadreaide);
     aide_.police = std::string(policeaide);
     aide_.taille = 12;
+    fondmessage_.placer(cadrefondmessage);
+    fondmessage_.fond = ui::Couleur::fenetre();
+    fondmessage_.visible = false;
+    message_.fond = ui::Couleur::fenetre();
     message_.placer(cadremessage);
     message_.police = std::string(policeaide);
     message_.taille = 9.75;
-    mettredefaut(persook_);
     ordonner();
 }
 

@@ -16,6 +16,9 @@ void Form3::brancher() {
     for (auto* image : images_)
         image->clic = [this, image] { voisins_.apropos.montrerimage(image->index()); };
     persook_.clic = [this] { verifierpersonnel(); };
+    // Enter anywhere else must not check a file that nobody is naming.
+    perso_.entree = [this] { mettredefaut(persook_); };
+    perso_.sortie = [this] { sansdefaut(); };
     options_.clic = [this] { voisins_.options.ouvrir(); };
     apropos_.clic = [this] { voisins_.apropos.apropos(); };
     miseajour_.clic = [this] { voisins_.apropos.verifiermiseajour(); };
@@ -31,6 +34,7 @@ void Form3::brancherligne(std::size_t rangee) {
     ligne.echantillon.clic = [this, rangee] { jouerechantillon(rangee); };
     ligne.revision.clic = [this, rangee] { jouerrevision(rangee); };
     ligne.resultat.clic = [this, rangee] { historique(rangee); };
+    ligne.resultat.repeint = [&resultat = ligne.resultat] { decrire(resultat); };
     for (std::size_t i = 0; i < nbparties; ++i)
         ligne.parties[i]->clic = [this, rangee, i] { jouerpartie(rangee, i); };
 }

@@ -163,4 +163,12 @@ std::optional<ui::Couleur> teinte(std::string_view texte, int seuilch, int seuil
     return couleur;
 }
 
+std::string_view nomdelateinte(ui::Couleur couleur) {
+    if (couleur == vert)
+        return "Vert";
+    if (couleur == orange)
+        return "Orange";
+    return couleur == rouge ? "Rouge" : "";
+}
+
 }  // namespace menu

@@ -61,5 +61,7 @@ void actualiser(Resultats& resultats, std::span<const Liste> listes, const Derni
 
 /// The colour of a result, by the two thresholds in percent; nothing for an empty text.
 [[nodiscard]] std::optional<ui::Couleur> teinte(std::string_view texte, int seuilch, int seuilcb);
+/// The name of such a colour, for those who hear the table; empty for any other.
+[[nodiscard]] std::string_view nomdelateinte(ui::Couleur couleur);
 
 }  // namespace menu

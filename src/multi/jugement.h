@@ -17,7 +17,7 @@
 namespace multi {
 
 /// A rack of which only blank boxes were wrong.
-inline constexpr ui::Couleur blancs{0xFFC0C0};
+inline constexpr ui::Couleur blancs = ui::couleurs::incomplet;
 
 /// A table of a run has no room left.
 enum class Debordement : std::uint8_t { Aucun, Motsfaux, Tiragesfaux };

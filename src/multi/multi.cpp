@@ -66,6 +66,11 @@ void Multi::branchersaisie() {
         };
     recherche.entree = [this] { mettredefaut(valider); };
     recherche.clic = [this] { cliquerrecherche(boite_); };
+    valider.clic = [this] {
+        validerrecherche();
+        if (!serieouverte())
+            mettredefaut(Command2);
+    };
 }
 
 void Multi::coloration() {

@@ -5,6 +5,7 @@
 
 #include "faute.h"
 #include "fichier.h"
+#include "paroles.h"
 #include "polices.h"
 
 namespace series {
@@ -62,6 +63,7 @@ Formserie::Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const
       enrevision_(tirage.size(), false),
       entame_(tirage.size(), false) {
     texte = std::string(gabarit.titre);
+    traduirecouleurs();
     habillerboites();
     habillerpanneaux();
     brancher();
@@ -119,6 +121,22 @@ void Formserie::habillerboites() {
             boite->aspect = ui::Aspect::Case;
         }
     }
+}
+
+/// Keeps what is heard in step with what is seen, whatever paints.
+void Formserie::traduirecouleurs() {
+    for (auto* boite : tirage)
+        boite->repeint = [this, boite] {
+            boite->description = std::string(parolesdutirage(boite->fond(), serieouverte()));
+        };
+    for (auto* boite : solution)
+        boite->repeint = [boite] {
+            boite->description = std::string(parolesdelareponse(boite->fond()));
+        };
+    for (auto* horloge : {&chronos.temps, &chronos.tempstot})
+        horloge->repeint = [horloge] {
+            horloge->description = std::string(parolesdelhorloge(horloge->fond()));
+        };
 }
 
 void Formserie::ecriretextes() {

@@ -101,6 +101,8 @@ class Formserie : public ui::Formulaire {
     void peindreaurepos(int rang);
     /// All boxes in use but one, and all racks but its own, at rest.
     void peindreautres(int rang);
+    /// Puts the second line of entry in the current box, and makes the next one current.
+    void validerrecherche();
     /// A click in the second line of entry: the first rack at rest, this box in the current colour.
     void cliquerrecherche(int rang);
 
@@ -210,6 +212,7 @@ class Formserie : public ui::Formulaire {
   private:
     std::vector<ui::Controle*> rangerde(ui::Genre genre, std::string_view nomcommun, int nombre,
                                         int premier = 0);
+    void traduirecouleurs();
     void habillerboites();
     void ecriretextes();
     void habillerpanneaux();
@@ -227,7 +230,6 @@ class Formserie : public ui::Formulaire {
     void toucheboite(int rang, ui::Touche& touche);
     void reduire(int place);
     void suivante();
-    void validerrecherche();
     void focaliserboite(int rang) { donnerfocus(*solution[static_cast<std::size_t>(rang)]); }
 
     void effacerserie();

@@ -54,6 +54,8 @@ void Controle::modifie(Champ champ) {
         return;
     }
     notifier(champ);
+    if (champ == Champ::Fond || champ == Champ::Couleur)
+        declencher(repeint);
     const bool parti =
         (champ == Champ::Visible && !visible()) || (champ == Champ::Actif && !actif());
     if (parti)

@@ -61,7 +61,8 @@ enum class Champ : std::uint8_t {
     Selection,    ///< caret or selection of a text box
     Choix,        ///< entries of a combo box
     PremierPlan,  ///< the control was brought to the front
-    Fondu         ///< transparent background
+    Fondu,        ///< transparent background
+    Description
 };
 
 /// What draws a control; the model tells it what has changed.
@@ -107,6 +108,8 @@ class Controle : public Observe<Champ> {
     P<std::string> infobulle{*this, Champ::Infobulle, {}};
     /// Name for assistive technologies, in French; a view falls back on the text.
     P<std::string> accessible{*this, Champ::Accessible, {}};
+    /// What its colours say, for assistive technologies, in French; empty where they say nothing.
+    P<std::string> description{*this, Champ::Description, {}};
     P<Couleur> fond{*this, Champ::Fond, Couleur::bouton()};
     P<bool> fondu{*this, Champ::Fondu, false};
     P<Couleur> couleur{*this, Champ::Couleur, couleurs::noir};
@@ -132,6 +135,8 @@ class Controle : public Observe<Champ> {
     bool pressepapiers = true;
     /// A text box of several lines; its keys and its clipboard are the view's own affair.
     bool multiligne = false;
+    /// Such a box shows its vertical scroll bar also where the text fits.
+    bool ascenseur = false;
     /// A click or Tab can give the control the focus (buttons, boxes, check boxes, lists).
     bool focalisable = false;
 
@@ -153,6 +158,7 @@ class Controle : public Observe<Champ> {
     Evenement<> survol;   ///< the mouse passes over
     Evenement<> relache;  ///< a mouse button is released on it
     Evenement<> change;   ///< the text has changed, by the user or by the program
+    Evenement<> repeint;  ///< the colour of the text or of the background has changed
 
     // Editing of a text box, in characters. The caret stands between 0 and the text's length.
     [[nodiscard]] std::size_t curseur() const { return curseur_; }

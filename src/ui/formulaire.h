@@ -118,6 +118,8 @@ class Formulaire : public Observe<ChampFormulaire> {
     [[nodiscard]] Controle* defaut() const { return defaut_; }
     /// The button that Enter clicks from a box.
     void mettredefaut(Controle& bouton) { defaut_ = &bouton; }
+    /// Enter clicks no button from a box.
+    void sansdefaut() { defaut_ = nullptr; }
 
     void ouvrirmenu(Menu& menu);
     [[nodiscard]] Menu* menuouvert() const { return menuouvert_; }

@@ -38,7 +38,8 @@ inline constexpr Couleur solutionaurepos{0xFFC080};
 inline constexpr Couleur juste{0x80FF80};     ///< also the rack of the current box, a stopped clock
 inline constexpr Couleur courante{0xFFFF80};  ///< answer box of the current rack
 inline constexpr Couleur faux{0xFF8080};      ///< also the tiles at the end of a list
-inline constexpr Couleur tuile{0xC0C0FF};     ///< also `quitter` at the end of a list
+inline constexpr Couleur incomplet{0xFFC0C0};  ///< rack of which only blank boxes were wrong
+inline constexpr Couleur tuile{0xC0C0FF};      ///< also `quitter` at the end of a list
 inline constexpr Couleur noir{0x000000};
 inline constexpr Couleur parDefaut{0xFFE0C0};  ///< background of the forms
 }  // namespace couleurs

@@ -64,6 +64,12 @@ bool infobulle(const Vu& vu) {
     return lue == versqt(vu.controle.infobulle());
 }
 
+/// What is said of the colours. A list says instead how it opens.
+bool description(const Vu& vu) {
+    return vu.controle.genre() == ui::Genre::Liste ||
+           vu.widget.accessibleDescription() == versqt(vu.controle.description());
+}
+
 /// Where the control lies at the window's scale. A line without thickness is drawn with one.
 bool place(const Vu& vu) {
     const auto& c = vu.controle;
@@ -90,6 +96,7 @@ constexpr std::array regards{
     Regard{"coche", coche},
     Regard{"selection", selection},
     Regard{"infobulle", infobulle},
+    Regard{"description", description},
     Regard{"place", place},
 };
 

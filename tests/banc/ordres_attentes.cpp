@@ -1,5 +1,6 @@
 // Orders that read the program, and say what it should be like.
 
+#include <algorithm>
 #include <array>
 
 #include "cible.h"
@@ -15,13 +16,25 @@ void accorder(const std::string& desaccord, const std::string& nom) {
         throw Refus("l'écran et le modèle diffèrent : " + nom + " : " + desaccord);
 }
 
+constexpr std::array formulaires{"Form1",  "Form2",   "Form3",  "Multi",
+                                 "Dialog", "Dialog1", "Dialog2"};
+
+/// The form is one of the program's, not made yet or gone.
+bool dechargee(const Seance& seance, std::string_view nom) {
+    return std::find(formulaires.begin(), formulaires.end(), nom) != formulaires.end() &&
+           seance.plateforme.bureau.trouver(nom) == nullptr;
+}
+
 /// The value of "Form1.solution(3).texte" or "Form1.focus".
 std::string valeur(Seance& seance, const std::string& nom) {
     const auto point = nom.rfind('.');
     if (point == std::string::npos)
         throw OrdreFaux("propriété attendue : " + nom);
-    const auto cible = trouver(seance, std::string_view(nom).substr(0, point));
+    const auto objet = std::string_view(nom).substr(0, point);
     const auto propriete = std::string_view(nom).substr(point + 1);
+    if (propriete == "visible" && dechargee(seance, objet))
+        return "non";
+    const auto cible = trouver(seance, objet);
     std::optional<std::string> lu;
     if (cible.controle != nullptr) {
         if (cible.controle->genre() == ui::Genre::Entree && !proposee(*cible.controle))

@@ -35,8 +35,17 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"demarrer_montre_Form2", "demarrer\nattendre Form2.visible oui\n", "ok\nok\n"},
         Cas{"demarrer_deux_fois_est_refuse", "demarrer\ndemarrer\n",
             "ok\nerreur: le programme est déjà lancé (essai:2)\n"},
-        Cas{"un_formulaire_que_le_programme_n_a_pas_fait_est_absent", "lire Form1.visible\n",
-            "erreur: formulaire absent : Form1 (essai:1)\n"},
+        Cas{"un_formulaire_que_le_programme_n_a_pas_fait_est_absent",
+            "lire Form1.texte\nlire Form1.solution(0).visible\nattendre Form1.focus \"\"\n",
+            "erreur: formulaire absent : Form1 (essai:1)\n"
+            "erreur: formulaire absent : Form1 (essai:2)\n"
+            "erreur: formulaire absent : Form1 (essai:3)\n"},
+        Cas{"un_formulaire_que_le_programme_n_a_pas_fait_n_est_pas_visible",
+            "lire Form1.visible\ndemarrer\nattendre Dialog2.visible non\n"
+            "attendre Dialog2.visible oui\n",
+            "= non\nok\nok\nerreur: attendu « oui », lu « non » (essai:4)\n"},
+        Cas{"un_formulaire_inconnu_est_absent", "lire Form9.visible\n",
+            "erreur: formulaire absent : Form9 (essai:1)\n"},
         Cas{"connexion_lance_tape_le_nom_et_clique",
             "connexion Zoé B.\nlire Form2.user.texte\nlire Form3.visible\nlire Form2.visible\n",
             "ok\n= Zoé B.\n= oui\n= non\n"},

@@ -61,6 +61,14 @@ TEST_F(Dialog, la_case_de_fermeture_le_decharge) {
     EXPECT_EQ(decharges, 1);
 }
 
+TEST_F(Dialog, echap_le_decharge_aussi) {
+    form.montrer("3LC");
+    form.enfoncer({ui::touches::echap});
+    EXPECT_FALSE(form.visible());
+    EXPECT_EQ(decharges, 1);
+    EXPECT_EQ(boite.texte(), "");
+}
+
 TEST_F(Dialog, cacher_garde_le_titre_et_le_texte) {
     form.montrer("3LC");
     form.ajouter(lignes);
@@ -73,6 +81,7 @@ TEST_F(Dialog, cacher_garde_le_titre_et_le_texte) {
 
 TEST_F(Dialog, la_boite_remplit_la_fenetre) {
     EXPECT_TRUE(boite.multiligne);
+    EXPECT_TRUE(boite.ascenseur);
     EXPECT_EQ(boite.gauche(), 0);
     EXPECT_EQ(boite.haut(), 0);
     EXPECT_EQ(boite.largeur(), form.largeur());

@@ -57,6 +57,17 @@ TEST_F(Dialog1, montre_le_texte_sur_le_programme) {
     EXPECT_FALSE(visible("Image2"));
 }
 
+TEST_F(Dialog1, echap_le_cache_et_une_autre_touche_non) {
+    form.montrertexte();
+    form.enfoncer({ui::touches::entree});
+    EXPECT_TRUE(form.visible());
+    form.enfoncer({ui::touches::echap});
+    EXPECT_FALSE(form.visible());
+    form.montrerimage(1);
+    form.enfoncer({ui::touches::echap});
+    EXPECT_FALSE(form.visible());
+}
+
 TEST_F(Dialog1, un_deuxieme_clic_recommence_le_texte) {
     form.montrertexte();
     const auto texte = controle("Text1").texte();

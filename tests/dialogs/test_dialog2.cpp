@@ -1,4 +1,6 @@
+#include <array>
 #include <cmath>
+#include <functional>
 #include <memory>
 
 #include <gmock/gmock.h>
@@ -255,18 +257,18 @@ TEST_F(Dialog2, un_disque_plein_finit_le_programme) {
     EXPECT_THAT(v.plateforme.rapport, testing::HasSubstr("disque est plein"));
 }
 
-TEST_F(Dialog2, annuler_et_la_case_de_fermeture_ne_rangent_rien) {
-    for (const bool fermer : {false, true}) {
+TEST_F(Dialog2, annuler_echap_et_la_case_de_fermeture_ne_rangent_rien) {
+    const std::array<std::function<void()>, 3> facons{
+        [this] { cliquer("Command1"); }, [this] { form->enfoncer({ui::touches::echap}); },
+        [this] { form->fermer(); }};
+    for (const auto& partir : facons) {
         charger();
         form->ouvrir();
         ecrire("90", "70", "3", "2");
         ui::Formulaire::choisir(controle("Combo1"), "Gris");
         v.relever();
         decharges = 0;
-        if (fermer)
-            form->fermer();
-        else
-            cliquer("Command1");
+        partir();
         EXPECT_FALSE(form->visible());
         EXPECT_EQ(decharges, 1);
         EXPECT_EQ(v.dialog2.seuilch, 95);

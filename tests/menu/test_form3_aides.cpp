@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "couleurs.h"
 #include "lignes.h"
 #include "menudessai.h"
 
@@ -125,12 +126,32 @@ TEST_F(Survols, un_panneau_sans_texte_laisse_l_aide) {
 }
 
 TEST_F(Survols, le_message_ne_couvre_l_aide_que_s_il_dit_quelque_chose) {
-    EXPECT_TRUE(controle("Label13").fondu());
+    const auto& fond = controle("fondmessage");
+    const auto& message = controle("Label13");
+    EXPECT_TRUE(message.fondu());
+    EXPECT_FALSE(fond.visible());
     ouvrir("bt");
     cliquer("Command6(0)");
-    EXPECT_FALSE(controle("Label13").fondu());
+    EXPECT_FALSE(message.fondu());
+    EXPECT_TRUE(fond.visible());
     survoler("Command14(0)");
-    EXPECT_TRUE(controle("Label13").fondu());
+    EXPECT_TRUE(message.fondu());
+    EXPECT_FALSE(fond.visible());
+}
+
+TEST_F(Survols, le_message_couvre_l_aide_sur_tous_les_fonds) {
+    const auto& fond = controle("fondmessage");
+    const auto& message = controle("Label13");
+    for (const auto& couleur : profiles::couleursdufond()) {
+        form->donnerfond(couleur.couleur.rvb());
+        EXPECT_NE(message.fond(), form->fond()) << couleur.nom;
+        EXPECT_NE(fond.fond(), form->fond()) << couleur.nom;
+    }
+    EXPECT_FALSE(fond.fondu());
+    EXPECT_LE(fond.gauche(), message.gauche());
+    EXPECT_LE(fond.haut(), message.haut());
+    EXPECT_GE(fond.gauche() + fond.largeur(), message.gauche() + message.largeur());
+    EXPECT_GE(fond.haut() + fond.hauteur(), message.haut() + message.hauteur());
 }
 
 TEST_F(Survols, avant_le_premier_panneau_n_ont_pas_de_texte) {

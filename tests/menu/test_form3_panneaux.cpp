@@ -1,6 +1,9 @@
+#include <algorithm>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "contours.h"
 #include "menudessai.h"
 
 namespace {
@@ -9,6 +12,18 @@ constexpr const char* secondaires =
     "Command7(0) Command7(1) Command7(2) Command7(3) Command7(4) Command7(5) Command7(6) "
     "Command7(7) Command7(8) Command7(9) Command8 Command9 Command15(0) Command15(1) "
     "Command15(2) Command11(0) Command11(1) Text2 Command16";
+
+/// One control lies over more than the edge of another: the part buttons share their edges, less
+/// than a pixel wide.
+bool cache(const ui::Controle& dessus, const ui::Controle& dessous) {
+    constexpr int pixel = 15;  // twips
+    const auto commun = [](int a, int longueura, int b, int longueurb) {
+        return std::min(a + longueura, b + longueurb) - std::max(a, b);
+    };
+    return commun(dessus.gauche(), dessus.largeur(), dessous.gauche(), dessous.largeur()) >=
+               pixel &&
+           commun(dessus.haut(), dessus.hauteur(), dessous.haut(), dessous.hauteur()) >= pixel;
+}
 
 class Panneaux : public essai::Menudessai, public testing::WithParamInterface<essai::Panneau> {
   protected:
@@ -53,6 +68,24 @@ TEST_P(Panneaux, montre_ses_rangees) {
         for (const auto* bouton : {"Command14", "Command6", "Command22"})
             EXPECT_EQ(visible(essai::avecrang(bouton, r)), r < fin) << bouton << r;
     }
+}
+
+/// Of controls that share a place, those made later lie in front.
+TEST_P(Panneaux, rien_ne_couvre_ce_qui_se_clique) {
+    ouvrir(GetParam().cle);
+    const auto liste = banc::vus(*form);
+    std::size_t clics = 0;
+    for (std::size_t i = 0; i < liste.size(); ++i) {
+        const auto& dessous = *liste[i];
+        if (!dessous.clic && !dessous.focalisable)
+            continue;
+        ++clics;
+        EXPECT_TRUE(banc::danslafenetre(dessous)) << dessous.nomcomplet();
+        for (std::size_t j = i + 1; j < liste.size(); ++j)
+            EXPECT_FALSE(cache(*liste[j], dessous))
+                << liste[j]->nomcomplet() << " sur " << dessous.nomcomplet();
+    }
+    EXPECT_GT(clics, 20U);
 }
 
 TEST_P(Panneaux, montre_ses_parties_sous_tout) {

@@ -74,6 +74,28 @@ TEST_F(Resultatsdumenu, suivent_les_seuils_a_la_mise_a_jour) {
     EXPECT_EQ(couleur(0), "#FF0000");
 }
 
+TEST_F(Resultatsdumenu, disent_leur_couleur) {
+    const auto dite = [this](std::size_t rangee) {
+        return controle(essai::avecrang("Label6", rangee)).description();
+    };
+    ecrirehist({record("24/08/2019", "95.3", "T - 3lc.txt"),
+                record("25/08/2019", "80", "E - 3lt.txt"),
+                record("26/08/2019", "79", "vb6_b.txt")});
+    ouvrir("bt");
+    EXPECT_EQ(dite(0), "Vert");
+    EXPECT_EQ(dite(1), "Orange");
+    EXPECT_EQ(dite(2), "");
+    EXPECT_EQ(dite(3), "Rouge");
+    v.dialog2.seuilcb = 96;
+    v.dialog2.seuilch = 96;
+    maj();
+    EXPECT_EQ(dite(0), "Rouge");
+    ouvrir("ta");
+    EXPECT_EQ(dite(0), "");
+    ouvrir("bt");
+    EXPECT_EQ(dite(0), "Rouge");
+}
+
 TEST_F(Resultatsdumenu, la_mise_a_jour_ne_fait_qu_ecraser) {
     ecrirehist({record("24/08/2019", "85", "T - 3lc.txt")});
     ouvrir("bt");

@@ -55,6 +55,16 @@ TEST_F(Controle, une_ecriture_qui_ne_change_rien_ne_previent_personne) {
     EXPECT_EQ(changements, 0);
 }
 
+TEST_F(Controle, une_autre_couleur_se_dit) {
+    std::vector<std::string> dites;
+    boite.repeint = [&] { dites.push_back(boite.fond().nom() + " " + boite.couleur().nom()); };
+    boite.fond = ui::couleurs::juste;
+    boite.fond = ui::couleurs::juste;
+    boite.couleur = ui::couleurs::faux;
+    boite.texte = "A";
+    EXPECT_THAT(dites, ElementsAre("#80FF80 #000000", "#80FF80 #FF8080"));
+}
+
 TEST_F(Controle, chaque_changement_previent_la_vue) {
     boite.texte = "A";
     boite.visible = false;

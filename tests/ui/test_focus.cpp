@@ -190,6 +190,15 @@ TEST_F(Focus, Entree_ne_clique_pas_un_bouton_par_defaut_grise) {
     EXPECT_THAT(form.journal(), IsEmpty());
 }
 
+TEST_F(Focus, Entree_ne_clique_rien_quand_le_bouton_par_defaut_est_retire) {
+    form.mettredefaut(form.valider());
+    form.sansdefaut();
+    form.donnerfocus(form.boite(0));
+    form.journal();
+    form.touche(ui::touches::entree);
+    EXPECT_THAT(form.journal(), IsEmpty());
+}
+
 TEST_F(Focus, Entree_et_le_blanc_cliquent_le_bouton_qui_l_a) {
     form.mettredefaut(form.boite(0));
     form.donnerfocus(form.valider());

@@ -8,7 +8,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QPainter>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 #include <QStyleHints>
 
 #include "clavierqt.h"
@@ -35,6 +35,10 @@ Boite::Boite(QWidget& parent, Fenetre& fenetre, Controle& controle)
     setFrame(false);
     setDragEnabled(false);
     setAcceptDrops(false);
+    QObject::connect(this, &QLineEdit::textChanged, this, [this] { recevoirtexte(); });
+    QObject::connect(this, &QLineEdit::cursorPositionChanged, this,
+                     [this] { recevoirselection(); });
+    QObject::connect(this, &QLineEdit::selectionChanged, this, [this] { recevoirselection(); });
 }
 
 void Boite::montrer(Champs champs) {
@@ -60,7 +64,7 @@ void Boite::montrertexte() {
     const auto ancre = controle()->ancre();
     const auto curseur = controle()->curseur();
     ligne_.poserselection(ancre, curseur);
-    const QSignalBlocker muet(this);
+    const QScopedValueRollback sien(sien_, true);
     const auto voulu = texte().left(maxLength());
     if (text() != voulu)
         setText(voulu);
@@ -71,6 +75,60 @@ void Boite::montrertexte() {
     else
         setCursorPosition(fin);
     battre();
+}
+
+/// An assistive technology has written another text: it comes in the place of the old one as if it
+/// were pasted, by the rules of the box.
+void Boite::recevoirtexte() {
+    if (sien_ || controle() == nullptr)
+        return;
+    const auto nouveau = depuisqt(text());
+    retablir();
+    if (!isEnabled() || controle()->verrou() || !controle()->pressepapiers)
+        return;
+    executer([&] {
+        auto& form = controle()->formulaire();
+        form.focaliser(*controle());
+        if (form.focus() != controle())
+            return;
+        controle()->toutselectionner();
+        if (nouveau.empty())
+            static_cast<void>(form.couper());
+        else
+            form.coller(nouveau);
+    });
+}
+
+/// An assistive technology has moved the caret or selected.
+void Boite::recevoirselection() {
+    if (sien_ || controle() == nullptr || text() != texte())
+        return;
+    const auto curseur = positiondeqt(text(), cursorPosition());
+    const auto debut = selectionStart();
+    const auto ancre =
+        debut < 0 ? curseur
+                  : positiondeqt(text(), debut == cursorPosition() ? selectionEnd() : debut);
+    executer([&] { controle()->selectionner(ancre, curseur); });
+}
+
+/// Undoes what QLineEdit did by a habit of its own.
+void Boite::retablir() {
+    if (controle() != nullptr)
+        montrertexte();
+}
+
+/// QLineEdit selects its text when Tab enters it, and forgets its selection when it is left; the
+/// model does neither.
+void Boite::focusInEvent(QFocusEvent* evenement) {
+    const QScopedValueRollback sien(sien_, true);
+    QLineEdit::focusInEvent(evenement);
+    retablir();
+}
+
+void Boite::focusOutEvent(QFocusEvent* evenement) {
+    const QScopedValueRollback sien(sien_, true);
+    QLineEdit::focusOutEvent(evenement);
+    retablir();
 }
 
 void Boite::accorder() {

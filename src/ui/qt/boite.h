@@ -9,8 +9,8 @@
 namespace ui::qt {
 
 /// A text box of one line. The model edits; the box shows text, caret and selection, and reports
-/// what mouse, keyboard and input methods do. QLineEdit only lends its face to input methods and
-/// assistive technologies.
+/// what mouse, keyboard, input methods and assistive technologies do. QLineEdit only lends its face
+/// to the last two.
 class Boite : public VueDe<QLineEdit> {
   public:
     Boite(QWidget& parent, Fenetre& fenetre, Controle& controle);
@@ -34,6 +34,8 @@ class Boite : public VueDe<QLineEdit> {
     void mouseDoubleClickEvent(QMouseEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
     void inputMethodEvent(QInputMethodEvent* evenement) override;
+    void focusInEvent(QFocusEvent* evenement) override;
+    void focusOutEvent(QFocusEvent* evenement) override;
     void timerEvent(QTimerEvent* evenement) override;
 
   private:
@@ -41,11 +43,15 @@ class Boite : public VueDe<QLineEdit> {
     void poser(const QMouseEvent& evenement, bool etendre);
     void composer();
     void montrertexte();
+    void recevoirtexte();
+    void recevoirselection();
+    void retablir();
 
     LigneSaisie ligne_;
     QBasicTimer battement_;
     bool eteint_ = false;  ///< the caret is in the dark half of its blink
     bool glisse_ = false;  ///< the mouse is selecting
+    bool sien_ = false;    ///< QLineEdit changes by this window's doing, or by a habit of its own
 };
 
 }  // namespace ui::qt

@@ -31,6 +31,8 @@ BoiteLongue::BoiteLongue(QWidget& parent, Fenetre& fenetre, Controle& controle)
     setFrameShape(QFrame::NoFrame);
     setUndoRedoEnabled(false);
     setAcceptDrops(false);
+    if (controle.ascenseur)
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     viewport()->setAcceptDrops(false);
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);

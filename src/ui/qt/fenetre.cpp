@@ -257,11 +257,10 @@ void Fenetre::apparaitre() {
     if (!dimensionnee_)
         dimensionner();
     const auto* voisine = fenetrier_.enavant();
-    if (formulaire_->devant()) {
-        winId();  // makes the window of the system
-        if (voisine != nullptr && voisine != this && windowHandle() != nullptr)
-            windowHandle()->setTransientParent(voisine->windowHandle());
-    }
+    if (formulaire_->devant())
+        ouvrirdevant();
+    else
+        fenetrier_.montree(*this);
     // A window that follows another comes up dressed. The first one, for which somebody waits, is
     // dressed while the desktop finds it its place, and painted no earlier either.
     if (voisine != nullptr)
@@ -269,6 +268,32 @@ void Fenetre::apparaitre() {
     show();
     activateWindow();
     completer();
+}
+
+/// A dialog of the window that it stays in front of: the desktop keeps the two in that order.
+void Fenetre::ouvrirdevant() {
+    if (windowType() != Qt::Dialog)
+        setWindowFlags(Qt::Dialog);
+    winId();  // makes the window of the system
+    if (const auto* dessous = fenetrier_.proprietaire(); dessous != nullptr)
+        windowHandle()->setTransientParent(dessous->windowHandle());
+}
+
+/// Follows the window to stay in front of. Desktops ask whose a window is when it shows itself, so
+/// it does that again, without taking the keyboard.
+void Fenetre::rattacher() {
+    auto* dessous = fenetrier_.proprietaire();
+    if (!formulaire_->devant() || !isVisible() || dessous == nullptr ||
+        windowHandle()->transientParent() == dessous->windowHandle())
+        return;
+    const bool active = active_;
+    const auto place = pos();
+    hide();
+    windowHandle()->setTransientParent(dessous->windowHandle());
+    setAttribute(Qt::WA_ShowWithoutActivating, !active);
+    move(place);
+    show();
+    (active ? this : dessous)->activateWindow();
 }
 
 void Fenetre::revenir() {

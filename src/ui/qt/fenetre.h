@@ -54,6 +54,7 @@ class Fenetre : public QWidget, public VueFormulaire {
     // The steps of a refresh, in this order, over all windows.
     void montrercontroles();
     void apparaitre();
+    void rattacher();
     void disparaitre();
     void accorder();
 
@@ -73,6 +74,7 @@ class Fenetre : public QWidget, public VueFormulaire {
     void empiler();
     void filtrer(QWidget& widget, Controle& controle);
     void montrerformulaire();
+    void ouvrirdevant();
     /// A window that is shown already comes back in front.
     void revenir();
     void dimensionner();

@@ -78,6 +78,16 @@ Fenetre* Fenetrier::enavant() const {
     return visible == fenetres_.rend() ? nullptr : *visible;
 }
 
+Fenetre* Fenetrier::proprietaire() const {
+    const auto possible = [](const Fenetre* f) {
+        return f->isVisible() && f->formulaire().visible() && !f->formulaire().devant();
+    };
+    if (dessous_ != nullptr && possible(dessous_))
+        return dessous_;
+    const auto autre = std::find_if(fenetres_.rbegin(), fenetres_.rend(), possible);
+    return autre == fenetres_.rend() ? nullptr : *autre;
+}
+
 void Fenetrier::executer(const std::function<void()>& evenement) {
     plateforme_.executer(evenement);
     rafraichir();
@@ -111,7 +121,7 @@ void Fenetrier::tour() {
     sale_ = false;
     // A window that shows itself before another hides leaves no moment without a window.
     constexpr std::array etapes{&Fenetre::montrercontroles, &Fenetre::apparaitre,
-                                &Fenetre::disparaitre, &Fenetre::accorder};
+                                &Fenetre::rattacher, &Fenetre::disparaitre, &Fenetre::accorder};
     const auto fenetres = fenetres_;
     for (const auto etape : etapes) {
         for (auto* fenetre : fenetres) {
@@ -123,6 +133,10 @@ void Fenetrier::tour() {
 
 void Fenetrier::activee(Fenetre& fenetre) {
     derniere_ = &fenetre;
+    if (!fenetre.formulaire().devant()) {
+        dessous_ = &fenetre;
+        demanderrafraichissement();  // those in front may have to follow
+    }
     garderdevant(fenetre);
 }
 
@@ -148,8 +162,10 @@ void Fenetrier::oublier(Fenetre& fenetre, const Formulaire& formulaire) {
     std::erase(fenetres_, &fenetre);
     partantes_.emplace_back(&fenetre);
     std::erase_if(partantes_, [](const auto& f) { return f.isNull(); });
-    if (derniere_ == &fenetre)
-        derniere_ = nullptr;
+    for (auto* place : {&derniere_, &dessous_}) {
+        if (*place == &fenetre)
+            *place = nullptr;
+    }
 }
 
 }  // namespace ui::qt

@@ -48,6 +48,9 @@ class Fenetrier : public QObject {
     [[nodiscard]] QMenu* menu(const Formulaire& formulaire) const;
     /// The window that is in front, or was last; null if none is shown.
     [[nodiscard]] Fenetre* enavant() const;
+    /// The window that those of forms that stay in front belong to: of the others the one that was
+    /// active or shown last. Null if none is shown.
+    [[nodiscard]] Fenetre* proprietaire() const;
     [[nodiscard]] const std::vector<Fenetre*>& fenetres() const { return fenetres_; }
 
     /// Runs an event in the model, then brings the windows to it.
@@ -63,6 +66,8 @@ class Fenetrier : public QObject {
     // Told by the windows.
     void demanderrafraichissement();
     void activee(Fenetre& fenetre);
+    /// A window that others may belong to is about to show itself.
+    void montree(Fenetre& fenetre) { dessous_ = &fenetre; }
     /// A window has come in front of the others, but for those of forms that stay there.
     void garderdevant(const Fenetre& fenetre);
     /// A window is on screen: the program's icon, whose files take their time, may follow.
@@ -81,6 +86,7 @@ class Fenetrier : public QObject {
     std::vector<Fenetre*> fenetres_;
     std::vector<QPointer<Fenetre>> partantes_;  ///< windows of forms that are gone
     Fenetre* derniere_ = nullptr;               ///< last one activated
+    Fenetre* dessous_ = nullptr;  ///< last one activated or shown, but for those in front
     bool demande_ = false;
     bool encours_ = false;
     bool sale_ = false;

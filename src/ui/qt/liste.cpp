@@ -17,8 +17,10 @@ constexpr double largeurfleche = 24;  // pixels of the design
 }  // namespace
 
 Liste::Liste(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : Boite(parent, fenetre, controle) {
-    setAccessibleDescription(QStringLiteral("Liste : la touche Bas l'ouvre"));
+    : Boite(parent, fenetre, controle) {}
+
+QString Liste::description() const {
+    return QStringLiteral("Liste : la touche Bas l'ouvre");
 }
 
 double Liste::margedroite() const {

@@ -13,6 +13,7 @@ class Liste : public Boite {
 
   protected:
     [[nodiscard]] double margedroite() const override;
+    [[nodiscard]] QString description() const override;
     void completer(QPainter& peintre) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;

@@ -35,7 +35,11 @@ void ascenseur(const QRect& manche, const QStyleOptionSlider& option, QPainter& 
     const double rayon = std::min(barre.width(), barre.height()) / 2;
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(Qt::NoPen);
-    peintre.setBrush(QColor::fromRgb(saisi ? 0xFF6F7890 : survole ? 0xFF8F97AB : 0xFFB3B9C7));
+    const bool inutile = option.maximum <= option.minimum;  // the whole is in sight
+    peintre.setBrush(QColor::fromRgb(inutile   ? 0xFFDDE1E8
+                                     : saisi   ? 0xFF6F7890
+                                     : survole ? 0xFF8F97AB
+                                               : 0xFFB3B9C7));
     peintre.drawRoundedRect(barre, rayon, rayon);
 }
 
@@ -75,9 +79,7 @@ void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComple
     }
     peintre->save();
     peintre->fillRect(option->rect, QColor::fromRgb(0xFFF3F4F7));
-    if (glissiere->maximum > glissiere->minimum)
-        ascenseur(subControlRect(controle, option, SC_ScrollBarSlider, widget), *glissiere,
-                  *peintre);
+    ascenseur(subControlRect(controle, option, SC_ScrollBarSlider, widget), *glissiere, *peintre);
     peintre->restore();
 }
 

@@ -27,4 +27,12 @@ namespace ui::qt {
     return place;
 }
 
+/// The position of the character (0 is the first) that begins at a place of a text of Qt.
+[[nodiscard]] inline std::size_t positiondeqt(const QString& texte, qsizetype place) {
+    std::size_t position = 0;
+    for (qsizetype i = 0; i < place && i < texte.size(); ++position)
+        i += texte.at(i).isHighSurrogate() && i + 1 < texte.size() ? 2 : 1;
+    return position;
+}
+
 }  // namespace ui::qt

@@ -72,6 +72,8 @@ void Vue::appliquer() {
         if (cible.accessibleName() != nom)
             cible.setAccessibleName(nom);
     }
+    if ((champs & ensemble(Champ::Description)) != 0)
+        cible.setAccessibleDescription(description());
     if ((champs & ensemble(Champ::Pointeur)) != 0)
         montrerpointeur();
     if ((champs & ensemble(Champ::Actif)) != 0)
@@ -161,6 +163,10 @@ void Vue::relacher(const QMouseEvent& evenement) {
 
 QString Vue::texte() const {
     return versqt(controle_->texte());
+}
+
+QString Vue::description() const {
+    return versqt(controle_->description());
 }
 
 QFont Vue::fontedemenu() const {

@@ -78,6 +78,8 @@ class Vue : public VueControle {
     void executer(const std::function<void()>& evenement) const;
     /// The control's text.
     [[nodiscard]] QString texte() const;
+    /// What assistive technologies are told beside the name.
+    [[nodiscard]] virtual QString description() const;
     /// The control's font at the window's scale.
     [[nodiscard]] const QFont& fonte() const { return fonte_; }
     /// The font of menus at the window's scale.

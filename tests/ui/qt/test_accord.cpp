@@ -50,6 +50,14 @@ TEST_F(Accord, une_fenetre_a_jour_montre_son_modele) {
 TEST_F(Accord, chaque_ecart_d_un_controle_a_son_nom) {
     auto& boite = static_cast<QLineEdit&>(widget(*solution[0]));
     const auto decaler = [](QWidget& w) { w.move(w.x() + 1, w.y()); };
+    // A box tells the model of what another does to its widget.
+    const auto muet = [&](const std::function<void()>& faire) {
+        return [this, faire, &boite] {
+            const QSignalBlocker une(boite);
+            const QSignalBlocker autre(widget(*tirage[0]));
+            faire();
+        };
+    };
     struct Ecart {
         const ui::Controle* controle;
         std::function<void()> faire;
@@ -59,15 +67,17 @@ TEST_F(Accord, chaque_ecart_d_un_controle_a_son_nom) {
         {valider, [&] { widget(*valider).hide(); }, "visible"},
         {tuile, [&] { widget(*tuile).setEnabled(false); }, "actif"},
         {etiquette, [&] { static_cast<QLabel&>(widget(*etiquette)).setText("?"); }, "texte"},
-        {tirage[0], [&] { static_cast<QLineEdit&>(widget(*tirage[0])).setText("?"); }, "texte"},
+        {tirage[0], muet([&] { static_cast<QLineEdit&>(widget(*tirage[0])).setText("?"); }),
+         "texte"},
         {tirage[1], [&] { static_cast<QLineEdit&>(widget(*tirage[1])).setReadOnly(false); },
          "verrou"},
         {app, [&] { static_cast<QAbstractButton&>(widget(*app)).setChecked(false); }, "coche"},
-        {solution[0], [&] { boite.setSelection(0, 1); }, "selection"},
+        {solution[0], muet([&] { boite.setSelection(0, 1); }), "selection"},
         {solution[1], [&] { widget(*solution[1]).setToolTip("?"); }, "infobulle"},
         {cadre, [&] { decaler(widget(*cadre)); }, "place"},
         {marque, [&] { widget(*marque).resize(3, 3); }, "place"},
         {ligne, [&] { decaler(widget(*ligne)); }, "place"},
+        {tirage[2], [&] { widget(*tirage[2]).setAccessibleDescription("?"); }, "description"},
         {notes, [&] { static_cast<QPlainTextEdit&>(widget(*notes)).setReadOnly(true); }, "verrou"},
     };
     for (const auto& ecart : ecarts) {

@@ -1,11 +1,13 @@
 // Text boxes: caret, selection, clipboard, input methods.
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 
 #include "bureauqt.h"
@@ -95,6 +97,98 @@ TEST_F(Boites, entrer_dans_une_boite_ne_selectionne_rien) {
     fenetrier->rafraichir();
     EXPECT_FALSE(saisie(*solution[1]).hasSelectedText());
     EXPECT_EQ(solution[1]->selection(), 0U);
+}
+
+TEST_F(Boites, y_venir_par_tab_ne_selectionne_rien) {
+    solution[1]->texte = "MOT";
+    fenetrier->rafraichir();
+    touche(Qt::Key_Tab);
+    ASSERT_EQ(forme->focus(), solution[1]);
+    EXPECT_FALSE(saisie(*solution[1]).hasSelectedText());
+    EXPECT_EQ(solution[1]->selection(), 0U);
+    widget(*solution[2]).setFocus(Qt::TabFocusReason);
+    solution[2]->texte = "AUTRE";
+    fenetrier->rafraichir();
+    widget(*solution[1]).setFocus(Qt::TabFocusReason);
+    ASSERT_EQ(forme->focus(), solution[1]);
+    EXPECT_FALSE(saisie(*solution[1]).hasSelectedText());
+}
+
+TEST_F(Boites, une_boite_quittee_garde_sa_selection) {
+    ecrire("AB");
+    touche(Qt::Key_A, Qt::ControlModifier);
+    touche(Qt::Key_Tab);
+    ASSERT_EQ(forme->focus(), solution[1]);
+    EXPECT_EQ(solution[0]->selection(), 2U);
+    EXPECT_EQ(saisie(*solution[0]).selectedText(), "AB");
+    touche(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(solution[0]->selection(), 2U);
+    EXPECT_EQ(saisie(*solution[0]).selectedText(), "AB");
+}
+
+TEST_F(Boites, le_texte_d_une_technologie_d_assistance_suit_les_regles_de_la_boite) {
+    solution[1]->texte = "VIEUX";
+    solution[1]->caractere = [](int& code) {
+        if (code >= 'a' && code <= 'z')
+            code -= 'a' - 'A';
+        if (code == '1')
+            code = 0;
+    };
+    fenetrier->rafraichir();
+    auto* interface = QAccessible::queryAccessibleInterface(&widget(*solution[1]));
+    interface->setText(QAccessible::Value, "mo1t");
+    EXPECT_EQ(solution[1]->texte(), "MOT");
+    EXPECT_EQ(saisie(*solution[1]).text(), "MOT");
+    EXPECT_EQ(forme->focus(), solution[1]);
+    EXPECT_EQ(interface->text(QAccessible::Value), "MOT");
+    interface->setText(QAccessible::Value, "");
+    EXPECT_EQ(solution[1]->texte(), "");
+}
+
+TEST_F(Boites, une_technologie_d_assistance_n_ecrit_pas_ou_l_usager_ne_le_peut) {
+    const auto ecrire = [this](ui::Controle& boite) {
+        boite.texte = "ABC";
+        fenetrier->rafraichir();
+        QAccessible::queryAccessibleInterface(&widget(boite))->setText(QAccessible::Value, "X");
+        EXPECT_EQ(boite.texte(), "ABC") << boite.nomcomplet();
+        EXPECT_EQ(saisie(boite).text(), "ABC") << boite.nomcomplet();
+    };
+    ecrire(*tirage[0]);
+    solution[1]->pressepapiers = false;
+    ecrire(*solution[1]);
+    solution[2]->actif = false;
+    ecrire(*solution[2]);
+    EXPECT_EQ(forme->focus(), solution[0]);
+}
+
+TEST_F(Boites, la_selection_d_une_technologie_d_assistance_va_au_modele) {
+    ecrire("ABCDE");
+    auto* interface = QAccessible::queryAccessibleInterface(&widget(*solution[0]));
+    interface->textInterface()->setSelection(0, 1, 4);
+    EXPECT_EQ(solution[0]->texteselectionne(), "BCD");
+    interface->textInterface()->setCursorPosition(2);
+    EXPECT_EQ(solution[0]->selection(), 0U);
+    EXPECT_EQ(solution[0]->curseur(), 2U);
+}
+
+TEST_F(Boites, seule_la_boite_qui_le_demande_montre_toujours_son_ascenseur) {
+    ui::Formulaire autre(plateforme, "Dialog");
+    autre.largeur = 200 * twips;
+    autre.hauteur = 100 * twips;
+    std::vector<ui::Controle*> boites;
+    for (const bool toujours : {true, false}) {
+        auto& boite = autre.ajouter(ui::Genre::Boite, "Text1", toujours ? 1 : 0);
+        boite.placer({toujours ? 0 : 100 * twips, 0, 100 * twips, 100 * twips});
+        boite.multiligne = true;
+        boite.ascenseur = toujours;
+        boites.push_back(&boite);
+    }
+    fenetrier->accueillir(autre);
+    montrer(autre);
+    for (const auto* boite : boites) {
+        const auto& longue = static_cast<QPlainTextEdit&>(widget(*boite));
+        EXPECT_EQ(longue.verticalScrollBar()->isVisible(), boite->ascenseur);
+    }
 }
 
 TEST_F(Boites, un_double_clic_sans_autre_sens_selectionne_le_texte) {

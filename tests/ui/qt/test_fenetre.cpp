@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTest>
+#include <QWindow>
 
 #include "bureauqt.h"
 
@@ -236,17 +237,72 @@ TEST_F(Fenetres, une_faute_est_rapportee_et_non_propagee) {
     EXPECT_EQ(plateforme.statut(), 1);
 }
 
-TEST_F(Fenetres, une_forme_devant_s_ouvre_sur_celle_qui_est_active) {
-    ui::Formulaire options(plateforme, "Dialog2");
-    options.largeur = 200 * twips;
-    options.hauteur = 100 * twips;
-    options.devant = true;
-    fenetrier->accueillir(options);
-    montrer(options);
+/// A form that stays in front, and another one to be in front of.
+class Devant : public Fenetres {
+  protected:
+    void SetUp() override {
+        BureauQt::SetUp();
+        for (auto* petite : {&options, &serie}) {
+            petite->largeur = 200 * twips;
+            petite->hauteur = 100 * twips;
+            fenetrier->accueillir(*petite);
+        }
+        options.devant = true;
+        montrer(options);
+    }
+    [[nodiscard]] const QWindow* systeme(const ui::Formulaire& f) const {
+        return fenetrier->fenetre(f)->windowHandle();
+    }
+
+    ui::Formulaire options{plateforme, "Dialog2"};
+    ui::Formulaire serie{plateforme, "Multi"};
+};
+
+TEST_F(Devant, s_ouvre_en_dialogue_de_celle_qui_est_active) {
     const auto* vue = fenetrier->fenetre(options);
     ASSERT_NE(vue->windowHandle(), nullptr);
-    EXPECT_EQ(vue->windowHandle()->transientParent(), fenetre().windowHandle());
+    EXPECT_EQ(vue->windowHandle()->type(), Qt::Dialog);
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
     EXPECT_EQ(vue->windowModality(), Qt::NonModal);
+    EXPECT_EQ(systeme(*forme)->type(), Qt::Window);
+}
+
+TEST_F(Devant, suit_celle_qui_prend_la_place_d_une_autre) {
+    const auto place = fenetrier->fenetre(options)->pos();
+    fenetrier->executer([this] {
+        forme->visible = false;
+        serie.visible = true;
+    });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenetrier->fenetre(serie)));
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(serie));
+    EXPECT_TRUE(fenetrier->fenetre(options)->isVisible());
+    EXPECT_EQ(fenetrier->fenetre(options)->pos(), place);
+    fenetrier->executer([this] {
+        serie.visible = false;
+        forme->visible = true;
+    });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
+}
+
+TEST_F(Devant, suit_celle_ou_l_usager_va) {
+    montrer(serie);
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(serie));
+    fenetre().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre()));
+    laisser();
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
+    EXPECT_TRUE(fenetre().isActiveWindow());
+}
+
+TEST_F(Devant, reste_quand_la_sienne_s_en_va_et_garde_le_clavier) {
+    montrer(serie);
+    fenetrier->fenetre(options)->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenetrier->fenetre(options)));
+    fenetrier->executer([this] { serie.visible = false; });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenetrier->fenetre(options)));
+    EXPECT_TRUE(fenetrier->fenetre(options)->isVisible());
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
 }
 
 }  // namespace

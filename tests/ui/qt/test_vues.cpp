@@ -41,6 +41,23 @@ TEST_F(Vues, le_nom_accessible_est_celui_du_modele_ou_son_texte) {
     EXPECT_EQ(widget(*etiquette).accessibleName(), "Série 2");
 }
 
+TEST_F(Vues, ce_que_disent_les_couleurs_est_dit_aussi) {
+    const auto dite = [this](const ui::Controle& controle) {
+        auto* interface = QAccessible::queryAccessibleInterface(&widget(controle));
+        return interface->text(QAccessible::Description).toStdString();
+    };
+    solution[1]->description = "Juste";
+    etiquette->description = "Rouge";
+    fenetrier->rafraichir();
+    EXPECT_EQ(dite(*solution[1]), "Juste");
+    EXPECT_EQ(dite(*etiquette), "Rouge");
+    EXPECT_EQ(dite(*solution[0]), "");
+    EXPECT_EQ(dite(*user), "Liste : la touche Bas l'ouvre");
+    solution[1]->description = "";
+    fenetrier->rafraichir();
+    EXPECT_EQ(dite(*solution[1]), "");
+}
+
 TEST_F(Vues, les_roles_accessibles_disent_le_genre) {
     const auto role = [this](const ui::Controle& controle) {
         return QAccessible::queryAccessibleInterface(&widget(controle))->role();
