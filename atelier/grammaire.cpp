@@ -115,6 +115,7 @@ bool lirecode(std::string_view valeur, CodeVerbe& code) {
         return false;
     code.groupe = valeur[1];
     code.transitif = valeur[4] == 't';
+    code.decrit = !valeur.ends_with("zz");
     return true;
 }
 

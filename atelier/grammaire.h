@@ -66,6 +66,7 @@ constexpr std::size_t nombredecases = 3 + 7 * 6 + 3;
 struct CodeVerbe {
     char groupe = '0';  ///< '0' to '3'
     bool transitif = false;
+    bool decrit = true;  ///< false where the source leaves the auxiliary open: "v3_i____zz"
 };
 
 /// The code in a value of "po:", or false if it is none.

@@ -278,8 +278,12 @@ class LecteurLexique {
 
 }  // namespace
 
+std::uint64_t Lemme::manquantes() const {
+    return ~cases & ((1ULL << nombredecases) - 1);
+}
+
 bool Lemme::defectif() const {
-    return static_cast<int>(nombredecases) - std::popcount(cases) >= casesmanquantes;
+    return std::popcount(manquantes()) >= casesmanquantes;
 }
 
 Lexique lirelexique(std::string_view texte, std::string_view chemin, const Affixes& affixes,

@@ -27,6 +27,8 @@ struct Lemme {
 
     bool injurieux = false;  ///< offends: no list asks it
 
+    /// The cells of a full conjugation that the verb lacks.
+    [[nodiscard]] std::uint64_t manquantes() const;
     /// A verb that lacks a quarter or more of its conjugation.
     [[nodiscard]] bool defectif() const;
     /// A verb with past participles, none of which agrees.

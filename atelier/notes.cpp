@@ -19,6 +19,17 @@ bool ecrivable(std::string_view texte) {
                                   [](char32_t l) { return common::code1252(l).has_value(); });
 }
 
+/// A verb that grammars call defective. Others lack forms for a reason of their own: they are
+/// reciprocal and have no "je" nor "tu", or the lexicon knows them by a few forms only.
+bool ditdefectif(const Lemme& lemme, const CodeVerbe& code) {
+    if (!lemme.defectif() || code.groupe == '1' || code.groupe == '2')
+        return false;
+    constexpr Traits jeettu{present | imparfait | passesimple | futur | conditionnel | subjonctif |
+                                subjonctifimparfait | imperatif,
+                            je | tu};
+    return code.decrit && lemme.cases != infinitif && (lemme.manquantes() & ~cases(jeettu)) != 0;
+}
+
 /// Gathers the parts of the notes, each once.
 class Redacteur {
   public:
@@ -30,12 +41,9 @@ class Redacteur {
             verbe(l, atypique);
         for (const auto& l : v_.lectures(mot))
             pluriel(mot, l);
-        if (mot.frequence <= frequencesansnote) {
-            for (const auto& l : v_.lectures(mot)) {
-                if (synonymes(mot, l))
-                    break;
-            }
-        }
+        // The noun or adjective comes before the verb of which the word is a form.
+        if (mot.frequence <= frequencesansnote && !synonymes(mot, true))
+            static_cast<void>(synonymes(mot, false));
         std::string texte;
         for (const auto& partie : parties_)
             texte += (texte.empty() ? "" : " ; ") + partie;
@@ -52,8 +60,7 @@ class Redacteur {
         if (l.nature != Nature::verbe)
             return;
         const auto& lemme = v_.lemme(l);
-        // A verb that the source knows by its infinitive alone is not known to be defective.
-        if (lemme.defectif() && lemme.cases != infinitif)
+        if (ditdefectif(lemme, l.code))
             ajouter("verbe défectif " + lemme.capitales);
         else if (atypique)
             ajouter("v. " + lemme.capitales);
@@ -73,6 +80,14 @@ class Redacteur {
         ajouter("pl. de " + lemme.texte);
     }
 
+    /// Quotes the first reading, verbal or not, that has synonyms to give; false if none has.
+    bool synonymes(const Mot& mot, bool nonverbale) {
+        const auto lectures = v_.lectures(mot);
+        return std::any_of(lectures.begin(), lectures.end(), [&](const Lecture& l) {
+            return l.nonverbale() == nonverbale && synonymes(mot, l);
+        });
+    }
+
     /// False if this reading of the word has no synonym to give.
     bool synonymes(const Mot& mot, const Lecture& l) {
         if (l.finie() || l.aunnombre(Nombre::pluriel))
@@ -88,6 +103,10 @@ class Redacteur {
         }
         if (liste.empty())
             return false;
+        if (l.al(participepasse))
+            ajouter("p. p. de " + v_.lemme(l).capitales);
+        else if (l.al(participepresent))
+            ajouter("p. pr. de " + v_.lemme(l).capitales);
         ajouter(std::string(debutsynonymes) + liste);
         return true;
     }

@@ -53,6 +53,7 @@ TEST(Grammaire, un_verbe_est_defectif_quand_il_lui_manque_douze_cases) {
     EXPECT_FALSE(lemme.defectif());
     lemme.cases >>= 1U;
     EXPECT_TRUE(lemme.defectif());
+    EXPECT_EQ(lemme.manquantes(), 0xFFFULL << (nombredecases - 12));
 }
 
 TEST(Grammaire, le_code_d_un_verbe_se_lit_place_par_place) {
@@ -63,6 +64,9 @@ TEST(Grammaire, le_code_d_un_verbe_se_lit_place_par_place) {
     ASSERT_TRUE(lirecode("v0ei_____a", code));
     EXPECT_EQ(code.groupe, '0');
     EXPECT_FALSE(code.transitif);
+    EXPECT_TRUE(code.decrit);
+    ASSERT_TRUE(lirecode("v3_i____zz", code));
+    EXPECT_FALSE(code.decrit);
     EXPECT_FALSE(lirecode("nom", code));
     EXPECT_FALSE(lirecode("v4_it____a", code));
 }

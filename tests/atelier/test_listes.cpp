@@ -228,6 +228,11 @@ const Ligne exemples[] = {
     {"vbt4-10.txt", "NAITRE", false},
     {"inv.txt", "BIENTOT", true},
     {"infosouris.txt", "= chanvre, ch\xE8nevi\xE8re, filasse", true},
+    {"infosouris.txt", "p. p. de LOBER ; = tromper", true},
+    {"infosouris.txt",
+     "verbe d\xE9"
+     "fectif CONCERNER",
+     false},
 };
 TEST(Listes, ont_les_lignes_que_l_aide_cite) {
     for (const auto& exemple : exemples) {
