@@ -1,5 +1,5 @@
-#include <algorithm>
-#include <map>
+#include <set>
+#include <string>
 
 #include "regles.h"
 
@@ -17,35 +17,50 @@ bool memelemme(const Vocabulaire& v, const Mot& mot, const Mot& rallonge) {
     });
 }
 
-/// Words that become an entry by one letter, with all such letters.
+/// What no player looks for: behind a word, another form of it.
+bool evidente(const Vocabulaire& v, const Mot& mot, const Mot& rallonge, Cote cote) {
+    return cote == Cote::arriere && memelemme(v, mot, rallonge);
+}
+
+/// The words that a letter makes of a word, by that letter.
+Selection allonges(const Vocabulaire& v, const Mot& mot, Cote cote) {
+    Selection mots;
+    std::string texte(mot.texte());
+    const auto place = cote == Cote::avant ? texte.begin() : texte.end();
+    auto& lettre = *texte.insert(place, 'A');
+    for (; lettre <= 'Z'; ++lettre) {
+        const auto* rallonge = v.chercher(texte);
+        if (rallonge != nullptr && !evidente(v, mot, *rallonge, cote))
+            mots.push_back(rallonge);
+    }
+    return mots;
+}
+
+/// The words that a letter makes an entry of, with all letters that make them a word: to a player
+/// these are as right.
 Contenu rallonges(const Vocabulaire& v, std::size_t taille, Cote cote) {
-    struct Lettres {
-        std::string lettres;
-        std::vector<std::uint32_t> mots;
-    };
-    std::map<const Mot*, Lettres> parmot;  // words lie in alphabetical order
+    std::set<const Mot*> mots;  // words lie in alphabetical order
     for (const auto& rallonge : v.mots(taille + 1, taille + 1)) {
-        if (!rallonge.entree)
+        if (!rallonge.entree || rallonge.injurieux)
             continue;
         const auto texte = rallonge.texte();
         const auto* mot =
             v.chercher(cote == Cote::avant ? texte.substr(1) : texte.substr(0, taille));
-        if (mot == nullptr || mot->injurieux || rallonge.injurieux ||
-            (cote == Cote::arriere && memelemme(v, *mot, rallonge)))
-            continue;
-        auto& lettres = parmot[mot];
-        lettres.lettres += cote == Cote::avant ? texte.front() : texte.back();
-        lettres.mots.push_back(place(v, rallonge));
+        if (mot != nullptr && !mot->injurieux && !evidente(v, *mot, rallonge, cote))
+            mots.insert(mot);
     }
     Contenu contenu;
-    for (auto& [mot, lettres] : parmot) {
-        std::string tirage(mot->texte());
-        const std::string nu = tirage;
-        if (lettres.lettres.size() > 1)
+    for (const auto* mot : mots) {
+        const std::string nu(mot->texte());
+        std::string lettres;
+        for (const auto* longue : allonges(v, *mot, cote)) {
+            lettres += cote == Cote::avant ? longue->texte().front() : longue->texte().back();
+            contenu.mots.push_back(place(v, *longue));
+        }
+        std::string tirage = nu;
+        if (lettres.size() > 1)
             tirage.insert(cote == Cote::avant ? 0 : tirage.size(), "?");
-        std::sort(lettres.lettres.begin(), lettres.lettres.end());
-        contenu.rangees.push_back({nu, tirage, lettres.lettres});
-        contenu.mots.insert(contenu.mots.end(), lettres.mots.begin(), lettres.mots.end());
+        contenu.rangees.push_back({nu, std::move(tirage), std::move(lettres)});
     }
     return contenu;
 }

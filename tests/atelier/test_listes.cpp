@@ -212,6 +212,7 @@ struct Ligne {
 };
 const Ligne exemples[] = {
     {"rallonge_ar_7a8L.txt", "CELEBRE;T", true},
+    {"rallonge_av_5a6L.txt", "?ACHAT;BCFGHLMRT", true},
     {"transifausses.txt", "ACEENOT;ACETONE", true},
     {"courant_8L.txt", "AAAINOPR;PARANOIA", true},
     {"courant_8L.txt", "AEGIOTUZ;ZIGOTEAU", true},
@@ -227,12 +228,12 @@ const Ligne exemples[] = {
     {"vbt4-10.txt", "AIMER", true},
     {"vbt4-10.txt", "NAITRE", false},
     {"inv.txt", "BIENTOT", true},
-    {"infosouris.txt", "= chanvre, ch\xE8nevi\xE8re, filasse", true},
     {"infosouris.txt", "p. p. de LOBER ; = tromper", true},
     {"infosouris.txt",
      "verbe d\xE9"
      "fectif CONCERNER",
      false},
+    {"infosouris.txt", "= chanvre, ch\xE8nevi\xE8re, filasse", true},
 };
 TEST(Listes, ont_les_lignes_que_l_aide_cite) {
     for (const auto& exemple : exemples) {
