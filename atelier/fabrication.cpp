@@ -16,10 +16,6 @@ namespace atelier {
 namespace {
 
 constexpr std::string_view findeligne = "\r\n";
-/// The panel and the rows of the conjugations whose verb does not show.
-constexpr std::string_view panneauatypiques = "conja";
-constexpr std::size_t premieratypique = 1;
-constexpr std::size_t dernieratypique = 2;
 
 std::string chemindeliste(std::string_view fichier) {
     return std::string(common::dossierlistes) + '/' + std::string(fichier);
@@ -70,8 +66,10 @@ class Fabrique {
         : m_(matiere), thesaurus_(thesaurus), progression_(progression) {}
 
     Production tout() {
-        for (const auto& recettes : toutesrecettes())
-            listes(recettes);
+        for (const auto& panneau : menu::panneaux()) {
+            for (const auto& rangee : panneau.rangees)
+                liste(rangee);
+        }
         progression_("listes de référence");
         for (const auto& reference : references())
             ajouter(chemindeliste(reference.liste.fichier), octets(reference.faire(m_)));
@@ -100,20 +98,17 @@ class Fabrique {
         }
     }
 
-    void listes(const Recettes& recettes) {
-        const auto& rangees = menu::panneau(recettes.panneau)->rangees;
-        for (std::size_t i = 0; i < rangees.size(); ++i) {
-            progression_(rangees[i].libelle);
-            auto contenu = recettes.recettes.at(i).faire(m_);
-            liste(rangees[i], contenu);
-            demandes_.insert(contenu.mots.begin(), contenu.mots.end());
-            if (recettes.panneau == panneauatypiques && i >= premieratypique &&
-                i <= dernieratypique)
-                atypiques_.insert(contenu.mots.begin(), contenu.mots.end());
-        }
+    void liste(const menu::Rangee& rangee) {
+        progression_(rangee.libelle);
+        const auto& r = recette(rangee.fichier);
+        auto contenu = r.faire(m_);
+        ecrire(rangee, contenu);
+        demandes_.insert(contenu.mots.begin(), contenu.mots.end());
+        if (r.verbeadire)
+            atypiques_.insert(contenu.mots.begin(), contenu.mots.end());
     }
 
-    void liste(const menu::Rangee& rangee, Contenu& contenu) {
+    void ecrire(const menu::Rangee& rangee, Contenu& contenu) {
         const auto limite = rangeesmax(rangee);
         if (contenu.rangees.size() > limite) {
             production_.avertissements.push_back(
@@ -156,14 +151,13 @@ Production fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
 
 std::vector<Description> decrire(const Matiere& matiere, std::string_view nom) {
     std::vector<Description> liste;
-    for (const auto& recettes : toutesrecettes()) {
-        const auto& rangees = menu::panneau(recettes.panneau)->rangees;
-        for (std::size_t i = 0; i < rangees.size(); ++i) {
-            if (!nomme(rangees[i].fichier, nom))
+    for (const auto& panneau : menu::panneaux()) {
+        for (const auto& rangee : panneau.rangees) {
+            if (!nomme(rangee.fichier, nom))
                 continue;
-            const auto& recette = recettes.recettes.at(i);
-            liste.push_back({std::string(rangees[i].fichier), std::string(rangees[i].libelle),
-                             recette.description, recette.faire(matiere).rangees.size()});
+            const auto& r = recette(rangee.fichier);
+            liste.push_back({r.fichier, std::string(rangee.libelle), r.description,
+                             r.faire(matiere).rangees.size()});
         }
     }
     for (const auto& reference : references()) {

@@ -105,47 +105,64 @@ Contenu verbesreguliers(const Matiere& m, std::size_t taille, std::size_t total)
     return verbes(m, couper(m.mots, mots, total, frequencedeverbe));
 }
 
+/// A list that is cut to a size, which its description says last.
+Recette recettecoupee(std::string_view fichier, const std::string& description, std::size_t total,
+                      const std::function<Contenu(const Matiere&, std::size_t)>& faire) {
+    return {std::string(fichier), description + " : " + std::to_string(total) + " au plus.",
+            [=](const Matiere& m) { return faire(m, total); }};
+}
+
+Recette recettecourte(std::string_view fichier, std::size_t taille) {
+    return {std::string(fichier),
+            "Les mots de " + std::to_string(taille) +
+                " lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas de tirage à "
+                "plus de " +
+                std::to_string(souhaitesmax) + " mots voulus.",
+            [taille](const Matiere& m) { return courts34(m, taille); }};
+}
+
+Recette recettechere(std::string_view fichier, std::size_t taille) {
+    return {std::string(fichier),
+            "Les mots de " + std::to_string(taille) +
+                " lettres qui ont une lettre chère, sans les conjugaisons en -EZ.",
+            [taille](const Matiere& m) { return chere45(m, taille); }};
+}
+
+Recette recettereguliere(std::string_view fichier, std::size_t taille, std::size_t total) {
+    return recettecoupee(fichier,
+                         "Les infinitifs de " + std::to_string(taille) +
+                             " lettres des 1er et 2e groupes, sans les plus courants",
+                         total, [taille](const Matiere& m, std::size_t nombre) {
+                             return verbesreguliers(m, taille, nombre);
+                         });
+}
+
 }  // namespace
 
-void recettesdebase(std::vector<Recettes>& toutes) {
-    toutes.push_back(
-        {"bt",
-         {
-             {"Tous les mots de 3 lettres qui ont une lettre chère (J K Q W X Y Z).", chere3},
-             {"Les mots de 3 lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas "
-              "de tirage à plus de 3 mots voulus.",
-              [](const Matiere& m) { return courts34(m, 3); }},
-             {"Les infinitifs de 4 et 5 lettres, sans les défectifs ni les plus courants.",
-              verbes45},
-             {"Les infinitifs de 6 lettres, sans les plus courants : 779 au plus.",
-              [](const Matiere& m) { return verbes6(m, 779); }},
-             {"Les mots de 4 lettres qui ont une lettre chère, sans les conjugaisons en -EZ.",
-              [](const Matiere& m) { return chere45(m, 4); }},
-             {"Les mots de 5 lettres qui ont une lettre chère, sans les conjugaisons en -EZ.",
-              [](const Matiere& m) { return chere45(m, 5); }},
-         }});
-    toutes.push_back(
-        {"ta",
-         {
-             {"Les mots de 6 lettres qui ont une lettre chère, sans les conjugaisons en -EZ ni les "
-              "conjugaisons et pluriels les plus courants : 1902 au plus.",
-              [](const Matiere& m) { return chere6(m, 1902); }},
-             {"Les infinitifs de 7 lettres des 1er et 2e groupes, sans les plus courants : 1215 au "
-              "plus.",
-              [](const Matiere& m) { return verbesreguliers(m, 7, 1215); }},
-             {"Les infinitifs de 8 lettres des 1er et 2e groupes, sans les plus courants : 1467 au "
-              "plus.",
-              [](const Matiere& m) { return verbesreguliers(m, 8, 1467); }},
-             {"Les infinitifs de 9 lettres des 1er et 2e groupes, sans les plus courants : 1300 au "
-              "plus.",
-              [](const Matiere& m) { return verbesreguliers(m, 9, 1300); }},
-             {"Les mots de 4 lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas "
-              "de tirage à plus de 3 mots voulus.",
-              [](const Matiere& m) { return courts34(m, 4); }},
-             {"Les mots de 5 lettres sans lettre chère, tirages à 3 mots au plus ; un nom plutôt "
-              "qu'un pluriel ou une conjugaison : 3676 au plus.",
-              [](const Matiere& m) { return courts5(m, 3676); }},
-         }});
+std::vector<Recette> recettesdebase() {
+    return {
+        {"3lc.txt", "Tous les mots de 3 lettres qui ont une lettre chère (J K Q W X Y Z).", chere3},
+        recettecourte("3lt.txt", 3),
+        {"vb45.txt", "Les infinitifs de 4 et 5 lettres, sans les défectifs ni les plus courants.",
+         verbes45},
+        recettecoupee("vb6.txt", "Les infinitifs de 6 lettres, sans les plus courants", 779,
+                      verbes6),
+        recettechere("4lc.txt", 4),
+        recettechere("5lc.txt", 5),
+        recettecoupee("6lc.txt",
+                      "Les mots de 6 lettres qui ont une lettre chère, sans les conjugaisons en "
+                      "-EZ ni les conjugaisons et pluriels les plus courants",
+                      1902, chere6),
+        recettereguliere("vb7.txt", 7, 1215),
+        recettereguliere("vb8.txt", 8, 1467),
+        recettereguliere("vb9.txt", 9, 1300),
+        recettecourte("4lt.txt", 4),
+        recettecoupee("5lt.txt",
+                      "Les mots de 5 lettres sans lettre chère, tirages à " +
+                          std::to_string(anagrammesmax5) +
+                          " mots au plus ; un nom plutôt qu'un pluriel ou une conjugaison",
+                      3676, courts5),
+    };
 }
 
 }  // namespace atelier

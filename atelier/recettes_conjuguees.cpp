@@ -35,38 +35,53 @@ Selection seulsparmiconjugues(const Matiere& m, std::size_t min, std::size_t max
     });
 }
 
+Recette recetteatypique(std::string_view fichier, std::size_t taille) {
+    return {.fichier = std::string(fichier),
+            .description = "Les formes conjuguées de " + std::to_string(taille) +
+                           " lettres, sans anagramme, qu'aucune terminaison ordinaire n'explique.",
+            .faire = [taille](const Matiere& m) { return atypiques(m, taille); },
+            .verbeadire = true};
+}
+
+Recette recetteunique(std::string_view fichier, std::size_t taille) {
+    return {
+        std::string(fichier),
+        "Toutes les formes conjuguées de " + std::to_string(taille) + " lettres sans anagramme.",
+        [taille](const Matiere& m) { return conjuguesuniques(m, taille); }};
+}
+
+Recette recetteduseul(std::string_view fichier, std::size_t taille) {
+    return {
+        std::string(fichier),
+        "Les mots de " + std::to_string(taille) +
+            " lettres non conjugués dont toutes les anagrammes, au moins deux, sont conjuguées.",
+        [taille](const Matiere& m) {
+            return simples(m.mots, seulsparmiconjugues(m, taille, taille));
+        }};
+}
+
 }  // namespace
 
-void recettesconjuguees(std::vector<Recettes>& toutes) {
-    toutes.push_back(
-        {"conja",
-         {
-             {"Les formes sans anagramme, de 7 et 8 lettres, des verbes défectifs du 3e groupe.",
-              defectifs},
-             {"Les formes conjuguées de 7 lettres, sans anagramme, qu'aucune terminaison ordinaire "
-              "n'explique.",
-              [](const Matiere& m) { return atypiques(m, 7); }},
-             {"Les formes conjuguées de 8 lettres, sans anagramme, qu'aucune terminaison ordinaire "
-              "n'explique.",
-              [](const Matiere& m) { return atypiques(m, 8); }},
-             {"Toutes les formes conjuguées de 7 lettres sans anagramme.",
-              [](const Matiere& m) { return conjuguesuniques(m, 7); }},
-             {"Toutes les formes conjuguées de 8 lettres sans anagramme.",
-              [](const Matiere& m) { return conjuguesuniques(m, 8); }},
-             {"Les mots de 7 lettres non conjugués dont toutes les anagrammes, au moins deux, sont "
-              "conjuguées.",
-              [](const Matiere& m) { return simples(m.mots, seulsparmiconjugues(m, 7, 7)); }},
-             {"Les mots de 8 lettres non conjugués dont toutes les anagrammes, au moins deux, sont "
-              "conjuguées.",
-              [](const Matiere& m) { return simples(m.mots, seulsparmiconjugues(m, 8, 8)); }},
-             {"Parmi les mots de 7 et 8 lettres dont les anagrammes sont conjuguées, ceux qui ont "
-              "leur article au dictionnaire.",
-              [](const Matiere& m) {
-                  auto mots = seulsparmiconjugues(m, 7, 8);
-                  std::erase_if(mots, [](const Mot* mot) { return !mot->entree; });
-                  return simples(m.mots, mots);
-              }},
-         }});
+std::vector<Recette> recettesconjuguees() {
+    return {
+        {"78d.txt",
+         "Les formes sans anagramme, de 7 et 8 lettres, des verbes défectifs du 3e groupe.",
+         defectifs},
+        recetteatypique("7at.txt", 7),
+        recetteatypique("8at.txt", 8),
+        recetteunique("conj7u.txt", 7),
+        recetteunique("conj8u.txt", 8),
+        recetteduseul("z7.txt", 7),
+        recetteduseul("z8.txt", 8),
+        {"z78_sel.txt",
+         "Parmi les mots de 7 et 8 lettres dont les anagrammes sont conjuguées, ceux qui ont leur "
+         "article au dictionnaire.",
+         [](const Matiere& m) {
+             auto mots = seulsparmiconjugues(m, 7, 8);
+             std::erase_if(mots, [](const Mot* mot) { return !mot->entree; });
+             return simples(m.mots, mots);
+         }},
+    };
 }
 
 }  // namespace atelier

@@ -80,24 +80,31 @@ Contenu formationsatypiques(const Matiere& m, std::size_t taille) {
     return simples(m.mots, mots);
 }
 
+Recette recettecourante(std::string_view fichier, std::size_t taille) {
+    return {std::string(fichier),
+            "Les " + std::to_string(courants) + " mots courants de " + std::to_string(taille) +
+                " lettres, seuls non conjugués de leur tirage, que leurs lettres suggèrent le "
+                "moins.",
+            [taille](const Matiere& m) { return motscourants(m, taille); }};
+}
+
+Recette recetteatypique(std::string_view fichier, std::size_t taille) {
+    return {std::string(fichier),
+            "Les " + std::to_string(dursentrees) + " entrées et les " +
+                std::to_string(dursconjugues) + " formes conjuguées de " + std::to_string(taille) +
+                " lettres, sans lettre chère ni anagramme, que leurs lettres suggèrent le moins.",
+            [taille](const Matiere& m) { return formationsatypiques(m, taille); }};
+}
+
 }  // namespace
 
-void recettesdifficiles(std::vector<Recettes>& toutes) {
-    Recettes recettes{"formdif", {}};
-    for (const std::size_t taille : {6U, 7U, 8U, 9U}) {
-        recettes.recettes.push_back(
-            {"Les 400 mots courants de " + std::to_string(taille) +
-                 " lettres, seuls non conjugués de leur tirage, que leurs lettres suggèrent le "
-                 "moins.",
-             [taille](const Matiere& m) { return motscourants(m, taille); }});
-    }
-    for (const std::size_t taille : {6U, 7U, 8U, 9U}) {
-        recettes.recettes.push_back(
-            {"Les 300 entrées et les 100 formes conjuguées de " + std::to_string(taille) +
-                 " lettres, sans lettre chère ni anagramme, que leurs lettres suggèrent le moins.",
-             [taille](const Matiere& m) { return formationsatypiques(m, taille); }});
-    }
-    toutes.push_back(std::move(recettes));
+std::vector<Recette> recettesdifficiles() {
+    return {
+        recettecourante("courant_6L.txt", 6),  recettecourante("courant_7L.txt", 7),
+        recettecourante("courant_8L.txt", 8),  recettecourante("courant_9L.txt", 9),
+        recetteatypique("durs_kvd_6L.txt", 6), recetteatypique("durs_kvd_7L.txt", 7),
+        recetteatypique("durs_kvd_8L.txt", 8), recetteatypique("durs_kvd_9L.txt", 9),
+    };
 }
 
 }  // namespace atelier

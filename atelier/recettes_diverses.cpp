@@ -180,29 +180,34 @@ Contenu verbesplusun(const Matiere& m) {
 
 }  // namespace
 
-void recettesdiverses(std::vector<Recettes>& toutes) {
-    toutes.push_back(
-        {"autres",
-         {
-             {"Les mots invariables de 3 à 9 lettres qui ne finissent pas par S, X ou Z et qui ne "
-              "prennent ni S ni X.",
-              invariables},
-             {"Les entrées de 6 à 9 lettres, sans anagramme, qui ont très peu ou beaucoup de "
-              "voyelles.",
-              desequilibres},
-             {"Les tirages de 4 à 9 lettres qui font deux ou trois infinitifs.", anaverbes},
-             {"Le seul mot d'un tirage où l'on croirait accorder un participe passé invariable.",
-              faussestransitivites},
-             {"Les mots de 6 à 9 lettres qui finissent par S et n'existent pas sans lui, hors -AIS "
-              "et -OIS.",
-              sfinal},
-             {"Les mots de 5 à 7 lettres que trois lettres devant prolongent en un seul mot ; la "
-              "solution est ces trois lettres.",
-              benjamins},
-             {"Un verbe de 4 à 7 lettres et une lettre qui font un autre verbe, autrement qu'au "
-              "bout.",
-              verbesplusun},
-         }});
+std::vector<Recette> recettesdiverses() {
+    return {
+        {"invar.txt",
+         "Les mots invariables de 3 à 9 lettres qui ne finissent pas par S, X ou Z et qui ne "
+         "prennent ni S ni X.",
+         invariables},
+        {"deseq_cons_voy.txt",
+         "Les entrées de 6 à 9 lettres, sans anagramme, qui ont très peu ou beaucoup de "
+         "voyelles.",
+         desequilibres},
+        {"anaverbes.txt", "Les tirages de 4 à 9 lettres qui font deux ou trois infinitifs.",
+         anaverbes},
+        {"transifausses.txt",
+         "Le seul mot d'un tirage où l'on croirait accorder un participe passé invariable.",
+         faussestransitivites},
+        {"s_final.txt",
+         "Les mots de 6 à 9 lettres qui finissent par S et n'existent pas sans lui, hors -AIS "
+         "et -OIS.",
+         sfinal},
+        {"benj_uni.txt",
+         "Les mots de 5 à 7 lettres que trois lettres devant prolongent en un seul mot ; la "
+         "solution est ces trois lettres.",
+         benjamins},
+        {"vbavb.txt",
+         "Un verbe de 4 à 7 lettres et une lettre qui font un autre verbe, autrement qu'au "
+         "bout.",
+         verbesplusun},
+    };
 }
 
 }  // namespace atelier

@@ -103,7 +103,8 @@ Contenu conjugues(const Vocabulaire& v, std::size_t min, std::size_t max, std::s
 constexpr std::array groupes =
     std::to_array<std::string_view>({"", "", "deux", "trois", "quatre", "cinq"});
 
-Recette recettedugroupe(std::size_t taille, std::size_t nombre, Purete purete) {
+Recette recettedugroupe(std::string_view fichier, std::size_t taille, std::size_t nombre,
+                        Purete purete) {
     std::string description = "Les tirages de " + std::to_string(taille) + " lettres qui font " +
                               std::string(groupes.at(nombre)) + " mots non conjugués";
     if (purete == Purete::pur)
@@ -112,60 +113,74 @@ Recette recettedugroupe(std::size_t taille, std::size_t nombre, Purete purete) {
         description += ", et des conjugaisons que l'on ne demande pas";
     if (taille == 8)
         description += " ; sans les pluriels de mots de 7 lettres";
-    return {description + ".", [=](const Matiere& m) {
+    return {std::string(fichier), description + ".", [=](const Matiere& m) {
                 return nonconjugues(m.mots, tiragesde(m.mots, taille, nombre, purete));
             }};
 }
 
-Recette recetteselection(std::size_t taille, const std::string& poids,
+Recette recetteselection(std::string_view fichier, std::size_t taille, const std::string& poids,
                          const std::vector<int>& valeurs) {
-    return {"Les duos purs de " + std::to_string(taille) + " lettres" + poids +
+    return {std::string(fichier),
+            "Les duos purs de " + std::to_string(taille) + " lettres" + poids +
                 ", sans ceux qu'un même lemme ou une même finale explique.",
             [=](const Matiere& m) { return selectiondeduos(m.mots, taille, valeurs); }};
 }
 
-Recettes duos(std::string_view panneau, std::size_t taille) {
-    return {panneau,
-            {
-                recettedugroupe(taille, 2, Purete::pur),
-                recettedugroupe(taille, 2, Purete::impur),
-                recetteselection(taille, "", {}),
-                recetteselection(taille, " de poids 5, 6 et 7", {5, 6, 7}),
-                recetteselection(taille, " de poids 0, 1 et 4", {0, 1, 4}),
-                recetteselection(taille, " de poids 2 et 3", {2, 3}),
-                {"Les duos de " + std::to_string(taille) +
-                     " lettres, purs et impurs : le mot le plus connu est le tirage, l'autre la "
-                     "solution.",
-                 [taille](const Matiere& m) { return sanstirage(m.mots, taille); }},
-            }};
+Recette recettesanstirage(std::string_view fichier, std::size_t taille) {
+    return {std::string(fichier),
+            "Les duos de " + std::to_string(taille) +
+                " lettres, purs et impurs : le mot le plus connu est le tirage, l'autre la "
+                "solution.",
+            [taille](const Matiere& m) { return sanstirage(m.mots, taille); }};
 }
 
-Recette recetteconjuguee(std::size_t min, std::size_t max, std::size_t nombre) {
+Recette recetteconjuguee(std::string_view fichier, std::size_t min, std::size_t max,
+                         std::size_t nombre) {
     const auto longueurs =
         min == max ? std::to_string(min) : std::to_string(min) + " et " + std::to_string(max);
-    return {"Les tirages de " + longueurs + " lettres qui font " + std::string(groupes.at(nombre)) +
+    return {std::string(fichier),
+            "Les tirages de " + longueurs + " lettres qui font " + std::string(groupes.at(nombre)) +
                 " formes conjuguées et rien d'autre.",
             [=](const Matiere& m) { return conjugues(m.mots, min, max, nombre); }};
 }
 
 }  // namespace
 
-void recettesmultiples(std::vector<Recettes>& toutes) {
-    toutes.push_back(duos("duos7", 7));
-    toutes.push_back(duos("duos8", 8));
-    toutes.push_back({"trios",
-                      {recettedugroupe(7, 3, Purete::pur), recettedugroupe(7, 3, Purete::impur),
-                       recettedugroupe(8, 3, Purete::pur), recettedugroupe(8, 3, Purete::impur)}});
-    toutes.push_back({"quatquin",
-                      {recettedugroupe(7, 4, Purete::pur), recettedugroupe(7, 4, Purete::impur),
-                       recettedugroupe(8, 4, Purete::pur), recettedugroupe(8, 4, Purete::impur),
-                       recettedugroupe(7, 5, Purete::pur), recettedugroupe(7, 5, Purete::impur),
-                       recettedugroupe(8, 5, Purete::indifferent)}});
-    toutes.push_back(
-        {"conjm",
-         {recetteconjuguee(7, 7, 2), recetteconjuguee(8, 8, 2), recetteconjuguee(7, 7, 3),
-          recetteconjuguee(8, 8, 3), recetteconjuguee(7, 7, 4), recetteconjuguee(8, 8, 4),
-          recetteconjuguee(7, 8, 5)}});
+std::vector<Recette> recettesmultiples() {
+    return {
+        recettedugroupe("7l_duos_purs.txt", 7, 2, Purete::pur),
+        recettedugroupe("7l_duos_impurs.txt", 7, 2, Purete::impur),
+        recetteselection("7l_duos_purs_sel.txt", 7, "", {}),
+        recetteselection("7l_duos_purs567.txt", 7, " de poids 5, 6 et 7", {5, 6, 7}),
+        recetteselection("7l_duos_purs014.txt", 7, " de poids 0, 1 et 4", {0, 1, 4}),
+        recetteselection("7l_duos_purs23.txt", 7, " de poids 2 et 3", {2, 3}),
+        recettesanstirage("7l_duos_sanstirage.txt", 7),
+        recettedugroupe("8l_duos_purs.txt", 8, 2, Purete::pur),
+        recettedugroupe("8l_duos_impurs.txt", 8, 2, Purete::impur),
+        recetteselection("8l_duos_purs_sel.txt", 8, "", {}),
+        recetteselection("8l_duos_purs567.txt", 8, " de poids 5, 6 et 7", {5, 6, 7}),
+        recetteselection("8l_duos_purs014.txt", 8, " de poids 0, 1 et 4", {0, 1, 4}),
+        recetteselection("8l_duos_purs23.txt", 8, " de poids 2 et 3", {2, 3}),
+        recettesanstirage("8l_duos_sanstirage.txt", 8),
+        recettedugroupe("7l_trios_purs.txt", 7, 3, Purete::pur),
+        recettedugroupe("7l_trios_impurs.txt", 7, 3, Purete::impur),
+        recettedugroupe("8l_trios_purs.txt", 8, 3, Purete::pur),
+        recettedugroupe("8l_trios_impurs.txt", 8, 3, Purete::impur),
+        recettedugroupe("7l_quatuors_purs.txt", 7, 4, Purete::pur),
+        recettedugroupe("7l_quatuors_impurs.txt", 7, 4, Purete::impur),
+        recettedugroupe("8l_quatuors_purs.txt", 8, 4, Purete::pur),
+        recettedugroupe("8l_quatuors_impurs.txt", 8, 4, Purete::impur),
+        recettedugroupe("7l_quintets_purs.txt", 7, 5, Purete::pur),
+        recettedugroupe("7l_quintets_impurs.txt", 7, 5, Purete::impur),
+        recettedugroupe("8l_quintets.txt", 8, 5, Purete::indifferent),
+        recetteconjuguee("conj7_duos.txt", 7, 7, 2),
+        recetteconjuguee("conj8_duos.txt", 8, 8, 2),
+        recetteconjuguee("conj7_trios.txt", 7, 7, 3),
+        recetteconjuguee("conj8_trios.txt", 8, 8, 3),
+        recetteconjuguee("conj7_quatuors.txt", 7, 7, 4),
+        recetteconjuguee("conj8_quatuors.txt", 8, 8, 4),
+        recetteconjuguee("conj78_quintets.txt", 7, 8, 5),
+    };
 }
 
 }  // namespace atelier

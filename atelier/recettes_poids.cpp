@@ -16,9 +16,16 @@ struct Poids {
     }
 };
 
-/// The weights of the rows of the panels 6, 7 and 8.
-constexpr std::array poidsdesrangees{Poids{7, sanslimite}, Poids{6, 6}, Poids{0, 0}, Poids{5, 5},
-                                     Poids{1, 1},          Poids{4, 4}, Poids{2, 2}, Poids{3, 3}};
+/// The lists of a length of word: what stands behind the length in the file, and the weights.
+struct Parpoids {
+    std::string_view suite;
+    Poids poids;
+};
+constexpr std::array listesparpoids{
+    Parpoids{"up.txt", {7, sanslimite}}, Parpoids{"v6.txt", {6, 6}}, Parpoids{"v0.txt", {0, 0}},
+    Parpoids{"v5.txt", {5, 5}},          Parpoids{"v1.txt", {1, 1}}, Parpoids{"v4.txt", {4, 4}},
+    Parpoids{"v2.txt", {2, 2}},          Parpoids{"v3.txt", {3, 3}},
+};
 
 std::string enclair(const Poids& poids) {
     if (poids.max == sanslimite)
@@ -48,21 +55,18 @@ Contenu uniquessanschere(const Matiere& m, std::size_t taille, const Poids& poid
                    }));
 }
 
-Recettes panneaudepoids(std::string_view panneau, std::size_t taille) {
-    Recettes recettes{panneau, {}};
-    for (const auto& poids : poidsdesrangees) {
-        recettes.recettes.push_back(
-            {"Les mots de " + std::to_string(taille) + " lettres sans lettre chère ni anagramme, " +
-                 enclair(poids) +
-                 (taille > 6 ? ", sans conjugaisons ni pluriels évidents."
-                             : ", qu'une lettre devant ou derrière prolonge, sans conjugaisons ni "
-                               "pluriels évidents."),
-             [taille, poids](const Matiere& m) { return uniquessanschere(m, taille, poids); }});
-    }
-    return recettes;
+Recette recettedepoids(std::size_t taille, const Parpoids& liste) {
+    const auto poids = liste.poids;
+    return {std::to_string(taille) + std::string(liste.suite),
+            "Les mots de " + std::to_string(taille) + " lettres sans lettre chère ni anagramme, " +
+                enclair(poids) +
+                (taille > 6 ? ", sans conjugaisons ni pluriels évidents."
+                            : ", qu'une lettre devant ou derrière prolonge, sans conjugaisons ni "
+                              "pluriels évidents."),
+            [taille, poids](const Matiere& m) { return uniquessanschere(m, taille, poids); }};
 }
 
-// The panels of dear letters.
+// The lists of high-value letters.
 
 /// Common entries are left out of the choice of hard words from this frequency up.
 constexpr std::uint32_t entreecourante = 20;
@@ -72,37 +76,45 @@ bool cheresunique(const Mot& mot) {
     return mot.chere && mot.unique;
 }
 
-struct Tranche {
+/// A list of words that have a high-value letter: lengths, weights, and whether it takes
+/// conjugations.
+struct Chere {
+    std::string_view fichier;
     std::size_t min = 0;
     std::size_t max = 0;
     Poids poids;
+    bool conjugues = false;
 };
 
-constexpr std::array tranchesa{
-    Tranche{7, 8, {7, 7}},   Tranche{7, 8, {8, 8}},   Tranche{7, 7, {9, 9}},
-    Tranche{8, 8, {9, 9}},   Tranche{7, 7, {10, 10}}, Tranche{8, 8, {10, 10}},
-    Tranche{7, 7, {11, 11}}, Tranche{8, 8, {11, 11}},
+constexpr std::array cheres{
+    Chere{"78v7.txt", 7, 8, {7, 7}, true},      Chere{"78v8.txt", 7, 8, {8, 8}, true},
+    Chere{"7v9.txt", 7, 7, {9, 9}, true},       Chere{"8v9.txt", 8, 8, {9, 9}, true},
+    Chere{"7vd.txt", 7, 7, {10, 10}, true},     Chere{"8vd.txt", 8, 8, {10, 10}, true},
+    Chere{"7vo.txt", 7, 7, {11, 11}, true},     Chere{"8vo.txt", 8, 8, {11, 11}, true},
+    Chere{"7vu.txt", 7, 7, {12, 12}},           Chere{"8vu.txt", 8, 8, {12, 12}},
+    Chere{"78v13.txt", 7, 8, {13, 13}},         Chere{"78v145.txt", 7, 8, {14, 15}},
+    Chere{"78vup.txt", 7, 8, {16, sanslimite}},
 };
 
-constexpr std::array tranchesb{
-    Tranche{7, 7, {12, 12}}, Tranche{8, 8, {12, 12}},         Tranche{7, 8, {13, 13}},
-    Tranche{7, 8, {14, 15}}, Tranche{7, 8, {16, sanslimite}},
-};
-
-Recette recettechere(const Tranche& tranche, bool avecconjugues) {
-    const auto longueurs = tranche.min == tranche.max
-                               ? std::to_string(tranche.min)
-                               : std::to_string(tranche.min) + " et " + std::to_string(tranche.max);
-    return {"Tous les mots de " + longueurs +
-                " lettres qui ont une lettre chère et pas d'anagramme, " + enclair(tranche.poids) +
-                (avecconjugues ? ", conjugaisons comprises." : ", sans les conjugaisons."),
-            [tranche, avecconjugues](const Matiere& m) {
-                return simples(m.mots,
-                               choisir(m.mots, tranche.min, tranche.max, [&](const Mot& mot) {
-                                   return cheresunique(mot) && tranche.poids.contient(mot) &&
-                                          (avecconjugues || !mot.conjugue);
+Recette recettechere(const Chere& liste) {
+    const auto longueurs = liste.min == liste.max
+                               ? std::to_string(liste.min)
+                               : std::to_string(liste.min) + " et " + std::to_string(liste.max);
+    return {std::string(liste.fichier),
+            "Tous les mots de " + longueurs +
+                " lettres qui ont une lettre chère et pas d'anagramme, " + enclair(liste.poids) +
+                (liste.conjugues ? ", conjugaisons comprises." : ", sans les conjugaisons."),
+            [liste](const Matiere& m) {
+                return simples(m.mots, choisir(m.mots, liste.min, liste.max, [&](const Mot& mot) {
+                                   return cheresunique(mot) && liste.poids.contient(mot) &&
+                                          (liste.conjugues || !mot.conjugue);
                                }));
             }};
+}
+
+Contenu cherestoutes(const Matiere& m) {
+    return simples(m.mots, choisir(m.mots, 7, 8,
+                                   [](const Mot& mot) { return cheresunique(mot) && mot.entree; }));
 }
 
 Contenu cheresdures(const Matiere& m) {
@@ -121,38 +133,35 @@ Contenu cheresdures(const Matiere& m) {
 
 }  // namespace
 
-void recettesparpoids(std::vector<Recettes>& toutes) {
-    toutes.push_back(panneaudepoids("6", 6));
-    toutes.push_back(panneaudepoids("7", 7));
-    toutes.push_back(panneaudepoids("8", 8));
+std::vector<Recette> recettesparpoids() {
+    std::vector<Recette> recettes;
+    for (const std::size_t taille : {6U, 7U, 8U}) {
+        for (const auto& liste : listesparpoids)
+            recettes.push_back(recettedepoids(taille, liste));
+    }
+    return recettes;
 }
 
-void recetteslettreschere(std::vector<Recettes>& toutes) {
-    Recettes a{"78lca", {}};
-    for (const auto& tranche : tranchesa)
-        a.recettes.push_back(recettechere(tranche, true));
-    toutes.push_back(std::move(a));
-    Recettes b{"78lcb", {}};
-    for (const auto& tranche : tranchesb)
-        b.recettes.push_back(recettechere(tranche, false));
-    b.recettes.push_back(
-        {"Les mots de 7 et 8 lettres qui ont une lettre chère, pas d'anagramme, et "
-         "leur article au dictionnaire.",
-         [](const Matiere& m) {
-             return simples(m.mots, choisir(m.mots, 7, 8, [](const Mot& mot) {
-                                return cheresunique(mot) && mot.entree;
-                            }));
-         }});
-    b.recettes.push_back(
-        {"Les 250 mots de 7 lettres et les 250 de 8 lettres, avec une lettre chère "
-         "et peu courants, que leurs lettres suggèrent le moins.",
-         cheresdures});
-    b.recettes.push_back(
-        {"Les mots de 7 et 8 lettres, avec une lettre chère et sans anagramme, "
-         "entrés en 2008, 2012 et 2016 ; vide tant que l'on n'a pas comparé les "
-         "éditions que l'on possède.",
-         [](const Matiere& m) { return nouveauteschere(m.mots, m.nouveautes); }});
-    toutes.push_back(std::move(b));
+std::vector<Recette> recetteslettreschere() {
+    std::vector<Recette> recettes;
+    for (const auto& liste : cheres)
+        recettes.push_back(recettechere(liste));
+    recettes.push_back({"78tout.txt",
+                        "Les mots de 7 et 8 lettres qui ont une lettre chère, pas d'anagramme, et "
+                        "leur article au dictionnaire.",
+                        cherestoutes});
+    const auto nombre = std::to_string(dursparlongueur);
+    recettes.push_back({"ch78rev.txt",
+                        "Les " + nombre + " mots de 7 lettres et les " + nombre +
+                            " de 8 lettres, avec une lettre chère et peu courants, que leurs "
+                            "lettres suggèrent le moins.",
+                        cheresdures});
+    recettes.push_back({"78ods5-6-7.txt",
+                        "Les mots de 7 et 8 lettres, avec une lettre chère et sans anagramme, "
+                        "entrés en 2008, 2012 et 2016 ; vide tant que l'on n'a pas comparé les "
+                        "éditions que l'on possède.",
+                        [](const Matiere& m) { return nouveauteschere(m.mots, m.nouveautes); }});
+    return recettes;
 }
 
 }  // namespace atelier

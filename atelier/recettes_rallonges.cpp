@@ -65,23 +65,28 @@ Contenu rallonges(const Vocabulaire& v, std::size_t taille, Cote cote) {
     return contenu;
 }
 
+Recette recetterallonge(std::string_view fichier, std::size_t taille, Cote cote) {
+    const std::string ou =
+        cote == Cote::avant ? "devant" : "derrière, autrement que par une forme du même mot";
+    return {std::string(fichier),
+            "Les mots de " + std::to_string(taille) + " lettres qu'une lettre allonge par " + ou +
+                " ; la solution est la lettre ou les lettres, dans l'ordre alphabétique.",
+            [taille, cote](const Matiere& m) { return rallonges(m.mots, taille, cote); }};
+}
+
 }  // namespace
 
-void recettesrallonges(std::vector<Recettes>& toutes) {
-    Recettes recettes{"rallong", {}};
-    for (const std::size_t taille : {7U, 8U, 6U, 5U}) {
-        for (const auto cote : {Cote::avant, Cote::arriere}) {
-            const std::string place = cote == Cote::avant
-                                          ? "devant"
-                                          : "derrière, autrement que par une forme du même mot";
-            recettes.recettes.push_back(
-                {"Les mots de " + std::to_string(taille) + " lettres qu'une lettre allonge par " +
-                     place +
-                     " ; la solution est la lettre ou les lettres, dans l'ordre alphabétique.",
-                 [taille, cote](const Matiere& m) { return rallonges(m.mots, taille, cote); }});
-        }
-    }
-    toutes.push_back(std::move(recettes));
+std::vector<Recette> recettesrallonges() {
+    return {
+        recetterallonge("rallonge_av_7a8L.txt", 7, Cote::avant),
+        recetterallonge("rallonge_ar_7a8L.txt", 7, Cote::arriere),
+        recetterallonge("rallonge_av_8a9L.txt", 8, Cote::avant),
+        recetterallonge("rallonge_ar_8a9L.txt", 8, Cote::arriere),
+        recetterallonge("rallonge_av_6a7L.txt", 6, Cote::avant),
+        recetterallonge("rallonge_ar_6a7L.txt", 6, Cote::arriere),
+        recetterallonge("rallonge_av_5a6L.txt", 5, Cote::avant),
+        recetterallonge("rallonge_ar_5a6L.txt", 5, Cote::arriere),
+    };
 }
 
 }  // namespace atelier

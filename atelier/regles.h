@@ -1,7 +1,7 @@
 #pragma once
 
-// The rules of the lists: for each panel of the menu, row by row, what its list holds and how it is
-// chosen.
+// The rules of the lists: what each list of the catalogue holds and how that is chosen. A recipe is
+// a row of the family that its list belongs to, and is looked up by the file of the list.
 
 #include <functional>
 #include <string>
@@ -24,30 +24,29 @@ struct Matiere {
 
 /// How a list is made.
 struct Recette {
+    std::string fichier;      ///< name of the list in the catalogue
     std::string description;  ///< one French sentence
     std::function<Contenu(const Matiere&)> faire;
+    bool verbeadire = false;  ///< its conjugations do not show their verb: the notes say it
 };
 
-/// The recipes of a panel, in the order of its rows.
-struct Recettes {
-    std::string_view panneau;  ///< key of the panel in the catalogue
-    std::vector<Recette> recettes;
-};
+/// The recipes of all lists of the catalogue.
+[[nodiscard]] const std::vector<Recette>& toutesrecettes();
 
-/// The recipes of all panels.
-[[nodiscard]] std::vector<Recettes> toutesrecettes();
+/// The recipe of a list. Throws `common::Faute` for a file that has none.
+[[nodiscard]] const Recette& recette(std::string_view fichier);
 
 /// New words of 7 and 8 letters with a dear letter, alone on their rack.
 [[nodiscard]] Contenu nouveauteschere(const Vocabulaire& v, const Nouveautes& nouveautes);
 
-// One function a family of panels.
-void recettesdebase(std::vector<Recettes>& toutes);        // bt, ta
-void recettesconjuguees(std::vector<Recettes>& toutes);    // conja
-void recettesparpoids(std::vector<Recettes>& toutes);      // 6, 7, 8
-void recetteslettreschere(std::vector<Recettes>& toutes);  // 78lca, 78lcb
-void recettesmultiples(std::vector<Recettes>& toutes);     // duos7 to conjm
-void recettesdifficiles(std::vector<Recettes>& toutes);    // formdif
-void recettesrallonges(std::vector<Recettes>& toutes);     // rallong
-void recettesdiverses(std::vector<Recettes>& toutes);      // autres
+// One function a family of lists.
+[[nodiscard]] std::vector<Recette> recettesdebase();
+[[nodiscard]] std::vector<Recette> recettesconjuguees();
+[[nodiscard]] std::vector<Recette> recettesparpoids();  // 6, 7 and 8 letters, none of high value
+[[nodiscard]] std::vector<Recette> recetteslettreschere();  // 7 and 8 letters, one of high value
+[[nodiscard]] std::vector<Recette> recettesmultiples();     // several solutions a rack, and duos
+[[nodiscard]] std::vector<Recette> recettesdifficiles();
+[[nodiscard]] std::vector<Recette> recettesrallonges();
+[[nodiscard]] std::vector<Recette> recettesdiverses();
 
 }  // namespace atelier

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue.h"
 #include "petitlexique.h"
 #include "regles.h"
 
@@ -17,15 +16,8 @@ inline std::vector<std::string> liste(std::string_view fichier, const atelier::V
     const atelier::Difficulte difficulte(v);
     const atelier::Nouveautes nouveautes;
     std::vector<std::string> lignes;
-    for (const auto& recettes : atelier::toutesrecettes()) {
-        const auto& rangees = menu::panneau(recettes.panneau)->rangees;
-        for (std::size_t i = 0; i < rangees.size(); ++i) {
-            if (rangees[i].fichier != fichier)
-                continue;
-            for (const auto& r : recettes.recettes.at(i).faire({v, difficulte, nouveautes}).rangees)
-                lignes.push_back(r.texte());
-        }
-    }
+    for (const auto& r : atelier::recette(fichier).faire({v, difficulte, nouveautes}).rangees)
+        lignes.push_back(r.texte());
     return lignes;
 }
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "catalogue.h"
+#include "faute.h"
 #include "regles.h"
 
 namespace {
@@ -195,17 +196,26 @@ TEST(Catalogue, un_panneau_inconnu_n_est_pas_trouve) {
     EXPECT_EQ(menu::panneau(""), nullptr);
 }
 
-TEST(Catalogue, chaque_rangee_a_sa_recette) {
-    const auto recettes = atelier::toutesrecettes();
-    ASSERT_EQ(recettes.size(), menu::panneaux().size());
-    for (std::size_t i = 0; i < recettes.size(); ++i) {
-        EXPECT_EQ(recettes[i].panneau, menu::panneaux()[i].cle);
-        EXPECT_EQ(recettes[i].recettes.size(), menu::panneaux()[i].rangees.size());
-        for (const auto& recette : recettes[i].recettes) {
-            EXPECT_FALSE(recette.description.empty());
-            EXPECT_EQ(recette.description.back(), '.');
-        }
+TEST(Catalogue, chaque_rangee_a_sa_recette_et_chaque_recette_sa_rangee) {
+    std::multiset<std::string> fichiers;
+    for (const auto& panneau : menu::panneaux()) {
+        for (const auto& rangee : panneau.rangees)
+            fichiers.emplace(rangee.fichier);
     }
+    std::multiset<std::string> recettes;
+    for (const auto& recette : atelier::toutesrecettes()) {
+        recettes.insert(recette.fichier);
+        EXPECT_FALSE(recette.description.empty());
+        EXPECT_EQ(recette.description.back(), '.');
+    }
+    EXPECT_EQ(recettes, fichiers);
+}
+
+TEST(Catalogue, une_recette_se_trouve_par_le_fichier_de_sa_liste) {
+    EXPECT_EQ(atelier::recette("vb6.txt").description,
+              "Les infinitifs de 6 lettres, sans les plus courants : 779 au plus.");
+    EXPECT_TRUE(atelier::recette("7at.txt").verbeadire);
+    EXPECT_THROW(static_cast<void>(atelier::recette("vb66.txt")), common::Faute);
 }
 
 }  // namespace
