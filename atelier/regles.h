@@ -10,7 +10,7 @@
 
 #include "difficulte.h"
 #include "nouveautes.h"
-#include "rangees.h"
+#include "contenu.h"
 #include "vocabulaire.h"
 
 namespace atelier {

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "rangees.h"
+#include "contenu.h"
 
 namespace atelier {
 

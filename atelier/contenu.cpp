@@ -1,4 +1,4 @@
-#include "rangees.h"
+#include "contenu.h"
 
 #include <algorithm>
 

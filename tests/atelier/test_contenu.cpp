@@ -5,7 +5,7 @@
 
 #include "fabrication.h"
 #include "petitlexique.h"
-#include "rangees.h"
+#include "contenu.h"
 
 namespace {
 
