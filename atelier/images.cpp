@@ -5,8 +5,8 @@
 #include <map>
 #include <vector>
 
+#include "alphabet.h"
 #include "image.h"
-#include "lettres.h"
 
 namespace atelier {
 namespace {

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "contenu.h"
 #include "difficulte.h"
 #include "nouveautes.h"
-#include "contenu.h"
 #include "vocabulaire.h"
 
 namespace atelier {

@@ -3,9 +3,9 @@
 
 #include <gmock/gmock.h>
 
+#include "contenu.h"
 #include "fabrication.h"
 #include "petitlexique.h"
-#include "contenu.h"
 
 namespace {
 

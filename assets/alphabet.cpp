@@ -1,4 +1,4 @@
-#include "lettres.h"
+#include "alphabet.h"
 
 #include <map>
 
