@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "alphabet.h"
 #include "image.h"
-#include "lettres.h"
 
 namespace assets {
 

@@ -1,7 +1,7 @@
 #include <string>
 
+#include "alphabet.h"
 #include "dessins.h"
-#include "lettres.h"
 
 namespace assets {
 

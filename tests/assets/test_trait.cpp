@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "lettres.h"
+#include "alphabet.h"
 #include "trait.h"
 
 namespace assets {

@@ -55,7 +55,26 @@ inline const std::string affixes =
     "SFX p+ er ée er po:ppas po:adj is:fem is:sg\n"
     "\n"
     "SFX p. Y 1\n"
-    "SFX p. er é er po:ppas po:1jsg is:epi is:inv\n";
+    "SFX p. er é er po:ppas po:1jsg is:epi is:inv\n"
+    "\n"
+    "SFX c0 Y 2\n"
+    "SFX c0 0 0 er po:infi po:ppre po:ppas\n"
+    "SFX c0 er ont er po:ipre po:iimp po:ipsi po:ifut po:cond po:spre po:simp po:impe po:1sg "
+    "po:2sg po:3sg po:1pl po:2pl po:3pl\n"
+    "\n"
+    "SFX d0 Y 1\n"
+    "SFX d0 er ais er po:iimp po:1sg po:2sg\n"
+    "\n"
+    "SFX iV Y 3\n"
+    "SFX iV 0 0 ésir po:infi\n"
+    "SFX iV ésir isant ésir po:ppre\n"
+    "SFX iV ésir isais ésir po:iimp po:1sg po:2sg\n"
+    "\n"
+    "SFX yX Y 2\n"
+    "SFX yX 0 0 uire po:infi po:ppre po:ppas\n"
+    "SFX yX uire uisent uire po:ipre po:iimp po:ipsi po:ifut po:cond po:spre po:simp po:impe "
+    "po:3sg "
+    "po:1pl po:2pl po:3pl\n";
 
 /// The dictionary of these lines, with its count.
 inline std::string dictionnaire(const std::string& lignes) {
@@ -80,6 +99,16 @@ inline std::string noms(std::initializer_list<const char*> mots) {
     for (const auto* mot : mots)
         lignes += std::string(mot) + "/S.() po:nom is:mas\n";
     return lignes;
+}
+
+/// A verb of few forms, and so defective: -ER, -ANT, -E, -ONS, -EZ.
+inline std::string verbe(const char* mot) {
+    return std::string(mot) + "/a0() po:v1_it____a\n";
+}
+
+/// A verb that lacks nothing, with the forms -ER and -ONT.
+inline std::string verbecomplet(const char* mot) {
+    return std::string(mot) + "/c0() po:v1_it____a\n";
 }
 
 /// Lines of words that are the same everywhere.

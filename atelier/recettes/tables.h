@@ -1,0 +1,46 @@
+#pragma once
+
+// Racks with more anagrams than a series can ask: tables to read, as a text and as a picture.
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "contenu.h"
+
+namespace atelier {
+
+/// A rack with this many words that are not conjugated, or more, is in the tables.
+inline constexpr std::size_t anagrammesmin = 6;
+
+struct Table {
+    std::size_t taille = 0;  ///< letters of its racks
+    std::string_view texte;  ///< file in the folder of the lists
+    std::string_view image;  ///< file in the folder of the pictures, without its extension
+};
+
+/// Folder of the pictures, beside the program.
+inline constexpr std::string_view dossierimages = "images";
+/// Each picture comes in the size of the screen and twice as fine.
+inline constexpr std::array variantes{1, 2};
+
+inline constexpr std::array tables{
+    Table{7, "7l_6anagrammes.txt", "7l_6anagrammes"},
+    Table{8, "8l_6anagrammes.txt", "8l_6anagrammes"},
+};
+
+/// The file of a picture's variant: "@2x" stands before the extension of the fine one.
+[[nodiscard]] std::string fichierimage(const Table& table, int finesse);
+
+/// The title of a picture.
+[[nodiscard]] std::string titre(const Table& table);
+
+/// Of the racks of 8 letters those are left out whose wanted words all are S behind a word of 7
+/// letters that is no conjugation: the player learns them as the racks of 7.
+[[nodiscard]] bool pluriels(const Vocabulaire& v, const Selection& souhaites, std::size_t taille);
+
+/// The rows of a table: a rack and its words.
+[[nodiscard]] Contenu tirages6(const Vocabulaire& v, std::size_t taille);
+
+}  // namespace atelier
