@@ -11,7 +11,8 @@
 namespace common {
 namespace {
 
-constexpr std::size_t bloc = 128UL * 1024;
+/// A line that lies in it whole is short enough.
+constexpr std::size_t bloc = limiteligne;
 constexpr std::string_view findeligne = "\r\n";
 /// What makes an item other than a whole line, a blank at its start aside.
 constexpr std::string_view signes = ",\"";
@@ -31,16 +32,82 @@ std::size_t liresur(Flux& flux, std::span<char> tampon, std::string_view chemin,
     return lus;
 }
 
-std::string octets(std::span<const std::string> lignes) {
+std::string octets(std::span<const std::string> lignes, std::string_view chemin,
+                   std::string_view action) {
     std::string resultat;
-    for (const auto& ligne : lignes)
+    for (const auto& ligne : lignes) {
+        const auto avant = resultat.size();
         resultat.append(vers1252(ligne)).append(findeligne);
+        if (resultat.size() - avant > limiteligne)
+            throw Faute(rapportfichier(action, chemin, raison(Ennui::LigneTropLongue)));
+    }
     return resultat;
+}
+
+class Ennuis : public std::error_category {
+  public:
+    [[nodiscard]] const char* name() const noexcept override { return "orvane"; }
+    [[nodiscard]] std::string message(int code) const override {
+        switch (static_cast<Ennui>(code)) {
+            case Ennui::PasUnFichier:
+                return "ce n'est pas un fichier ordinaire";
+            case Ennui::Retenu:
+                return "un autre programme le retient ; la limite d'attente est de 5 secondes. "
+                       "Fermez "
+                       "l'autre programme et recommencez";
+            case Ennui::LigneTropLongue:
+                break;
+        }
+        return "la ligne est trop longue ; la limite est de " + std::to_string(limiteligne) +
+               " octets";
+    }
+};
+
+/// The bytes of a file, as long as `admettre` likes what has come.
+template <class Admettre>
+std::error_code lire(Disque& disque, std::string_view chemin, std::string& contenu,
+                     const Admettre& admettre) {
+    contenu.clear();
+    std::unique_ptr<Flux> flux;
+    auto erreur = disque.ouvrir(chemin, flux);
+    std::size_t lus = 1;
+    while (!erreur && lus > 0) {
+        const auto place = contenu.size();
+        contenu.resize(place + bloc);
+        lus = 0;
+        erreur = flux->lire(std::span(contenu).subspan(place), lus);
+        contenu.resize(place + lus);
+        if (!admettre())
+            return Ennui::LigneTropLongue;
+    }
+    return erreur;
+}
+
+/// Looks at the lines from the place `ligne` on, which goes to where the last one begins. False if
+/// one is too long: `contenu` then ends before it.
+bool mesurer(std::string& contenu, std::size_t& ligne) {
+    while (true) {
+        const auto saut = contenu.find('\n', ligne);
+        if (std::min(saut, contenu.size()) - ligne >= limiteligne) {
+            contenu.resize(ligne);
+            return false;
+        }
+        if (saut == std::string::npos)
+            return true;
+        ligne = saut + 1;
+    }
 }
 
 }  // namespace
 
+std::error_code make_error_code(Ennui ennui) {
+    static const Ennuis categorie;
+    return {static_cast<int>(ennui), categorie};
+}
+
 std::string raison(const std::error_code& erreur) {
+    if (erreur.category() == make_error_code(Ennui::Retenu).category())
+        return erreur.message();
     struct Cas {
         std::errc code;
         const char* texte;
@@ -100,13 +167,8 @@ Lignes::Lignes(std::string_view contenu)
 bool Lignes::remplir() {
     if (fini_)
         return false;
-    const bool pleine = debut_ == 0 && fin_ == capacite_;
-    if (pleine) {
-        capacite_ *= 2;
-        auto plusgrand = std::make_unique_for_overwrite<char[]>(capacite_);
-        std::copy_n(tampon_.get(), fin_, plusgrand.get());
-        tampon_ = std::move(plusgrand);
-    }
+    if (fin_ - debut_ == capacite_)
+        troplong(numero_ + 1);
     std::memmove(tampon_.get(), tampon_.get() + debut_, fin_ - debut_);
     fin_ -= debut_;
     debut_ = 0;
@@ -119,6 +181,10 @@ bool Lignes::remplir() {
         return contenu.find(signe) != std::string_view::npos;
     });
     return !fini_;
+}
+
+void Lignes::troplong(std::size_t ligne) const {
+    throw Faute(rapportligne(action_, chemin_, ligne, raison(Ennui::LigneTropLongue)));
 }
 
 bool Lignes::lirepuissuivante(std::string_view& ligne) {
@@ -148,7 +214,11 @@ Items::Items(Disque& disque, std::string_view chemin, std::string_view action)
     lignes_.guetter(signes);
 }
 
-Items::Items(std::string_view contenu) : lignes_(contenu) {}
+Items::Items(std::string_view contenu, std::string_view chemin, std::string_view action)
+    : lignes_(contenu) {
+    lignes_.chemin_ = chemin;
+    lignes_.action_ = action;
+}
 
 /// The next item of the line that is under way.
 bool Items::lirereste(std::string_view& item) {
@@ -186,6 +256,8 @@ void Items::lireguillemets(std::string_view& item) {
             return;
         }
         item_.append(findeligne);
+        if (item_.size() >= limiteligne)
+            lignes_.troplong(numero_);
         fin = reste_.find('"');
     }
     item_.append(reste_.substr(0, fin));
@@ -198,38 +270,40 @@ void Items::lireguillemets(std::string_view& item) {
     item = item_;
 }
 
-std::error_code essayerlire(Disque& disque, std::string_view chemin, std::string& contenu) {
-    contenu.clear();
-    std::unique_ptr<Flux> flux;
-    auto erreur = disque.ouvrir(chemin, flux);
-    std::size_t place = 0;
-    std::size_t lus = 1;
-    while (!erreur && lus > 0) {
-        contenu.resize(std::max(contenu.size(), place + bloc));
-        lus = 0;
-        erreur = flux->lire(std::span(contenu).subspan(place), lus);
-        place += lus;
+std::error_code essayerliretexte(Disque& disque, std::string_view chemin, std::string& contenu) {
+    std::size_t ligne = 0;
+    return lire(disque, chemin, contenu, [&] { return mesurer(contenu, ligne); });
+}
+
+std::string liretexte(Disque& disque, std::string_view chemin, std::string_view action) {
+    std::string contenu;
+    const auto erreur = essayerliretexte(disque, chemin, contenu);
+    if (erreur == Ennui::LigneTropLongue) {
+        const auto lignes = std::count(contenu.begin(), contenu.end(), '\n');
+        throw Faute(
+            rapportligne(action, chemin, static_cast<std::size_t>(lignes) + 1, raison(erreur)));
     }
-    contenu.resize(place);
-    return erreur;
+    if (erreur)
+        throw Faute(rapportfichier(action, chemin, raison(erreur)));
+    return contenu;
 }
 
 std::string lirefichier(Disque& disque, std::string_view chemin, std::string_view action) {
     std::string contenu;
-    if (const auto erreur = essayerlire(disque, chemin, contenu))
+    if (const auto erreur = lire(disque, chemin, contenu, [] { return true; }))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
     return contenu;
 }
 
 void ajouterlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
                    std::string_view action) {
-    if (const auto erreur = disque.ajouter(chemin, octets(lignes)))
+    if (const auto erreur = disque.ajouter(chemin, octets(lignes, chemin, action)))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }
 
 void remplacerlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
                      std::string_view action) {
-    if (const auto erreur = disque.remplacer(chemin, octets(lignes)))
+    if (const auto erreur = disque.remplacer(chemin, octets(lignes, chemin, action)))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }
 

@@ -1,6 +1,7 @@
 #include "revision.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "faute.h"
 #include "listes.h"
@@ -38,7 +39,9 @@ void ajouterenrevision(common::Disque& disque, std::string_view chemin,
 void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne) {
     constexpr std::string_view action = "Suppression dans le fichier de révision";
     // A row that another program appends meanwhile would be lost with the old file.
-    const auto verrou = disque.verrouiller(chemin);
+    std::unique_ptr<common::Verrou> verrou;
+    if (const auto erreur = disque.verrouiller(chemin, verrou))
+        throw common::Faute(common::rapportfichier(action, chemin, common::raison(erreur)));
     std::vector<std::string> gardees;
     common::Items items(disque, chemin, action);
     std::string_view item;
