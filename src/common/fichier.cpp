@@ -33,13 +33,13 @@ std::size_t liresur(Flux& flux, std::span<char> tampon, std::string_view chemin,
 }
 
 std::string octets(std::span<const std::string> lignes, std::string_view chemin,
-                   std::string_view action) {
+                   std::string_view action, std::size_t limite) {
     std::string resultat;
     for (const auto& ligne : lignes) {
         const auto avant = resultat.size();
         resultat.append(vers1252(ligne)).append(findeligne);
-        if (resultat.size() - avant > limiteligne)
-            throw Faute(rapportfichier(action, chemin, raison(Ennui::LigneTropLongue)));
+        if (resultat.size() - avant > limite)
+            throw Faute(rapportfichier(action, chemin, lignetroplongue(limite)));
     }
     return resultat;
 }
@@ -58,8 +58,7 @@ class Ennuis : public std::error_category {
             case Ennui::LigneTropLongue:
                 break;
         }
-        return "la ligne est trop longue ; la limite est de " + std::to_string(limiteligne) +
-               " octets";
+        return "une ligne est trop longue";
     }
 };
 
@@ -85,10 +84,10 @@ std::error_code lire(Disque& disque, std::string_view chemin, std::string& conte
 
 /// Looks at the lines from the place `ligne` on, which goes to where the last one begins. False if
 /// one is too long: `contenu` then ends before it.
-bool mesurer(std::string& contenu, std::size_t& ligne) {
+bool mesurer(std::string& contenu, std::size_t& ligne, std::size_t limite) {
     while (true) {
         const auto saut = contenu.find('\n', ligne);
-        if (std::min(saut, contenu.size()) - ligne >= limiteligne) {
+        if (std::min(saut, contenu.size()) - ligne >= limite) {
             contenu.resize(ligne);
             return false;
         }
@@ -99,6 +98,10 @@ bool mesurer(std::string& contenu, std::size_t& ligne) {
 }
 
 }  // namespace
+
+std::string lignetroplongue(std::size_t limite) {
+    return "la ligne est trop longue ; la limite est de " + std::to_string(limite) + " octets";
+}
 
 std::error_code make_error_code(Ennui ennui) {
     static const Ennuis categorie;
@@ -148,10 +151,11 @@ std::string rapportligne(std::string_view action, std::string_view chemin, std::
            std::to_string(ligne) + " : " + std::string(ennui) + ".";
 }
 
-Lignes::Lignes(Disque& disque, std::string_view chemin, std::string_view action)
+Lignes::Lignes(Disque& disque, std::string_view chemin, std::string_view action, std::size_t limite)
     : chemin_(chemin),
       action_(action),
       flux_(ouvrirsur(disque, chemin, action)),
+      limite_(limite),
       capacite_(bloc),
       tampon_(std::make_unique_for_overwrite<char[]>(capacite_)) {}
 
@@ -167,8 +171,14 @@ Lignes::Lignes(std::string_view contenu)
 bool Lignes::remplir() {
     if (fini_)
         return false;
-    if (fin_ - debut_ == capacite_)
+    if (fin_ - debut_ >= limite_)
         troplong(numero_ + 1);
+    if (fin_ - debut_ == capacite_) {
+        capacite_ = std::min(2 * capacite_, limite_);
+        auto plusgrand = std::make_unique_for_overwrite<char[]>(capacite_);
+        std::copy_n(tampon_.get(), fin_, plusgrand.get());
+        tampon_ = std::move(plusgrand);
+    }
     std::memmove(tampon_.get(), tampon_.get() + debut_, fin_ - debut_);
     fin_ -= debut_;
     debut_ = 0;
@@ -184,7 +194,7 @@ bool Lignes::remplir() {
 }
 
 void Lignes::troplong(std::size_t ligne) const {
-    throw Faute(rapportligne(action_, chemin_, ligne, raison(Ennui::LigneTropLongue)));
+    throw Faute(rapportligne(action_, chemin_, ligne, lignetroplongue(limite_)));
 }
 
 bool Lignes::lirepuissuivante(std::string_view& ligne) {
@@ -209,8 +219,8 @@ bool Lignes::lirepuissuivante(std::string_view& ligne) {
     return true;
 }
 
-Items::Items(Disque& disque, std::string_view chemin, std::string_view action)
-    : lignes_(disque, chemin, action) {
+Items::Items(Disque& disque, std::string_view chemin, std::string_view action, std::size_t limite)
+    : lignes_(disque, chemin, action, limite) {
     lignes_.guetter(signes);
 }
 
@@ -256,7 +266,7 @@ void Items::lireguillemets(std::string_view& item) {
             return;
         }
         item_.append(findeligne);
-        if (item_.size() >= limiteligne)
+        if (item_.size() >= lignes_.limite_)
             lignes_.troplong(numero_);
         fin = reste_.find('"');
     }
@@ -270,18 +280,20 @@ void Items::lireguillemets(std::string_view& item) {
     item = item_;
 }
 
-std::error_code essayerliretexte(Disque& disque, std::string_view chemin, std::string& contenu) {
+std::error_code essayerliretexte(Disque& disque, std::string_view chemin, std::string& contenu,
+                                 std::size_t limite) {
     std::size_t ligne = 0;
-    return lire(disque, chemin, contenu, [&] { return mesurer(contenu, ligne); });
+    return lire(disque, chemin, contenu, [&] { return mesurer(contenu, ligne, limite); });
 }
 
-std::string liretexte(Disque& disque, std::string_view chemin, std::string_view action) {
+std::string liretexte(Disque& disque, std::string_view chemin, std::string_view action,
+                      std::size_t limite) {
     std::string contenu;
-    const auto erreur = essayerliretexte(disque, chemin, contenu);
+    const auto erreur = essayerliretexte(disque, chemin, contenu, limite);
     if (erreur == Ennui::LigneTropLongue) {
         const auto lignes = std::count(contenu.begin(), contenu.end(), '\n');
-        throw Faute(
-            rapportligne(action, chemin, static_cast<std::size_t>(lignes) + 1, raison(erreur)));
+        throw Faute(rapportligne(action, chemin, static_cast<std::size_t>(lignes) + 1,
+                                 lignetroplongue(limite)));
     }
     if (erreur)
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
@@ -296,14 +308,14 @@ std::string lirefichier(Disque& disque, std::string_view chemin, std::string_vie
 }
 
 void ajouterlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                   std::string_view action) {
-    if (const auto erreur = disque.ajouter(chemin, octets(lignes, chemin, action)))
+                   std::string_view action, std::size_t limite) {
+    if (const auto erreur = disque.ajouter(chemin, octets(lignes, chemin, action, limite)))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }
 
 void remplacerlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                     std::string_view action) {
-    if (const auto erreur = disque.remplacer(chemin, octets(lignes, chemin, action)))
+                     std::string_view action, std::size_t limite) {
+    if (const auto erreur = disque.remplacer(chemin, octets(lignes, chemin, action, limite)))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }
 

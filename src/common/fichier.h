@@ -20,12 +20,15 @@ namespace common {
 /// Most bytes of a line, its end included, and of an item in quotes. It is twice as far as the
 /// 16-bit places of the rules reach, and what a window shows without being felt.
 inline constexpr std::size_t limiteligne = 65536;
+/// The same for a row of a list or of a revision file, whose solution may be a megabyte: it is laid
+/// out only once it is answered wrong.
+inline constexpr std::size_t limiterangee = 2UL * 1024 * 1024;
 
 /// What this program refuses of a file, beside the system's own reasons.
 enum class Ennui : std::uint8_t {
     PasUnFichier = 1,  ///< a pipe, a device...: nothing that keeps bytes
     Retenu,            ///< another program has had it locked for too long
-    LigneTropLongue    ///< a line is past `limiteligne`
+    LigneTropLongue    ///< a line is past its limit
 };
 [[nodiscard]] std::error_code make_error_code(Ennui ennui);
 
@@ -89,11 +92,12 @@ class Disque {
 
 /// Lines of a file, one pass, without their line end (CR LF, or a lone LF), as bytes of
 /// Windows-1252. A last line without a line end is a line; a lone CR at the end of the file is half
-/// of one. Memory: one buffer. Throws `Faute` ("<action> : <path>...") if the file cannot be read
-/// or a line is too long.
+/// of one. Memory: one buffer, grown only for a longer line where the limit is higher. Throws
+/// `Faute` ("<action> : <path>...") if the file cannot be read or a line is too long.
 class Lignes {
   public:
-    Lignes(Disque& disque, std::string_view chemin, std::string_view action);
+    Lignes(Disque& disque, std::string_view chemin, std::string_view action,
+           std::size_t limite = limiteligne);
     /// The lines of bytes that are at hand, of which `liretexte` has seen that none is too long.
     explicit Lignes(std::string_view contenu);
     /// The next line, valid until the next call; false at the end of the file.
@@ -162,6 +166,7 @@ class Lignes {
     std::string chemin_;
     std::string action_;
     std::unique_ptr<Flux> flux_;
+    std::size_t limite_ = limiteligne;
     std::size_t capacite_;
     std::unique_ptr<char[]> tampon_;
     std::string_view signes_;
@@ -179,7 +184,8 @@ class Lignes {
 /// Nothing follows a comma at the very end of the file.
 class Items {
   public:
-    Items(Disque& disque, std::string_view chemin, std::string_view action);
+    Items(Disque& disque, std::string_view chemin, std::string_view action,
+          std::size_t limite = limiteligne);
     /// The items of bytes that are at hand; a fault in them names the file `chemin`.
     explicit Items(std::string_view contenu, std::string_view chemin = {},
                    std::string_view action = {});
@@ -234,20 +240,23 @@ class Items {
 /// The bytes of a text file, for a caller that bears its failure: `contenu` is what could be read,
 /// whole lines if what follows is a line that is too long.
 [[nodiscard]] std::error_code essayerliretexte(Disque& disque, std::string_view chemin,
-                                               std::string& contenu);
+                                               std::string& contenu,
+                                               std::size_t limite = limiteligne);
 /// The whole text file as bytes. Throws `Faute`, for a line that is too long too.
 [[nodiscard]] std::string liretexte(Disque& disque, std::string_view chemin,
-                                    std::string_view action);
+                                    std::string_view action, std::size_t limite = limiteligne);
+/// What is wrong with a line past a limit.
+[[nodiscard]] std::string lignetroplongue(std::size_t limite);
 /// The whole file as bytes, whatever it holds. Throws `Faute`.
 [[nodiscard]] std::string lirefichier(Disque& disque, std::string_view chemin,
                                       std::string_view action);
 /// Appends `lignes` (UTF-8), each with CR LF, in one step. Throws `Faute`, for a line that could
 /// not be read again too.
 void ajouterlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                   std::string_view action);
+                   std::string_view action, std::size_t limite = limiteligne);
 /// Replaces the file by `lignes` (UTF-8), each with CR LF. Throws `Faute`.
 void remplacerlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                     std::string_view action);
+                     std::string_view action, std::size_t limite = limiteligne);
 /// Makes the file, empty, if it is missing; leaves it as it is otherwise. Throws `Faute`.
 void toucher(Disque& disque, std::string_view chemin, std::string_view action);
 

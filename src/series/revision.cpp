@@ -21,7 +21,7 @@ std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view ch
                                      std::span<const std::string> lignes) {
     std::vector<bool> presents(lignes.size(), false);
     const Recherche recherche(lignes);
-    common::Items(disque, common::sanspartie(chemin), "Lecture des révisions")
+    common::Items(disque, common::sanspartie(chemin), "Lecture des révisions", common::limiterangee)
         .chaque([&](std::string_view item, std::size_t /*ligne*/) {
             for (const auto rang : recherche.rangs(item))
                 presents[rang] = true;
@@ -33,7 +33,8 @@ void ajouterenrevision(common::Disque& disque, std::string_view chemin,
                        std::span<const std::string> lignes) {
     if (lignes.empty())
         return;
-    common::ajouterlignes(disque, chemin, lignes, "Ajout au fichier de révision");
+    common::ajouterlignes(disque, chemin, lignes, "Ajout au fichier de révision",
+                          common::limiterangee);
 }
 
 void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne) {
@@ -43,7 +44,7 @@ void retirerderevision(common::Disque& disque, std::string_view chemin, std::str
     if (const auto erreur = disque.verrouiller(chemin, verrou))
         throw common::Faute(common::rapportfichier(action, chemin, common::raison(erreur)));
     std::vector<std::string> gardees;
-    common::Items items(disque, chemin, action);
+    common::Items items(disque, chemin, action, common::limiterangee);
     std::string_view item;
     std::size_t nombre = 0;
     while (items.lireitem(item)) {
@@ -56,7 +57,7 @@ void retirerderevision(common::Disque& disque, std::string_view chemin, std::str
         if (!texte.empty() && texte != ligne)
             gardees.push_back(std::move(texte));
     }
-    common::remplacerlignes(disque, chemin, gardees, action);
+    common::remplacerlignes(disque, chemin, gardees, action, common::limiterangee);
 }
 
 }  // namespace series

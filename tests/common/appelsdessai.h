@@ -15,21 +15,20 @@ namespace essais {
 /// What befalls a program at one of its calls.
 enum class Panne : std::uint8_t {
     Aucune,
-    Avant,      ///< killed right before it
-    Apres,      ///< killed right after it
-    Refus,      ///< the disk answers with an error of its own
+    Avant,      ///< killed right before a call that changes the disk
+    Refus,      ///< any call answers with an error of the disk
     Dechirure,  ///< killed when half the bytes of a write are written
     Courte,     ///< half the bytes of a write are taken, and it goes on
-    Coupure     ///< the power goes before it: what was not synchronised is cut in half
+    Coupure     ///< the power goes before a change: what is not synchronised is cut in half
 };
 
 constexpr int tue = 42;  ///< exit status of a program that was killed
 
-/// The calls of the system, numbered from 1, one of which breaks. Calls that change nothing and
-/// cannot fail, and the clock, are not counted. Time goes by at the waits only.
+/// The calls of the system, numbered from 1, one of which breaks. Closing and the clock are not
+/// counted. Time goes by at the waits only.
 class AppelsDessai : public common::Appels {
   public:
-    /// Breaks the call of that number; among the writes only where the breakdown is one of writes.
+    /// Breaks the call of that number, among those that the breakdown is for.
     void prevoir(Panne panne, int rang) {
         panne_ = panne;
         rang_ = rang;
@@ -45,7 +44,9 @@ class AppelsDessai : public common::Appels {
 
     std::error_code ouvrir(const Chemin& chemin, common::Ouverture mode,
                            common::Poignee& poignee) override {
-        return faire("ouvrir", [&] { return vrais_.ouvrir(chemin, mode, poignee); });
+        return faire(
+            "ouvrir", [&] { return vrais_.ouvrir(chemin, mode, poignee); },
+            mode == common::Ouverture::Creation);
     }
     void fermer(common::Poignee poignee) override {
         sales_.erase(poignee);
@@ -53,7 +54,8 @@ class AppelsDessai : public common::Appels {
     }
     std::error_code lire(common::Poignee poignee, std::span<char> tampon,
                          std::size_t& lus) override {
-        return faire("lire", [&] { return vrais_.lire(poignee, tampon, lus); });
+        return faire(
+            "lire", [&] { return vrais_.lire(poignee, tampon, lus); }, false);
     }
     std::error_code ecrire(common::Poignee poignee, std::string_view octets,
                            std::size_t& ecrits) override {
@@ -81,13 +83,16 @@ class AppelsDessai : public common::Appels {
         return faire("synchroniserdossier", [&] { return vrais_.synchroniserdossier(dossier); });
     }
     std::error_code etat(common::Poignee poignee, common::Etat& etat) override {
-        return faire("etat", [&] { return vrais_.etat(poignee, etat); });
+        return faire(
+            "etat", [&] { return vrais_.etat(poignee, etat); }, false);
     }
     std::error_code etat(const Chemin& chemin, common::Etat& etat) override {
-        return faire("etat", [&] { return vrais_.etat(chemin, etat); });
+        return faire(
+            "etat", [&] { return vrais_.etat(chemin, etat); }, false);
     }
     std::error_code lien(const Chemin& chemin, Chemin& cible) override {
-        return faire("lien", [&] { return vrais_.lien(chemin, cible); });
+        return faire(
+            "lien", [&] { return vrais_.lien(chemin, cible); }, false);
     }
     std::error_code copierdroits(const Chemin& modele, common::Poignee neuf) override {
         return faire("copierdroits", [&] { return vrais_.copierdroits(modele, neuf); });
@@ -105,10 +110,12 @@ class AppelsDessai : public common::Appels {
         return faire("creerdossier", [&] { return vrais_.creerdossier(chemin); });
     }
     std::error_code lister(const Chemin& dossier, std::vector<Chemin>& noms) override {
-        return faire("lister", [&] { return vrais_.lister(dossier, noms); });
+        return faire(
+            "lister", [&] { return vrais_.lister(dossier, noms); }, false);
     }
     std::error_code verrouiller(common::Poignee poignee, bool& pris) override {
-        return faire("verrouiller", [&] { return vrais_.verrouiller(poignee, pris); });
+        return faire(
+            "verrouiller", [&] { return vrais_.verrouiller(poignee, pris); }, false);
     }
     std::int64_t programme() override { return vrais_.programme(); }
     std::int64_t maintenant() override { return horloge; }
@@ -126,17 +133,16 @@ class AppelsDessai : public common::Appels {
     }
 
     template <class Appel>
-    std::error_code faire(const char* nom, const Appel& appel) {
+    std::error_code faire(const char* nom, const Appel& appel, bool change = true) {
         journal.emplace_back(nom);
         const bool decriture = panne_ == Panne::Dechirure || panne_ == Panne::Courte;
-        if (panne_ == Panne::Aucune || decriture || !compter())
+        const bool dechange = panne_ == Panne::Avant || panne_ == Panne::Coupure;
+        if (panne_ == Panne::Aucune || decriture || (dechange && !change) || !compter())
             return appel();
         if (panne_ == Panne::Refus)
             return std::make_error_code(std::errc::io_error);
         if (panne_ == Panne::Coupure)
             couper();
-        if (panne_ == Panne::Apres)
-            static_cast<void>(appel());
         ::_exit(tue);
     }
 

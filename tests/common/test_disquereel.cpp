@@ -195,7 +195,7 @@ TEST_F(DisqueReel, supprimer_un_fichier_et_rien) {
 
 TEST_F(DisqueReel, deux_programmes_qui_ajoutent_ensemble_ne_se_coupent_pas) {
     constexpr int programmes = 2;
-    constexpr int ajouts = 200;
+    constexpr int ajouts = 50;
     const auto ligne = [](int programme) {
         return std::string(3000, static_cast<char>('a' + programme)) + "\r\n";
     };
