@@ -1,118 +1,70 @@
 #include "disquereel.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
 #include <memory>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
+
+#include "provisoire.h"
 
 namespace common {
 namespace {
 
-std::error_code derniere() {
-    return {errno, std::generic_category()};
-}
-
-/// A file descriptor that closes itself.
-class Descripteur {
-  public:
-    Descripteur(const std::filesystem::path& chemin, int modes)
-        : numero_(::open(chemin.c_str(), modes | O_CLOEXEC, 0666)) {}
-    Descripteur(const Descripteur&) = delete;
-    Descripteur& operator=(const Descripteur&) = delete;
-    ~Descripteur() {
-        if (numero_ >= 0)
-            ::close(numero_);
-    }
-    [[nodiscard]] bool valide() const { return numero_ >= 0; }
-    [[nodiscard]] int numero() const { return numero_; }
-
-  private:
-    int numero_;
-};
-
 class FluxReel : public Flux {
   public:
-    explicit FluxReel(const std::filesystem::path& chemin) : fichier_(chemin, O_RDONLY) {}
-    [[nodiscard]] bool ouvert() const { return fichier_.valide(); }
+    explicit FluxReel(Appels& appels) : appels_(appels), fichier_(appels) {}
+    [[nodiscard]] std::error_code ouvrir(const std::filesystem::path& chemin) {
+        return fichier_.ouvrir(chemin, Ouverture::Lecture);
+    }
     [[nodiscard]] std::error_code lire(std::span<char> tampon, std::size_t& lus) override {
-        ssize_t n = -1;
-        do {
-            n = ::read(fichier_.numero(), tampon.data(), tampon.size());
-        } while (n < 0 && errno == EINTR);
-        if (n < 0)
-            return derniere();
-        lus = static_cast<std::size_t>(n);
-        return {};
+        return appels_.lire(fichier_.poignee(), tampon, lus);
     }
 
   private:
+    Appels& appels_;
     Descripteur fichier_;
 };
 
-/// One write of all bytes; a short write counts as a full disk.
-std::error_code ecrire(int numero, std::string_view octets) {
-    if (octets.empty())
-        return {};
-    const auto n = ::write(numero, octets.data(), octets.size());
-    if (n < 0)
-        return derniere();
-    if (static_cast<std::size_t>(n) != octets.size())
-        return std::make_error_code(std::errc::no_space_on_device);
+class VerrouReel : public Verrou {
+  public:
+    explicit VerrouReel(Appels& appels) : tenu_(appels) {}
+    [[nodiscard]] Descripteur& tenu() { return tenu_; }
+
+  private:
+    Descripteur tenu_;
+};
+
+std::error_code liretout(Appels& appels, Poignee poignee, std::string& octets) {
+    constexpr std::size_t bloc = 64UL * 1024;
+    std::size_t lus = 1;
+    while (lus > 0) {
+        const auto place = octets.size();
+        octets.resize(place + bloc);
+        lus = 0;
+        const auto erreur = appels.lire(poignee, std::span(octets).subspan(place), lus);
+        octets.resize(place + lus);
+        if (erreur)
+            return erreur;
+    }
     return {};
 }
 
 /// What has to come between the end of a file and a new line.
-std::string_view soudure(int numero, off_t taille) {
-    char dernier = '\n';
-    if (taille == 0 || ::pread(numero, &dernier, 1, taille - 1) != 1 || dernier == '\n')
-        return {};
+std::string_view soudure(std::string_view octets) {
     constexpr std::string_view fin = "\r\n";
-    return dernier == '\r' ? fin.substr(1) : fin;
+    if (octets.empty() || octets.back() == '\n')
+        return {};
+    return octets.back() == '\r' ? fin.substr(1) : fin;
 }
 
-bool verrouille(int numero) {
-    int statut = -1;
-    do {
-        statut = ::flock(numero, LOCK_EX);
-    } while (statut != 0 && errno == EINTR);
-    return statut == 0;
+/// Makes the file, empty, or else says whether it can be written.
+std::error_code toucher(Appels& appels, const std::filesystem::path& cible) {
+    Descripteur fichier(appels);
+    auto erreur = fichier.ouvrir(cible, Ouverture::Creation);
+    if (!erreur)
+        static_cast<void>(appels.synchroniserdossier(cible.parent_path()));
+    return erreur == std::errc::file_exists ? fichier.ouvrir(cible, Ouverture::Modification)
+                                            : erreur;
 }
-
-/// The file of a descriptor is the one that bears the name by now.
-bool nommeencore(int numero, const std::filesystem::path& chemin) {
-    struct stat tenu {};
-    struct stat nomme {};
-    return ::fstat(numero, &tenu) == 0 && ::stat(chemin.c_str(), &nomme) == 0 &&
-           tenu.st_dev == nomme.st_dev && tenu.st_ino == nomme.st_ino;
-}
-
-/// Opens a file or a folder and keeps the other copies of the program from it. Whoever held it may
-/// have put another in its place meanwhile: it is that one which is wanted. Some disks have no
-/// locks; what they hold is not kept. Null, with the reason in `errno`, if it cannot be opened.
-std::unique_ptr<Descripteur> tenir(const std::filesystem::path& chemin, int modes) {
-    constexpr int essais = 10'000;  // a disk might number its files anew each time
-    std::unique_ptr<Descripteur> tenu;
-    for (int n = 0; n < essais; ++n) {
-        tenu = std::make_unique<Descripteur>(chemin, modes);
-        if (!tenu->valide())
-            return nullptr;
-        if (!verrouille(tenu->numero()) || nommeencore(tenu->numero(), chemin))
-            break;
-    }
-    return tenu;
-}
-
-class VerrouReel : public Verrou {
-  public:
-    explicit VerrouReel(std::unique_ptr<Descripteur> tenu) : tenu_(std::move(tenu)) {}
-
-  private:
-    std::unique_ptr<Descripteur> tenu_;
-};
 
 }  // namespace
 
@@ -124,97 +76,82 @@ std::filesystem::path DisqueReel::systeme(std::string_view chemin) const {
 }
 
 std::error_code DisqueReel::ouvrir(std::string_view chemin, std::unique_ptr<Flux>& flux) {
-    auto fichier = std::make_unique<FluxReel>(systeme(chemin));
-    if (!fichier->ouvert())
-        return derniere();
-    if (estdossier(chemin))
-        return std::make_error_code(std::errc::is_a_directory);
+    auto fichier = std::make_unique<FluxReel>(*appels_);
+    if (const auto erreur = fichier->ouvrir(systeme(chemin)))
+        return erreur;
     flux = std::move(fichier);
     return {};
 }
 
-std::unique_ptr<Verrou> DisqueReel::verrouiller(std::string_view chemin) {
-    auto tenu = tenir(systeme(chemin), O_RDONLY);
-    if (tenu == nullptr && errno == ENOENT)
-        return nullptr;
-    return std::make_unique<VerrouReel>(std::move(tenu));
+std::error_code DisqueReel::verrouiller(std::string_view chemin, std::unique_ptr<Verrou>& verrou) {
+    auto cible = systeme(chemin);
+    auto tenu = std::make_unique<VerrouReel>(*appels_);
+    auto erreur = destination(*appels_, cible);
+    if (!erreur)
+        erreur = tenir(*appels_, cible, tenu->tenu());
+    if (!erreur)
+        verrou = std::move(tenu);
+    return erreur;
 }
 
 std::error_code DisqueReel::ajouter(std::string_view chemin, std::string_view octets) {
-    const auto cible = systeme(chemin);
-    const bool nouveau = !existe(chemin);
-    // The lock keeps a failed write from cutting the rows of another copy of the program when the
-    // file is put back to its size.
-    const auto fichier = tenir(cible, O_RDWR | O_APPEND | O_CREAT);
-    if (fichier == nullptr)
-        return derniere();
-    struct stat etat {};
-    if (::fstat(fichier->numero(), &etat) != 0)
-        return derniere();
+    auto cible = systeme(chemin);
+    if (const auto erreur = destination(*appels_, cible))
+        return erreur;
     if (octets.empty())
-        return {};
-    const auto lignes = std::string(soudure(fichier->numero(), etat.st_size)).append(octets);
-    auto erreur = ecrire(fichier->numero(), lignes);
-    if (!erreur && ::fdatasync(fichier->numero()) != 0 && errno != EINVAL)
-        erreur = derniere();
+        return toucher(*appels_, cible);
+    Descripteur tenu(*appels_);
+    auto erreur = tenir(*appels_, cible, tenu);
+    if (erreur == std::errc::no_such_file_or_directory) {
+        erreur = poser(*appels_, cible, octets, true);
+        if (erreur != std::errc::file_exists)
+            return erreur;
+        erreur = tenir(*appels_, cible, tenu);  // another program has just made it
+    }
+    std::string contenu;
     if (!erreur)
-        return {};
-    if (::ftruncate(fichier->numero(), etat.st_size) != 0)
-        return derniere();
-    if (nouveau && etat.st_size == 0)
-        static_cast<void>(supprimer(chemin));
-    return erreur;
+        erreur = liretout(*appels_, tenu.poignee(), contenu);
+    if (erreur)
+        return erreur;
+    contenu.append(soudure(contenu)).append(octets);
+    return poser(*appels_, cible, contenu);
 }
 
 std::error_code DisqueReel::remplacer(std::string_view chemin, std::string_view octets) {
-    const auto cible = systeme(chemin);
-    auto provisoire = cible;
-    provisoire += "." + std::to_string(::getpid()) + ".tmp";
-    std::error_code erreur;
-    {
-        const Descripteur fichier(provisoire, O_WRONLY | O_CREAT | O_TRUNC);
-        if (!fichier.valide())
-            return derniere();
-        erreur = ecrire(fichier.numero(), octets);
-        if (!erreur && ::fsync(fichier.numero()) != 0 && errno != EINVAL)
-            erreur = derniere();
-    }
-    if (!erreur)
-        std::filesystem::rename(provisoire, cible, erreur);
-    if (erreur) {
-        std::error_code oubli;  // the reason to tell is the first one
-        std::filesystem::remove(provisoire, oubli);
-    }
-    return erreur;
+    auto cible = systeme(chemin);
+    if (const auto erreur = destination(*appels_, cible))
+        return erreur;
+    return poser(*appels_, cible, octets);
 }
 
 std::error_code DisqueReel::creerdossier(std::string_view chemin) {
-    std::error_code erreur;
-    std::filesystem::create_directory(systeme(chemin), erreur);
-    return erreur;
+    const auto dossier = systeme(chemin);
+    const auto erreur = appels_->creerdossier(dossier);
+    if (!erreur)
+        static_cast<void>(appels_->synchroniserdossier(dossier.parent_path()));
+    return erreur == std::errc::file_exists && estdossier(chemin) ? std::error_code() : erreur;
 }
 
 std::error_code DisqueReel::supprimer(std::string_view chemin) {
-    std::error_code erreur;
-    if (!std::filesystem::remove(systeme(chemin), erreur) && !erreur)
-        erreur = std::make_error_code(std::errc::no_such_file_or_directory);
-    return erreur;
+    return appels_->supprimer(systeme(chemin));
 }
 
 std::error_code DisqueReel::renommer(std::string_view ancien, std::string_view nouveau) {
-    std::error_code erreur;
-    std::filesystem::rename(systeme(ancien), systeme(nouveau), erreur);
+    const auto cible = systeme(nouveau);
+    const auto erreur = appels_->renommer(systeme(ancien), cible);
+    if (!erreur)
+        static_cast<void>(appels_->synchroniserdossier(cible.parent_path()));
     return erreur;
 }
 
 bool DisqueReel::existe(std::string_view chemin) {
-    std::error_code erreur;
-    return std::filesystem::exists(systeme(chemin), erreur);
+    Etat etat;
+    return !appels_->etat(systeme(chemin), etat);
 }
 
 bool DisqueReel::estdossier(std::string_view chemin) {
-    std::error_code erreur;
-    return std::filesystem::is_directory(systeme(chemin), erreur);
+    Etat etat;
+    return !appels_->etat(systeme(chemin), etat) && etat.genre == Genre::Dossier;
 }
 
 }  // namespace common

@@ -2,15 +2,23 @@
 
 #include <filesystem>
 
+#include "appels.h"
 #include "fichier.h"
 
 namespace common {
 
+/// Milliseconds that a change waits for another program that has locked the file.
+inline constexpr std::int64_t attentelimite = 5000;
+
 /// The disk of the system. A path of the rules is taken relative to `racine`, with the system's
-/// own separator; the empty root is the working folder.
+/// own separator; the empty root is the working folder. Only regular files are read or written; a
+/// link stays and what it leads to is changed. Every change is a whole new file,
+/// `<name>.<number>.tmp`, that takes the place of the old one.
 class DisqueReel : public Disque {
   public:
-    explicit DisqueReel(std::filesystem::path racine = {}) : racine_(std::move(racine)) {}
+    /// `appels` must live as long as the disk and what it gives out.
+    explicit DisqueReel(std::filesystem::path racine = {}, Appels& appels = appelsdusysteme())
+        : racine_(std::move(racine)), appels_(&appels) {}
 
     [[nodiscard]] std::error_code ouvrir(std::string_view chemin,
                                          std::unique_ptr<Flux>& flux) override;
@@ -22,7 +30,8 @@ class DisqueReel : public Disque {
     [[nodiscard]] std::error_code supprimer(std::string_view chemin) override;
     [[nodiscard]] std::error_code renommer(std::string_view ancien,
                                            std::string_view nouveau) override;
-    [[nodiscard]] std::unique_ptr<Verrou> verrouiller(std::string_view chemin) override;
+    [[nodiscard]] std::error_code verrouiller(std::string_view chemin,
+                                              std::unique_ptr<Verrou>& verrou) override;
     [[nodiscard]] bool existe(std::string_view chemin) override;
     [[nodiscard]] bool estdossier(std::string_view chemin) override;
 
@@ -31,6 +40,7 @@ class DisqueReel : public Disque {
 
   private:
     std::filesystem::path racine_;
+    Appels* appels_;
 };
 
 }  // namespace common

@@ -11,7 +11,8 @@
 namespace common {
 namespace {
 
-constexpr std::size_t bloc = 128UL * 1024;
+/// A line that lies in it whole is short enough.
+constexpr std::size_t bloc = limiteligne;
 constexpr std::string_view findeligne = "\r\n";
 /// What makes an item other than a whole line, a blank at its start aside.
 constexpr std::string_view signes = ",\"";
@@ -31,16 +32,85 @@ std::size_t liresur(Flux& flux, std::span<char> tampon, std::string_view chemin,
     return lus;
 }
 
-std::string octets(std::span<const std::string> lignes) {
+std::string octets(std::span<const std::string> lignes, std::string_view chemin,
+                   std::string_view action, std::size_t limite) {
     std::string resultat;
-    for (const auto& ligne : lignes)
+    for (const auto& ligne : lignes) {
+        const auto avant = resultat.size();
         resultat.append(vers1252(ligne)).append(findeligne);
+        if (resultat.size() - avant > limite)
+            throw Faute(rapportfichier(action, chemin, lignetroplongue(limite)));
+    }
     return resultat;
+}
+
+class Ennuis : public std::error_category {
+  public:
+    [[nodiscard]] const char* name() const noexcept override { return "orvane"; }
+    [[nodiscard]] std::string message(int code) const override {
+        switch (static_cast<Ennui>(code)) {
+            case Ennui::PasUnFichier:
+                return "ce n'est pas un fichier ordinaire";
+            case Ennui::Retenu:
+                return "un autre programme le retient ; la limite d'attente est de 5 secondes. "
+                       "Fermez "
+                       "l'autre programme et recommencez";
+            case Ennui::LigneTropLongue:
+                break;
+        }
+        return "une ligne est trop longue";
+    }
+};
+
+/// The bytes of a file, as long as `admettre` likes what has come.
+template <class Admettre>
+std::error_code lire(Disque& disque, std::string_view chemin, std::string& contenu,
+                     const Admettre& admettre) {
+    contenu.clear();
+    std::unique_ptr<Flux> flux;
+    auto erreur = disque.ouvrir(chemin, flux);
+    std::size_t lus = 1;
+    while (!erreur && lus > 0) {
+        const auto place = contenu.size();
+        contenu.resize(place + bloc);
+        lus = 0;
+        erreur = flux->lire(std::span(contenu).subspan(place), lus);
+        contenu.resize(place + lus);
+        if (!admettre())
+            return Ennui::LigneTropLongue;
+    }
+    return erreur;
+}
+
+/// Looks at the lines from the place `ligne` on, which goes to where the last one begins. False if
+/// one is too long: `contenu` then ends before it.
+bool mesurer(std::string& contenu, std::size_t& ligne, std::size_t limite) {
+    while (true) {
+        const auto saut = contenu.find('\n', ligne);
+        if (std::min(saut, contenu.size()) - ligne >= limite) {
+            contenu.resize(ligne);
+            return false;
+        }
+        if (saut == std::string::npos)
+            return true;
+        ligne = saut + 1;
+    }
 }
 
 }  // namespace
 
+std::string lignetroplongue(std::size_t limite) {
+    return "la ligne est trop longue ; la limite est de " + std::to_string(limite) + " octets";
+}
+
+std::error_code make_error_code(Ennui ennui) {
+    static const Ennuis categorie;
+    return {static_cast<int>(ennui), categorie};
+}
+
 std::string raison(const std::error_code& erreur) {
+    if (erreur.category() == make_error_code(Ennui::Retenu).category())
+        return erreur.message();
     struct Cas {
         std::errc code;
         const char* texte;
@@ -81,10 +151,11 @@ std::string rapportligne(std::string_view action, std::string_view chemin, std::
            std::to_string(ligne) + " : " + std::string(ennui) + ".";
 }
 
-Lignes::Lignes(Disque& disque, std::string_view chemin, std::string_view action)
+Lignes::Lignes(Disque& disque, std::string_view chemin, std::string_view action, std::size_t limite)
     : chemin_(chemin),
       action_(action),
       flux_(ouvrirsur(disque, chemin, action)),
+      limite_(limite),
       capacite_(bloc),
       tampon_(std::make_unique_for_overwrite<char[]>(capacite_)) {}
 
@@ -100,9 +171,10 @@ Lignes::Lignes(std::string_view contenu)
 bool Lignes::remplir() {
     if (fini_)
         return false;
-    const bool pleine = debut_ == 0 && fin_ == capacite_;
-    if (pleine) {
-        capacite_ *= 2;
+    if (fin_ - debut_ >= limite_)
+        troplong(numero_ + 1);
+    if (fin_ - debut_ == capacite_) {
+        capacite_ = std::min(2 * capacite_, limite_);
         auto plusgrand = std::make_unique_for_overwrite<char[]>(capacite_);
         std::copy_n(tampon_.get(), fin_, plusgrand.get());
         tampon_ = std::move(plusgrand);
@@ -119,6 +191,10 @@ bool Lignes::remplir() {
         return contenu.find(signe) != std::string_view::npos;
     });
     return !fini_;
+}
+
+void Lignes::troplong(std::size_t ligne) const {
+    throw Faute(rapportligne(action_, chemin_, ligne, lignetroplongue(limite_)));
 }
 
 bool Lignes::lirepuissuivante(std::string_view& ligne) {
@@ -143,12 +219,16 @@ bool Lignes::lirepuissuivante(std::string_view& ligne) {
     return true;
 }
 
-Items::Items(Disque& disque, std::string_view chemin, std::string_view action)
-    : lignes_(disque, chemin, action) {
+Items::Items(Disque& disque, std::string_view chemin, std::string_view action, std::size_t limite)
+    : lignes_(disque, chemin, action, limite) {
     lignes_.guetter(signes);
 }
 
-Items::Items(std::string_view contenu) : lignes_(contenu) {}
+Items::Items(std::string_view contenu, std::string_view chemin, std::string_view action)
+    : lignes_(contenu) {
+    lignes_.chemin_ = chemin;
+    lignes_.action_ = action;
+}
 
 /// The next item of the line that is under way.
 bool Items::lirereste(std::string_view& item) {
@@ -186,6 +266,8 @@ void Items::lireguillemets(std::string_view& item) {
             return;
         }
         item_.append(findeligne);
+        if (item_.size() >= lignes_.limite_)
+            lignes_.troplong(numero_);
         fin = reste_.find('"');
     }
     item_.append(reste_.substr(0, fin));
@@ -198,38 +280,42 @@ void Items::lireguillemets(std::string_view& item) {
     item = item_;
 }
 
-std::error_code essayerlire(Disque& disque, std::string_view chemin, std::string& contenu) {
-    contenu.clear();
-    std::unique_ptr<Flux> flux;
-    auto erreur = disque.ouvrir(chemin, flux);
-    std::size_t place = 0;
-    std::size_t lus = 1;
-    while (!erreur && lus > 0) {
-        contenu.resize(std::max(contenu.size(), place + bloc));
-        lus = 0;
-        erreur = flux->lire(std::span(contenu).subspan(place), lus);
-        place += lus;
+std::error_code essayerliretexte(Disque& disque, std::string_view chemin, std::string& contenu,
+                                 std::size_t limite) {
+    std::size_t ligne = 0;
+    return lire(disque, chemin, contenu, [&] { return mesurer(contenu, ligne, limite); });
+}
+
+std::string liretexte(Disque& disque, std::string_view chemin, std::string_view action,
+                      std::size_t limite) {
+    std::string contenu;
+    const auto erreur = essayerliretexte(disque, chemin, contenu, limite);
+    if (erreur == Ennui::LigneTropLongue) {
+        const auto lignes = std::count(contenu.begin(), contenu.end(), '\n');
+        throw Faute(rapportligne(action, chemin, static_cast<std::size_t>(lignes) + 1,
+                                 lignetroplongue(limite)));
     }
-    contenu.resize(place);
-    return erreur;
+    if (erreur)
+        throw Faute(rapportfichier(action, chemin, raison(erreur)));
+    return contenu;
 }
 
 std::string lirefichier(Disque& disque, std::string_view chemin, std::string_view action) {
     std::string contenu;
-    if (const auto erreur = essayerlire(disque, chemin, contenu))
+    if (const auto erreur = lire(disque, chemin, contenu, [] { return true; }))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
     return contenu;
 }
 
 void ajouterlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                   std::string_view action) {
-    if (const auto erreur = disque.ajouter(chemin, octets(lignes)))
+                   std::string_view action, std::size_t limite) {
+    if (const auto erreur = disque.ajouter(chemin, octets(lignes, chemin, action, limite)))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }
 
 void remplacerlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                     std::string_view action) {
-    if (const auto erreur = disque.remplacer(chemin, octets(lignes)))
+                     std::string_view action, std::size_t limite) {
+    if (const auto erreur = disque.remplacer(chemin, octets(lignes, chemin, action, limite)))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
 }
 

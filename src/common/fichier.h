@@ -5,6 +5,7 @@
 // backslash, relative to the working folder.
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <functional>
 #include <memory>
@@ -15,6 +16,21 @@
 #include <vector>
 
 namespace common {
+
+/// Most bytes of a line, its end included, and of an item in quotes. It is twice as far as the
+/// 16-bit places of the rules reach, and what a window shows without being felt.
+inline constexpr std::size_t limiteligne = 65536;
+/// The same for a row of a list or of a revision file, whose solution may be a megabyte: it is laid
+/// out only once it is answered wrong.
+inline constexpr std::size_t limiterangee = 2UL * 1024 * 1024;
+
+/// What this program refuses of a file, beside the system's own reasons.
+enum class Ennui : std::uint8_t {
+    PasUnFichier = 1,  ///< a pipe, a device...: nothing that keeps bytes
+    Retenu,            ///< another program has had it locked for too long
+    LigneTropLongue    ///< a line is past its limit
+};
+[[nodiscard]] std::error_code make_error_code(Ennui ennui);
 
 /// A file open for reading.
 class Flux {
@@ -27,7 +43,7 @@ class Flux {
     [[nodiscard]] virtual std::error_code lire(std::span<char> tampon, std::size_t& lus) = 0;
 };
 
-/// A file or a folder that only one program changes as long as this lives.
+/// A file that only one program changes as long as this lives.
 class Verrou {
   public:
     Verrou() = default;
@@ -46,9 +62,10 @@ class Disque {
 
     [[nodiscard]] virtual std::error_code ouvrir(std::string_view chemin,
                                                  std::unique_ptr<Flux>& flux) = 0;
-    /// Appends bytes in one write; makes the file if it is missing. If the file ends in mid-line
-    /// the appended bytes start a line of their own. Waits for a program that has locked the file.
-    /// On failure the file is as it was. Without bytes it says whether the file can be written.
+    /// Appends bytes in one step; makes the file if it is missing. If the file ends in mid-line
+    /// the appended bytes start a line of their own. Waits for a program that has locked the file,
+    /// up to a limit. On failure the file is as it was. Without bytes it says whether the file can
+    /// be written.
     [[nodiscard]] virtual std::error_code ajouter(std::string_view chemin,
                                                   std::string_view octets) = 0;
     /// Puts a whole new file in the place of the old one in one step.
@@ -59,10 +76,12 @@ class Disque {
     /// Gives a file or a folder another name, in one step.
     [[nodiscard]] virtual std::error_code renommer(std::string_view ancien,
                                                    std::string_view nouveau) = 0;
-    /// Waits for the other programs that have locked the file or folder of that name, or that are
-    /// appending to it, and keeps them from it. Null if there is none of that name.
-    [[nodiscard]] virtual std::unique_ptr<Verrou> verrouiller(std::string_view /*chemin*/) {
-        return std::make_unique<Verrou>();
+    /// Waits for the other programs that have locked the file of that name, or that are appending
+    /// to it, up to a limit (`Ennui::Retenu`), and keeps them from it.
+    [[nodiscard]] virtual std::error_code verrouiller(std::string_view /*chemin*/,
+                                                      std::unique_ptr<Verrou>& verrou) {
+        verrou = std::make_unique<Verrou>();
+        return {};
     }
     [[nodiscard]] virtual bool existe(std::string_view chemin) = 0;
     [[nodiscard]] virtual bool estdossier(std::string_view chemin) = 0;
@@ -73,12 +92,13 @@ class Disque {
 
 /// Lines of a file, one pass, without their line end (CR LF, or a lone LF), as bytes of
 /// Windows-1252. A last line without a line end is a line; a lone CR at the end of the file is half
-/// of one. Memory: one buffer, grown only for a
-/// line that is longer. Throws `Faute` ("<action> : <path>...") if the file cannot be read.
+/// of one. Memory: one buffer, grown only for a longer line where the limit is higher. Throws
+/// `Faute` ("<action> : <path>...") if the file cannot be read or a line is too long.
 class Lignes {
   public:
-    Lignes(Disque& disque, std::string_view chemin, std::string_view action);
-    /// The lines of bytes that are at hand.
+    Lignes(Disque& disque, std::string_view chemin, std::string_view action,
+           std::size_t limite = limiteligne);
+    /// The lines of bytes that are at hand, of which `liretexte` has seen that none is too long.
     explicit Lignes(std::string_view contenu);
     /// The next line, valid until the next call; false at the end of the file.
     [[nodiscard]] bool suivante(std::string_view& ligne) {
@@ -138,12 +158,15 @@ class Lignes {
         terminee_ = true;
         ++numero_;
     }
+    friend class Items;
     bool lirepuissuivante(std::string_view& ligne);
     bool remplir();
+    [[noreturn]] void troplong(std::size_t ligne) const;
 
     std::string chemin_;
     std::string action_;
     std::unique_ptr<Flux> flux_;
+    std::size_t limite_ = limiteligne;
     std::size_t capacite_;
     std::unique_ptr<char[]> tampon_;
     std::string_view signes_;
@@ -161,9 +184,11 @@ class Lignes {
 /// Nothing follows a comma at the very end of the file.
 class Items {
   public:
-    Items(Disque& disque, std::string_view chemin, std::string_view action);
-    /// The items of bytes that are at hand.
-    explicit Items(std::string_view contenu);
+    Items(Disque& disque, std::string_view chemin, std::string_view action,
+          std::size_t limite = limiteligne);
+    /// The items of bytes that are at hand; a fault in them names the file `chemin`.
+    explicit Items(std::string_view contenu, std::string_view chemin = {},
+                   std::string_view action = {});
     /// The next item (`lireitem`), valid until the next call; false at the end of the file.
     [[nodiscard]] bool lireitem(std::string_view& item) {
         if (ouverte_)
@@ -212,18 +237,26 @@ class Items {
     bool ouverte_ = false;
 };
 
-/// The bytes of a file, for a caller that bears its failure: `contenu` is what could be read.
-[[nodiscard]] std::error_code essayerlire(Disque& disque, std::string_view chemin,
-                                          std::string& contenu);
-/// The whole file as bytes. Throws `Faute`.
+/// The bytes of a text file, for a caller that bears its failure: `contenu` is what could be read,
+/// whole lines if what follows is a line that is too long.
+[[nodiscard]] std::error_code essayerliretexte(Disque& disque, std::string_view chemin,
+                                               std::string& contenu,
+                                               std::size_t limite = limiteligne);
+/// The whole text file as bytes. Throws `Faute`, for a line that is too long too.
+[[nodiscard]] std::string liretexte(Disque& disque, std::string_view chemin,
+                                    std::string_view action, std::size_t limite = limiteligne);
+/// What is wrong with a line past a limit.
+[[nodiscard]] std::string lignetroplongue(std::size_t limite);
+/// The whole file as bytes, whatever it holds. Throws `Faute`.
 [[nodiscard]] std::string lirefichier(Disque& disque, std::string_view chemin,
                                       std::string_view action);
-/// Appends `lignes` (UTF-8), each with CR LF, in one write. Throws `Faute`.
+/// Appends `lignes` (UTF-8), each with CR LF, in one step. Throws `Faute`, for a line that could
+/// not be read again too.
 void ajouterlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                   std::string_view action);
+                   std::string_view action, std::size_t limite = limiteligne);
 /// Replaces the file by `lignes` (UTF-8), each with CR LF. Throws `Faute`.
 void remplacerlignes(Disque& disque, std::string_view chemin, std::span<const std::string> lignes,
-                     std::string_view action);
+                     std::string_view action, std::size_t limite = limiteligne);
 /// Makes the file, empty, if it is missing; leaves it as it is otherwise. Throws `Faute`.
 void toucher(Disque& disque, std::string_view chemin, std::string_view action);
 
@@ -235,3 +268,6 @@ void toucher(Disque& disque, std::string_view chemin, std::string_view action);
                                        std::size_t ligne, std::string_view ennui);
 
 }  // namespace common
+
+template <>
+struct std::is_error_code_enum<common::Ennui> : std::true_type {};

@@ -34,8 +34,8 @@ void MiseAJour::verifier() {
             ui::Icone::Exclamation);
         return;
     }
-    const auto publiee = premiereligne(common::lirefichier(plateforme_.disque(), chemin,
-                                                           "Vérification de la mise à jour"))
+    const auto publiee = premiereligne(common::liretexte(plateforme_.disque(), chemin,
+                                                         "Vérification de la mise à jour"))
                              .value_or("");
     if (memeversion(voisins_.form3.versionlocale, publiee))
         plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
@@ -103,7 +103,7 @@ void MiseAJour::ouvrirpage(std::string_view explication, ui::Icone icone) {
 /// a word.
 std::optional<std::string> MiseAJour::lirelien() {
     std::string octets;
-    if (common::essayerlire(plateforme_.disque(), fichierlien, octets))
+    if (common::essayerliretexte(plateforme_.disque(), fichierlien, octets))
         return std::nullopt;
     return premiereligne(octets);
 }

@@ -102,7 +102,7 @@ void Form2::brancher() {
 void Form2::charger() {
     auto& disque = plateforme().disque();
     std::string octets;
-    const auto erreur = common::essayerlire(disque, fichierusers, octets);
+    const auto erreur = common::essayerliretexte(disque, fichierusers, octets);
     auto lus = utilisateurs(octets);
     const bool connus = !lus.noms.empty();
     user_.choix = std::move(lus.noms);
@@ -114,7 +114,7 @@ void Form2::charger() {
     user_.texte = lus.derniereligne;
     commencer_.actif = true;
     donnerfocus(commencer_);
-    if (common::essayerlire(disque, cheminsettings(lus.derniereligne), octets))
+    if (common::essayerliretexte(disque, cheminsettings(lus.derniereligne), octets))
         return;
     if (const auto couleur = couleurreglee(octets))
         fond = couleurdufond(*couleur);

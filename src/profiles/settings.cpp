@@ -28,7 +28,7 @@ Reglages reglages(std::string_view octets, std::string_view chemin) {
     Reglages lus;
     const std::array<std::int16_t*, nombresdetete> tete{
         &lus.seuilch, &lus.seuilcb, &lus.tempsparmot, &lus.nbechantillon, &lus.son};
-    common::Items items(octets);
+    common::Items items(octets, chemin, lecture);
     std::string_view item;
     std::size_t rang = 0;
     for (auto* nombrelu : tete) {
@@ -50,6 +50,8 @@ Reglages reglages(std::string_view octets, std::string_view chemin) {
 }
 
 std::optional<std::string> couleurreglee(std::string_view octets) {
+    if (octets.size() >= common::limiteligne)
+        return std::nullopt;
     common::Items items(octets);
     std::string_view item;
     for (std::size_t rang = 0; rang <= nombresdetete; ++rang) {
@@ -68,7 +70,7 @@ std::vector<std::string> lignessettings(const Reglages& reglages) {
 
 Reglages liresettings(common::Disque& disque, std::string_view util) {
     const auto chemin = cheminsettings(util);
-    return reglages(common::lirefichier(disque, chemin, lecture), chemin);
+    return reglages(common::liretexte(disque, chemin, lecture), chemin);
 }
 
 void appliquer(const Reglages& reglages, common::VariablesDialog2& dialog2,

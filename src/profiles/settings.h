@@ -35,7 +35,8 @@ struct Reglages {
 /// for a value past 16 bits.
 [[nodiscard]] Reglages reglages(std::string_view octets, std::string_view chemin);
 
-/// The sixth item, the colour name, and nothing else of the file; nothing if there is none.
+/// The sixth item, the colour name, and nothing else of the file; nothing if there is none, or if
+/// the bytes are far more than seven lines (`limiteligne`).
 [[nodiscard]] std::optional<std::string> couleurreglee(std::string_view octets);
 
 /// The lines of the file, UTF-8.

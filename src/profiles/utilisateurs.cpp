@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
+#include <utility>
 
 #include "faute.h"
 #include "hist.h"
@@ -14,15 +16,13 @@ namespace {
 /// The folder that is being filled.
 constexpr std::string_view provisoire = "nouvel-utilisateur.tmp";
 
-/// Makes the folder, and keeps another program, which may be making a user of its own, from it.
-std::unique_ptr<common::Verrou> prendreprovisoire(common::Disque& disque, std::string_view action) {
+/// Keeps the other programs from the list of users, and from making users of their own. Null if
+/// there is no list.
+std::unique_ptr<common::Verrou> prendreusers(common::Disque& disque, std::string_view action) {
     std::unique_ptr<common::Verrou> verrou;
-    while (verrou == nullptr) {
-        if (const auto erreur = disque.creerdossier(provisoire)) {
-            throw common::Faute(common::rapportfichier(action, provisoire, common::raison(erreur)));
-        }
-        verrou = disque.verrouiller(provisoire);
-    }
+    const auto erreur = disque.verrouiller(fichierusers, verrou);
+    if (erreur && erreur != std::errc::no_such_file_or_directory)
+        throw common::Faute(common::rapportfichier(action, fichierusers, common::raison(erreur)));
     return verrou;
 }
 
@@ -61,10 +61,30 @@ std::vector<std::string> lignesusers(std::span<const std::string> liste, const s
     return lignes;
 }
 
+std::vector<std::string> reunir(std::vector<std::string> lus, std::span<const std::string> liste) {
+    std::multiset<std::string> restants(lus.begin(), lus.end());
+    for (const auto& nom : liste) {
+        const auto place = restants.find(nom);
+        if (place == restants.end())
+            lus.push_back(nom);
+        else
+            restants.erase(place);
+    }
+    return lus;
+}
+
 void ecrireusers(common::Disque& disque, std::span<const std::string> liste,
                  const std::string& nom) {
-    common::remplacerlignes(disque, fichierusers, lignesusers(liste, nom),
-                            "Écriture de la liste des utilisateurs");
+    constexpr std::string_view action = "Écriture de la liste des utilisateurs";
+    const auto verrou = prendreusers(disque, action);
+    if (verrou == nullptr) {
+        // Another program may be making the file too: its users are then before these.
+        common::ajouterlignes(disque, fichierusers, lignesusers(liste, nom), action);
+        return;
+    }
+    auto lus = utilisateurs(common::liretexte(disque, fichierusers, action));
+    common::remplacerlignes(disque, fichierusers,
+                            lignesusers(reunir(std::move(lus.noms), liste), nom), action);
 }
 
 bool dossierexiste(common::Disque& disque, std::string_view nom) {
@@ -73,7 +93,9 @@ bool dossierexiste(common::Disque& disque, std::string_view nom) {
 
 void creerutilisateur(common::Disque& disque, const std::string& nom) {
     const auto action = "Création de l'utilisateur « " + nom + " »";
-    const auto verrou = prendreprovisoire(disque, action);
+    const auto verrou = prendreusers(disque, action);
+    if (const auto erreur = disque.creerdossier(provisoire))
+        throw common::Faute(common::rapportfichier(action, provisoire, common::raison(erreur)));
     common::remplacerlignes(disque, cheminhist(provisoire), {}, action);
     common::remplacerlignes(disque, cheminsettings(provisoire), lignessettings({}), action);
     const auto erreur = nommer(disque, nom);

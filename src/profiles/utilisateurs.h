@@ -28,7 +28,13 @@ struct Utilisateurs {
 [[nodiscard]] std::vector<std::string> lignesusers(std::span<const std::string> liste,
                                                    const std::string& nom);
 
-/// Rewrites `users.dat` in one step. Throws `Faute`.
+/// The names that were read, then those of the list beyond them, each as often as it stands more
+/// often there.
+[[nodiscard]] std::vector<std::string> reunir(std::vector<std::string> lus,
+                                              std::span<const std::string> liste);
+
+/// Rewrites `users.dat` in one step, `nom` last: what it holds by now and the list. Other programs
+/// that log in wait. Throws `Faute`, and leaves the file, if it is there and cannot be read.
 void ecrireusers(common::Disque& disque, std::span<const std::string> liste,
                  const std::string& nom);
 
@@ -36,7 +42,8 @@ void ecrireusers(common::Disque& disque, std::span<const std::string> liste,
 [[nodiscard]] bool dossierexiste(common::Disque& disque, std::string_view nom);
 
 /// Makes the folder of a new user, with an empty `hist.dat` and the default `settings.dat`. The
-/// folder takes its name only when it is whole. Throws `Faute` if the system refuses the name.
+/// folder takes its name only when it is whole. Two programs do it one after the other, by the lock
+/// of `users.dat`. Throws `Faute` if the system refuses the name.
 void creerutilisateur(common::Disque& disque, const std::string& nom);
 
 }  // namespace profiles

@@ -1,6 +1,7 @@
 #include "revision.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "faute.h"
 #include "listes.h"
@@ -31,7 +32,7 @@ std::vector<bool> chercher(common::Disque& disque, std::string_view chemin,
                            std::span<const std::string> lignes, std::string_view action) {
     std::vector<bool> presents(lignes.size(), false);
     const Recherche recherche(lignes);
-    common::Items(disque, common::sanspartie(chemin), action)
+    common::Items(disque, common::sanspartie(chemin), action, common::limiterangee)
         .chaque([&](std::string_view item, std::size_t /*ligne*/) {
             for (const auto rang : recherche.rangs(item))
                 presents[rang] = true;
@@ -61,16 +62,18 @@ void ajouterenrevision(common::Disque& disque, std::string_view chemin,
                        std::span<const std::string> lignes) {
     if (lignes.empty())
         return;
-    common::ajouterlignes(disque, chemin, lignes, actiondajout(lignes));
+    common::ajouterlignes(disque, chemin, lignes, actiondajout(lignes), common::limiterangee);
 }
 
 void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne) {
     const std::string retiree(ligne);
     const auto action = "Suppression dans le fichier de révision de " + citer({&retiree, 1});
     // A row that another program appends meanwhile would be lost with the old file.
-    const auto verrou = disque.verrouiller(chemin);
+    std::unique_ptr<common::Verrou> verrou;
+    if (const auto erreur = disque.verrouiller(chemin, verrou))
+        throw common::Faute(common::rapportfichier(action, chemin, common::raison(erreur)));
     std::vector<std::string> gardees;
-    common::Items items(disque, chemin, action);
+    common::Items items(disque, chemin, action, common::limiterangee);
     std::string_view item;
     std::size_t nombre = 0;
     while (items.lireitem(item)) {
@@ -83,7 +86,7 @@ void retirerderevision(common::Disque& disque, std::string_view chemin, std::str
         if (!texte.empty() && texte != ligne)
             gardees.push_back(std::move(texte));
     }
-    common::remplacerlignes(disque, chemin, gardees, action);
+    common::remplacerlignes(disque, chemin, gardees, action, common::limiterangee);
 }
 
 }  // namespace series

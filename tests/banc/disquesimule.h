@@ -12,7 +12,9 @@ namespace banc {
 /// written to them as a full disk does.
 class DisqueSimule : public common::DisqueReel {
   public:
-    explicit DisqueSimule(std::filesystem::path racine) : DisqueReel(std::move(racine)) {}
+    explicit DisqueSimule(std::filesystem::path racine,
+                          common::Appels& appels = common::appelsdusysteme())
+        : DisqueReel(std::move(racine), appels) {}
 
     /// What is written to this file, or into this folder, fails from now on.
     void refuser(std::string_view chemin) { refuses_.emplace_back(chemin); }

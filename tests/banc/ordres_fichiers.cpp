@@ -74,7 +74,8 @@ std::string lectureseule(Seance& seance, const Ordre& ordre) {
 
 std::string contenu(Seance& seance, const Ordre& ordre) {
     common::DisqueReel disque;
-    common::Lignes lignes(disque, chemin(seance, ordre.suite).string(), "Lecture");
+    common::Lignes lignes(disque, chemin(seance, ordre.suite).string(), "Lecture",
+                          common::limiterangee);
     std::string_view ligne;
     std::size_t lues = 0;
     for (; lignes.suivante(ligne); ++lues) {

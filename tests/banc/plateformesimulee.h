@@ -26,7 +26,9 @@ struct Journal {
 /// A machine under orders: clock, chance, disk, network, sound, shell, message boxes, timers.
 class PlateformeSimulee : public ui::Plateforme {
   public:
-    explicit PlateformeSimulee(const std::filesystem::path& dossier) : disque_(dossier) {}
+    explicit PlateformeSimulee(const std::filesystem::path& dossier,
+                               common::Appels& appels = common::appelsdusysteme())
+        : disque_(dossier, appels) {}
 
     [[nodiscard]] DisqueSimule& disque() override { return disque_; }
     [[nodiscard]] HasardSimule& hasard() override { return hasard_; }

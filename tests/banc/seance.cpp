@@ -38,8 +38,10 @@ void refuser(Seance& seance, const Ordre& ordre) {
 }  // namespace
 
 Seance::Seance(const std::filesystem::path& dossier, const Fabrique& fabrique,
-               const FabriquePilote& fabriquepilote)
-    : plateforme(dossier), pilote(fabriquepilote(plateforme)), programme(fabrique(plateforme)) {}
+               const FabriquePilote& fabriquepilote, common::Appels& appels)
+    : plateforme(dossier, appels),
+      pilote(fabriquepilote(plateforme)),
+      programme(fabrique(plateforme)) {}
 
 std::string Seance::executer(const Ordre& ordre) {
     if (!ordre.defaut.empty())

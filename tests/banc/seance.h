@@ -33,7 +33,8 @@ class Seance {
   public:
     /// `dossier` is the working folder.
     Seance(const std::filesystem::path& dossier, const Fabrique& fabrique,
-           const FabriquePilote& fabriquepilote);
+           const FabriquePilote& fabriquepilote,
+           common::Appels& appels = common::appelsdusysteme());
 
     /// Carries out an order. The answer, one line: "ok", "= VALUE", "erreur: TEXT", or when the
     /// order has ended the program "fin N", with "faute TEXT " before it if a fault did.

@@ -1,11 +1,17 @@
+#include <algorithm>
 #include <csignal>
+#include <fcntl.h>
 #include <string>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 #include <gmock/gmock.h>
 
+#include "appelsdessai.h"
 #include "disquereel.h"
 #include "dossiertemporaire.h"
 
@@ -35,8 +41,18 @@ class Plafond {
 
 class DisqueReel : public testing::Test {
   protected:
+    /// The names in the folder, in order.
+    [[nodiscard]] std::vector<std::string> noms() const {
+        std::vector<std::string> lus;
+        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
+            lus.push_back(entree.path().filename().string());
+        std::sort(lus.begin(), lus.end());
+        return lus;
+    }
+
     essais::DossierTemporaire dossier;
-    common::DisqueReel disque{dossier.chemin()};
+    essais::AppelsDessai appels;
+    common::DisqueReel disque{dossier.chemin(), appels};
 };
 
 TEST_F(DisqueReel, la_barre_oblique_inverse_separe_les_dossiers) {
@@ -96,10 +112,12 @@ TEST_F(DisqueReel, un_ajout_suit_le_fichier_qu_un_autre_programme_remplace) {
     if (pid == 0) {
         char vert = 0;
         const bool parti = ::read(feu[0], &vert, 1) == 1;
-        ::_exit(parti && !disque.ajouter("f.txt", "C\r\n") ? 0 : 1);
+        essais::AppelsPatients patients;
+        common::DisqueReel patient(dossier.chemin(), patients);
+        ::_exit(parti && !patient.ajouter("f.txt", "C\r\n") ? 0 : 1);
     }
-    auto verrou = disque.verrouiller("f.txt");
-    EXPECT_NE(verrou, nullptr);
+    std::unique_ptr<common::Verrou> verrou;
+    EXPECT_FALSE(disque.verrouiller("f.txt", verrou));
     EXPECT_EQ(::write(feu[1], "v", 1), 1);
     EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
     verrou.reset();
@@ -111,11 +129,13 @@ TEST_F(DisqueReel, un_ajout_suit_le_fichier_qu_un_autre_programme_remplace) {
     EXPECT_EQ(dossier.lire("f.txt"), "B\r\nC\r\n");
 }
 
-TEST_F(DisqueReel, ce_qui_manque_ne_se_verrouille_pas) {
-    EXPECT_EQ(disque.verrouiller("f.txt"), nullptr);
+TEST_F(DisqueReel, ce_qui_manque_ou_n_est_pas_un_fichier_ne_se_verrouille_pas) {
+    std::unique_ptr<common::Verrou> verrou;
+    EXPECT_EQ(disque.verrouiller("f.txt", verrou), std::errc::no_such_file_or_directory);
     EXPECT_FALSE(disque.existe("f.txt"));
     EXPECT_FALSE(disque.creerdossier("d"));
-    EXPECT_NE(disque.verrouiller("d"), nullptr);
+    EXPECT_EQ(disque.verrouiller("d", verrou), std::errc::is_a_directory);
+    EXPECT_EQ(verrou, nullptr);
 }
 
 TEST_F(DisqueReel, un_remplacement_qui_echoue_laisse_l_ancien_et_rien_d_autre) {
@@ -175,7 +195,7 @@ TEST_F(DisqueReel, supprimer_un_fichier_et_rien) {
 
 TEST_F(DisqueReel, deux_programmes_qui_ajoutent_ensemble_ne_se_coupent_pas) {
     constexpr int programmes = 2;
-    constexpr int ajouts = 200;
+    constexpr int ajouts = 50;
     const auto ligne = [](int programme) {
         return std::string(3000, static_cast<char>('a' + programme)) + "\r\n";
     };
@@ -183,8 +203,10 @@ TEST_F(DisqueReel, deux_programmes_qui_ajoutent_ensemble_ne_se_coupent_pas) {
         if (::fork() != 0)
             continue;
         bool bon = true;
+        essais::AppelsPatients patients;
+        common::DisqueReel patient(dossier.chemin(), patients);
         for (int i = 0; i < ajouts; ++i)
-            bon = bon && !disque.ajouter("f.txt", ligne(programme));
+            bon = bon && !patient.ajouter("f.txt", ligne(programme));
         ::_exit(bon ? 0 : 1);
     }
     for (int programme = 0; programme < programmes; ++programme) {
@@ -197,6 +219,168 @@ TEST_F(DisqueReel, deux_programmes_qui_ajoutent_ensemble_ne_se_coupent_pas) {
     ASSERT_EQ(octets.size(), taille * programmes * ajouts);
     for (std::size_t i = 0; i < octets.size(); i += taille)
         ASSERT_EQ(octets.substr(i, taille), ligne(octets[i] - 'a'));
+}
+
+/// A FIFO or a device in the place of a file.
+class Faux : public DisqueReel, public testing::WithParamInterface<const char*> {
+  protected:
+    Faux() {
+        const auto chemin = dossier.chemin() / "f.txt";
+        if (std::string(GetParam()) == "tube")
+            EXPECT_EQ(::mkfifo(chemin.c_str(), 0666), 0);
+        else
+            std::filesystem::create_symlink("/dev/zero", chemin);
+    }
+};
+
+TEST_P(Faux, fichier_se_dit_aussitot) {
+    std::unique_ptr<common::Flux> flux;
+    std::unique_ptr<common::Verrou> verrou;
+    EXPECT_EQ(disque.ouvrir("f.txt", flux), common::Ennui::PasUnFichier);
+    EXPECT_EQ(disque.ajouter("f.txt", "A\r\n"), common::Ennui::PasUnFichier);
+    EXPECT_EQ(disque.ajouter("f.txt", ""), common::Ennui::PasUnFichier);
+    EXPECT_EQ(disque.remplacer("f.txt", "A\r\n"), common::Ennui::PasUnFichier);
+    EXPECT_EQ(disque.verrouiller("f.txt", verrou), common::Ennui::PasUnFichier);
+    EXPECT_EQ(common::raison(common::Ennui::PasUnFichier), "ce n'est pas un fichier ordinaire");
+    EXPECT_EQ(noms(), std::vector<std::string>{"f.txt"});
+}
+INSTANTIATE_TEST_SUITE_P(Table, Faux, testing::Values("tube", "peripherique"),
+                         [](const auto& cas) { return std::string(cas.param); });
+
+/// Another program's lock, a reader's or a writer's.
+class Retenu : public DisqueReel, public testing::WithParamInterface<int> {
+  protected:
+    Retenu() {
+        dossier.ecrire("f.txt", "A\r\n");
+        numero_ = ::open((dossier.chemin() / "f.txt").c_str(), O_RDONLY | O_CLOEXEC);
+        EXPECT_EQ(::flock(numero_, GetParam()), 0);
+    }
+    ~Retenu() override { lacher(); }
+    void lacher() {
+        if (numero_ >= 0)
+            ::close(numero_);
+        numero_ = -1;
+    }
+
+  private:
+    int numero_ = -1;
+};
+
+TEST_P(Retenu, fichier_se_dit_au_bout_de_cinq_secondes) {
+    std::unique_ptr<common::Verrou> verrou;
+    EXPECT_EQ(disque.ajouter("f.txt", "B\r\n"), common::Ennui::Retenu);
+    EXPECT_EQ(appels.attendu, 5000);
+    EXPECT_EQ(disque.verrouiller("f.txt", verrou), common::Ennui::Retenu);
+    EXPECT_EQ(appels.attendu, 10000);
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
+    EXPECT_EQ(common::raison(common::Ennui::Retenu),
+              "un autre programme le retient ; la limite d'attente est de 5 secondes. Fermez "
+              "l'autre programme et recommencez");
+    lacher();
+    EXPECT_FALSE(disque.ajouter("f.txt", "B\r\n"));
+    EXPECT_EQ(appels.attendu, 10000);
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
+}
+
+TEST_P(Retenu, fichier_se_lit_et_se_remplace) {
+    std::unique_ptr<common::Flux> flux;
+    EXPECT_FALSE(disque.ouvrir("f.txt", flux));
+    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
+    EXPECT_EQ(appels.attendu, 0);
+}
+INSTANTIATE_TEST_SUITE_P(Table, Retenu, testing::Values(LOCK_SH, LOCK_EX), [](const auto& cas) {
+    return cas.param == LOCK_SH ? "en_lecture" : "en_ecriture";
+});
+
+TEST_F(DisqueReel, une_ecriture_courte_se_poursuit) {
+    const auto octets = std::string(10'000, 'x') + "\r\n";
+    appels.bouchee = 7;
+    EXPECT_FALSE(disque.remplacer("f.txt", octets));
+    EXPECT_EQ(dossier.lire("f.txt"), octets);
+    EXPECT_FALSE(disque.ajouter("f.txt", "B\r\n"));
+    EXPECT_EQ(dossier.lire("f.txt"), octets + "B\r\n");
+    EXPECT_GT(std::count(appels.journal.begin(), appels.journal.end(), "ecrire"), 1400);
+}
+
+TEST_F(DisqueReel, les_octets_puis_le_nom_sont_mis_a_l_abri) {
+    appels.journal.clear();
+    EXPECT_FALSE(disque.remplacer("f.txt", "A"));
+    const auto place = [&](std::string_view nom) {
+        return std::find(appels.journal.begin(), appels.journal.end(), nom) -
+               appels.journal.begin();
+    };
+    EXPECT_LT(place("ecrire"), place("synchroniser"));
+    EXPECT_LT(place("synchroniser"), place("renommer"));
+    EXPECT_EQ(appels.journal.back(), "synchroniserdossier");
+}
+
+TEST_F(DisqueReel, un_fichier_remplace_garde_son_mode) {
+    dossier.ecrire("f.txt", "A\r\n");
+    const auto chemin = dossier.chemin() / "f.txt";
+    const auto mode = [&] { return std::filesystem::status(chemin).permissions(); };
+    const auto prive = static_cast<std::filesystem::perms>(0604);
+    std::filesystem::permissions(chemin, prive);
+    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
+    EXPECT_EQ(mode(), prive);
+    EXPECT_FALSE(disque.ajouter("f.txt", "C\r\n"));
+    EXPECT_EQ(mode(), prive);
+    EXPECT_EQ(dossier.lire("f.txt"), "B\r\nC\r\n");
+}
+
+TEST_F(DisqueReel, un_lien_reste_et_ce_qu_il_designe_change) {
+    EXPECT_FALSE(disque.creerdossier("ailleurs"));
+    dossier.ecrire("ailleurs/f.txt", "A\r\n");
+    std::filesystem::create_symlink("ailleurs/g.txt", dossier.chemin() / "f.txt");
+    std::filesystem::create_symlink("f.txt", dossier.chemin() / "ailleurs" / "g.txt");
+    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
+    EXPECT_EQ(dossier.lire("ailleurs/f.txt"), "B\r\n");
+    EXPECT_FALSE(disque.ajouter("f.txt", "C\r\n"));
+    EXPECT_EQ(dossier.lire("ailleurs/f.txt"), "B\r\nC\r\n");
+    EXPECT_TRUE(std::filesystem::is_symlink(dossier.chemin() / "f.txt"));
+    EXPECT_TRUE(std::filesystem::is_symlink(dossier.chemin() / "ailleurs" / "g.txt"));
+    std::filesystem::remove(dossier.chemin() / "ailleurs" / "f.txt");
+    EXPECT_FALSE(disque.ajouter("f.txt", "D\r\n"));
+    EXPECT_EQ(dossier.lire("ailleurs/f.txt"), "D\r\n");
+}
+
+TEST_F(DisqueReel, des_liens_en_rond_se_disent) {
+    std::filesystem::create_symlink("g.txt", dossier.chemin() / "f.txt");
+    std::filesystem::create_symlink("f.txt", dossier.chemin() / "g.txt");
+    EXPECT_EQ(disque.remplacer("f.txt", "A"), std::errc::too_many_symbolic_link_levels);
+}
+
+TEST_F(DisqueReel, le_reste_d_un_programme_disparu_s_ote_a_la_prochaine_ecriture) {
+    dossier.ecrire("f.txt.1234.tmp", "A");
+    dossier.ecrire("f.txt." + std::to_string(::getpid()) + ".tmp", "A");
+    const std::vector<std::string> autres{"f.txt", "f.txt.tmp", "f.txt.x.tmp", "g.txt.12.tmp"};
+    for (const auto& nom : autres)
+        dossier.ecrire(nom, "A");
+    EXPECT_FALSE(disque.remplacer("f.txt", "B"));
+    EXPECT_EQ(noms(), autres);
+    EXPECT_EQ(dossier.lire("f.txt"), "B");
+}
+
+TEST_F(DisqueReel, le_fichier_d_un_programme_au_travail_reste) {
+    dossier.ecrire("f.txt.1234.tmp", "A");
+    common::DisqueReel autre(dossier.chemin());
+    std::unique_ptr<common::Verrou> verrou;
+    ASSERT_FALSE(autre.verrouiller("f.txt.1234.tmp", verrou));
+    EXPECT_FALSE(disque.remplacer("f.txt", "B"));
+    EXPECT_EQ(noms(), (std::vector<std::string>{"f.txt", "f.txt.1234.tmp"}));
+}
+
+TEST_F(DisqueReel, un_disque_sans_verrous_s_ecrit_et_n_ote_rien) {
+    class Sansverrous : public essais::AppelsDessai {
+        std::error_code verrouiller(common::Poignee /*poignee*/, bool& /*pris*/) override {
+            return std::make_error_code(std::errc::no_lock_available);
+        }
+    } sans;
+    common::DisqueReel nu(dossier.chemin(), sans);
+    dossier.ecrire("f.txt", "A\r\n");
+    dossier.ecrire("f.txt.1234.tmp", "A");
+    EXPECT_FALSE(nu.ajouter("f.txt", "B\r\n"));
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
+    EXPECT_EQ(noms(), (std::vector<std::string>{"f.txt", "f.txt.1234.tmp"}));
 }
 
 }  // namespace

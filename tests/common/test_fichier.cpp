@@ -13,7 +13,8 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr std::size_t bloc = 128UL * 1024;  // what is read at once
+constexpr std::size_t bloc = common::limiteligne;  // what is read at once
+constexpr std::size_t kilo = 1024;
 
 std::vector<std::string> lignes(const std::string& octets) {
     const essais::DossierTemporaire dossier;
@@ -69,6 +70,21 @@ std::string nomducas(const testing::TestParamInfo<Cas>& info) {
     return info.param.nom;
 }
 
+/// A case whose bytes begin so many kilobytes, of one line each, behind the start of the file.
+Cas derriere(std::size_t lignes, const char* nom, std::string_view octets, const Liste& attendu) {
+    const std::string ligne(kilo - 2, 'x');
+    Cas cas{nom, "", Liste(lignes, ligne)};
+    for (std::size_t i = 0; i < lignes; ++i)
+        cas.octets.append(ligne).append("\r\n");
+    cas.octets.append(octets);
+    cas.attendu.insert(cas.attendu.end(), attendu.begin(), attendu.end());
+    return cas;
+}
+constexpr std::size_t presque = bloc / kilo - 1;  // a kilobyte is left of the first reading
+std::string xs(std::size_t nombre) {
+    return std::string(nombre, 'x');
+}
+
 class Lignes : public testing::TestWithParam<Cas> {};
 TEST_P(Lignes, du_fichier) {
     EXPECT_EQ(lignes(GetParam().octets), GetParam().attendu);
@@ -86,22 +102,17 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"coupe_entre_CR_et_LF", "A\r\nB\r", {"A", "B"}}, Cas{"un_CR", "\r", {""}},
         Cas{"octet_nul", std::string("A\0B\r\n", 5), {std::string("A\0B", 3)}},
         Cas{"octet_occidental", "\xE9t\xE9\r\n", {"\xE9t\xE9"}},
-        Cas{"megaoctet",
-            "A\r\n" + std::string(1000000, 'x') + "\r\nB\r\n",
-            {"A", std::string(1000000, 'x'), "B"}},
-        Cas{"megaoctet_sans_fin", std::string(1000000, 'x'), {std::string(1000000, 'x')}},
-        Cas{"fin_de_ligne_au_bout_du_bloc",
-            std::string(bloc - 2, 'x') + "\r\nB\r\n",
-            {std::string(bloc - 2, 'x'), "B"}},
-        Cas{"LF_dans_le_bloc_suivant",
-            std::string(bloc - 1, 'x') + "\r\nB\r\n",
-            {std::string(bloc - 1, 'x'), "B"}},
-        Cas{"CR_LF_dans_le_bloc_suivant",
-            std::string(bloc, 'x') + "\r\nB\r\n",
-            {std::string(bloc, 'x'), "B"}},
-        Cas{"ligne_a_cheval_sur_deux_blocs",
-            std::string(bloc - 10, 'x') + "\r\n" + std::string(100, 'y') + "\r\nB",
-            {std::string(bloc - 10, 'x'), std::string(100, 'y'), "B"}}),
+        Cas{"la_plus_longue", "A\n" + xs(bloc - 1) + "\nB\n", {"A", xs(bloc - 1), "B"}},
+        Cas{"la_plus_longue_avec_CR", "A\n" + xs(bloc - 2) + "\r\nB", {"A", xs(bloc - 2), "B"}},
+        Cas{"la_plus_longue_sans_fin", "A\r\n" + xs(bloc - 1), {"A", xs(bloc - 1)}},
+        derriere(presque, "fin_de_ligne_au_bout_du_bloc", xs(kilo - 2) + "\r\nB\r\n",
+                 {xs(kilo - 2), "B"}),
+        derriere(presque, "LF_dans_le_bloc_suivant", xs(kilo - 1) + "\r\nB\r\n",
+                 {xs(kilo - 1), "B"}),
+        derriere(presque, "CR_LF_dans_le_bloc_suivant", xs(kilo) + "\r\nB\r\n", {xs(kilo), "B"}),
+        derriere(presque, "ligne_a_cheval_sur_deux_blocs",
+                 xs(kilo - 10) + "\r\n" + std::string(100, 'y') + "\r\nB",
+                 {xs(kilo - 10), std::string(100, 'y'), "B"})),
     nomducas);
 
 class Items : public testing::TestWithParam<Cas> {};
@@ -135,15 +146,22 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"guillemets_sur_deux_lignes", "\"A\r\nB\",C\r\n", {"A\r\nB", "C"}},
         Cas{"guillemets_jamais_fermes", "\"A\r\nB\r\n", {"A\r\nB"}},
         Cas{"guillemet_au_milieu", "A\"B,C\r\n", {"A\"B", "C"}},
-        Cas{"mots_nus_puis_signes_au_bloc_suivant",
-            std::string(bloc - 3, 'x') + "\r\nB\r\n C,D\r\n\"E\"\r\nF",
-            {std::string(bloc - 3, 'x'), "B", "C", "D", "E", "F"}},
-        Cas{"signes_puis_mots_nus_au_bloc_suivant",
-            " A,B\r\n" + std::string(bloc, 'x') + "\r\nC\r\nD\r\n",
-            {"A", "B", std::string(bloc, 'x'), "C", "D"}},
-        Cas{"mot_nu_a_cheval_sur_un_bloc_a_signes",
-            std::string(bloc - 6, 'x') + "\r\nABCDEFGH,I\r\nJ\r\n",
-            {std::string(bloc - 6, 'x'), "ABCDEFGH", "I", "J"}}),
+        Cas{"guillemets_sur_mille_lignes",
+            "\"" + std::string(1000, '\n') + "\",A\r\n",
+            {[] {
+                 std::string lignes;
+                 for (int n = 0; n < 1000; ++n)
+                     lignes += "\r\n";
+                 return lignes;
+             }(),
+             "A"}},
+        derriere(presque, "mots_nus_puis_signes_au_bloc_suivant",
+                 xs(kilo - 3) + "\r\nB\r\n C,D\r\n\"E\"\r\nF",
+                 {xs(kilo - 3), "B", "C", "D", "E", "F"}),
+        derriere(presque, "signes_puis_mots_nus_au_bloc_suivant",
+                 " A,B\r\n" + xs(kilo) + "\r\nC\r\nD\r\n", {"A", "B", xs(kilo), "C", "D"}),
+        derriere(presque, "mot_nu_a_cheval_sur_un_bloc_a_signes",
+                 xs(kilo - 6) + "\r\nABCDEFGH,I\r\nJ\r\n", {xs(kilo - 6), "ABCDEFGH", "I", "J"})),
     nomducas);
 
 TEST(Fichier, le_numero_d_une_ligne_et_d_un_item) {
@@ -167,6 +185,95 @@ TEST(Fichier, chaque_donne_le_numero_d_une_ligne_et_d_un_item) {
     EXPECT_THAT(chaque<common::Items>("A,B\r\n\"C\r\nD\",E\r\nF\r\n"),
                 ElementsAre(std::pair("A", 1), std::pair("B", 1), std::pair("C\r\nD", 2),
                             std::pair("E", 3), std::pair("F", 4)));
+}
+
+struct Troplong {
+    const char* nom;
+    std::string octets;
+    std::size_t ligne;
+};
+std::string nomtroplong(const testing::TestParamInfo<Troplong>& info) {
+    return info.param.nom;
+}
+
+/// The report of the fault that an action ends with; empty if it ends well.
+template <class Action>
+std::string faute(const Action& action) {
+    try {
+        action();
+    } catch (const common::Faute& faute) {
+        return faute.what();
+    }
+    return {};
+}
+
+class Troplongue : public testing::TestWithParam<Troplong> {
+  protected:
+    static std::string rapport() {
+        return "Essai : fichier « f.txt », ligne " + std::to_string(GetParam().ligne) +
+               " : la ligne est trop longue ; la limite est de 65536 octets.";
+    }
+};
+
+TEST_P(Troplongue, est_une_faute_qui_dit_la_ligne_et_la_limite) {
+    const auto& octets = GetParam().octets;
+    EXPECT_EQ(faute([&] { chaque<common::Lignes>(octets); }), rapport());
+    EXPECT_EQ(faute([&] { chaque<common::Items>(octets); }), rapport());
+    const essais::DossierTemporaire dossier;
+    dossier.ecrire("f.txt", octets);
+    common::DisqueReel disque(dossier.chemin());
+    EXPECT_EQ(faute([&] { static_cast<void>(common::liretexte(disque, "f.txt", "Essai")); }),
+              rapport());
+}
+INSTANTIATE_TEST_SUITE_P(
+    Table, Troplongue,
+    testing::Values(Troplong{"un_octet_de_trop", xs(bloc) + "\n", 1},
+                    Troplong{"un_octet_de_trop_avec_CR", xs(bloc - 1) + "\r\n", 1},
+                    Troplong{"un_octet_de_trop_sans_fin", xs(bloc), 1},
+                    Troplong{"derriere_une_autre", "A\r\n" + xs(bloc) + "\r\nB\r\n", 2},
+                    Troplong{"derriere_un_bloc",
+                             derriere(presque, "", "A\r\n" + xs(3 * bloc), {}).octets, presque + 2},
+                    Troplong{"dix_megaoctets", "A\r\nB\r\n" + xs(10'000'000), 3}),
+    nomtroplong);
+
+TEST(Fichier, un_item_entre_guillemets_a_la_meme_limite) {
+    std::string octets = "A\r\n\"";
+    for (std::size_t n = 0; n <= bloc; n += kilo)
+        octets += xs(kilo) + "\r\n";
+    const auto rapport =
+        "Essai : fichier « f.txt », ligne 2 : la ligne est trop longue ; la limite est de 65536 "
+        "octets.";
+    EXPECT_EQ(faute([&] { chaque<common::Items>(octets); }), rapport);
+    EXPECT_EQ(faute([&] {
+                  common::Items lecture(octets, "f.txt", "Essai");
+                  for (std::string_view item; lecture.lireitem(item);)
+                      continue;
+              }),
+              rapport);
+}
+
+TEST(Fichier, une_ligne_trop_longue_ne_s_ecrit_pas) {
+    const essais::DossierTemporaire dossier;
+    dossier.ecrire("f.txt", "A\r\n");
+    common::DisqueReel disque(dossier.chemin());
+    const std::vector<std::string> juste{xs(bloc - 2)};
+    const std::vector<std::string> longue{"B", xs(bloc - 1)};
+    const auto rapport =
+        "Essai : fichier « f.txt » : la ligne est trop longue ; la limite est de 65536 octets.";
+    EXPECT_EQ(faute([&] { common::ajouterlignes(disque, "f.txt", longue, "Essai"); }), rapport);
+    EXPECT_EQ(faute([&] { common::remplacerlignes(disque, "f.txt", longue, "Essai"); }), rapport);
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
+    common::ajouterlignes(disque, "f.txt", juste, "Essai");
+    EXPECT_EQ(common::liretexte(disque, "f.txt", "Essai"), "A\r\n" + xs(bloc - 2) + "\r\n");
+}
+
+TEST(Fichier, ce_qui_precede_une_ligne_trop_longue_se_lit) {
+    const essais::DossierTemporaire dossier;
+    dossier.ecrire("f.txt", "A\r\nB\r\n" + xs(bloc));
+    common::DisqueReel disque(dossier.chemin());
+    std::string lu;
+    EXPECT_EQ(common::essayerliretexte(disque, "f.txt", lu), common::Ennui::LigneTropLongue);
+    EXPECT_EQ(lu, "A\r\nB\r\n");
 }
 
 TEST(Fichier, un_fichier_absent_est_une_faute_qui_le_nomme) {

@@ -81,6 +81,11 @@ std::error_code DisqueMemoire::renommer(std::string_view ancien, std::string_vie
     return {};
 }
 
+std::error_code DisqueMemoire::verrouiller(std::string_view chemin,
+                                           std::unique_ptr<common::Verrou>& verrou) {
+    return existe(chemin) ? Disque::verrouiller(chemin, verrou) : absent();
+}
+
 bool DisqueMemoire::existe(std::string_view chemin) {
     return fichiers.contains(chemin);
 }

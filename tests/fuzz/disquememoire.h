@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "alea.h"
@@ -28,6 +29,8 @@ class DisqueMemoire : public common::Disque {
     [[nodiscard]] std::error_code supprimer(std::string_view chemin) override;
     [[nodiscard]] std::error_code renommer(std::string_view ancien,
                                            std::string_view nouveau) override;
+    [[nodiscard]] std::error_code verrouiller(std::string_view chemin,
+                                              std::unique_ptr<common::Verrou>& verrou) override;
     [[nodiscard]] bool existe(std::string_view chemin) override;
     [[nodiscard]] bool estdossier(std::string_view /*chemin*/) override { return false; }
 

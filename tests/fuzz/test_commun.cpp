@@ -155,7 +155,7 @@ void articles(Essai& essai) {
 
 void fichierentier(Essai& essai) {
     std::string contenu;
-    if (common::essayerlire(essai.disque, fuzz::chemin, contenu))
+    if (common::essayerliretexte(essai.disque, fuzz::chemin, contenu))
         EXPECT_TRUE(essai.octets.starts_with(contenu));
     else
         EXPECT_EQ(contenu, essai.octets);

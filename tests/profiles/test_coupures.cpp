@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "appelsdessai.h"
 #include "form2.h"
 #include "hist.h"
 #include "lignes.h"
@@ -187,7 +188,8 @@ TEST(Ajouts, de_deux_programmes_a_la_fois_ne_se_dechirent_pas) {
     essai::Machine machine;
     machine.ecrire("Zoé\\hist.dat", "");
     adeux([&](int programme) {
-        common::DisqueReel disque(machine.dossier.chemin());
+        essais::AppelsPatients appels;
+        common::DisqueReel disque(machine.dossier.chemin(), appels);
         for (int i = 0; i < nbrecords; ++i)
             profiles::ajouterhist(disque, "Zoé", std::string(41, programme == 0 ? 'a' : 'b'));
     });
@@ -208,12 +210,14 @@ TEST(Ajouts, de_deux_programmes_a_la_fois_ne_se_dechirent_pas) {
 TEST(Creations, de_deux_programmes_a_la_fois_ne_se_melent_pas) {
     constexpr int nbutilisateurs = 60;
     essai::Machine machine;
+    machine.ecrire("users.dat", "");
     const auto nom = [](int programme, int i) {
         // Every third one is a user that both make.
         return (i % 3 == 0 ? "commun " : programme == 0 ? "a " : "b ") + std::to_string(i);
     };
     adeux([&](int programme) {
-        common::DisqueReel disque(machine.dossier.chemin());
+        essais::AppelsPatients appels;
+        common::DisqueReel disque(machine.dossier.chemin(), appels);
         for (int i = 0; i < nbutilisateurs; ++i) {
             if (!profiles::dossierexiste(disque, nom(programme, i)))
                 profiles::creerutilisateur(disque, nom(programme, i));
@@ -228,12 +232,40 @@ TEST(Creations, de_deux_programmes_a_la_fois_ne_se_melent_pas) {
     EXPECT_FALSE(machine.disque().existe("nouvel-utilisateur.tmp"));
 }
 
+/// Two copies of the program, both on their login form, which then make a player each.
+TEST(Connexions, de_deux_programmes_a_la_fois_ne_perdent_personne) {
+    constexpr int courses = 10;
+    for (const auto* users : {"absent", "", "Paul\r\nAnne\r\n"}) {
+        for (int course = 0; course < courses; ++course) {
+            essai::Machine machine;
+            if (std::string_view(users) != "absent")
+                machine.ecrire("users.dat", users);
+            essai::Voisinage v;
+            profiles::Form2 form(machine.plateforme, v.voisins);
+            form.charger();
+            const auto liste = form.trouver("user")->choix();
+            adeux([&](int programme) {
+                essais::AppelsPatients appels;
+                common::DisqueReel disque(machine.dossier.chemin(), appels);
+                profiles::ecrireusers(disque, liste, programme == 0 ? "Zoe" : "Luc");
+            });
+            auto lus = profiles::utilisateurs(machine.lire("users.dat")).noms;
+            std::sort(lus.begin(), lus.end());
+            auto attendus = liste;
+            attendus.insert(attendus.end(), {"Luc", "Zoe"});
+            std::sort(attendus.begin(), attendus.end());
+            EXPECT_EQ(lus, attendus) << users;
+        }
+    }
+}
+
 TEST(Revisions, une_rangee_ajoutee_pendant_qu_un_autre_programme_en_ote_reste) {
     constexpr int nbrangees = 200;
     essai::Machine machine;
     machine.ecrire(revision, "");
     adeux([&](int programme) {
-        common::DisqueReel disque(machine.dossier.chemin());
+        essais::AppelsPatients appels;
+        common::DisqueReel disque(machine.dossier.chemin(), appels);
         for (int i = 0; i < nbrangees; ++i) {
             if (programme == 0)
                 series::ajouterenrevision(disque, revision, std::vector{"A;" + std::to_string(i)});

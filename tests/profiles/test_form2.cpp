@@ -1,6 +1,9 @@
+#include <fstream>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "appelsdessai.h"
 #include "form2.h"
 #include "lignes.h"
 #include "voisinage.h"
@@ -165,6 +168,81 @@ TEST_F(Form2, users_illisible_ne_se_dit_pas) {
     EXPECT_FALSE(machine.plateforme.fini());
     EXPECT_FALSE(controle("Command1").actif());
     EXPECT_TRUE(machine.plateforme.journal.messages.empty());
+}
+
+/// A list of users that the disk does not give.
+struct Illisible {
+    const char* nom;
+    std::string octets;
+    const char* ennui;
+};
+void PrintTo(const Illisible& ligne, std::ostream* sortie) {
+    *sortie << ligne.nom;
+}
+class Illisibles : public testing::TestWithParam<Illisible> {
+  protected:
+    /// A disk whose readings fail if the case is that.
+    class Appels : public essais::AppelsDessai {
+      public:
+        std::error_code lire(common::Poignee poignee, std::span<char> tampon,
+                             std::size_t& lus) override {
+            return enpanne ? std::make_error_code(std::errc::io_error)
+                           : AppelsDessai::lire(poignee, tampon, lus);
+        }
+        bool enpanne = false;
+    };
+
+    [[nodiscard]] std::string lireusers() {
+        std::ifstream flux(dossier.chemin() / "users.dat", std::ios::binary);
+        return {std::istreambuf_iterator<char>(flux), {}};
+    }
+
+    banc::Dossier dossier;
+    Appels appels;
+    banc::PlateformeSimulee plateforme{dossier.chemin(), appels};
+    essai::Voisinage v;
+};
+
+TEST_P(Illisibles, se_taisent_au_depart_et_ne_se_reecrivent_pas) {
+    const auto& octets = GetParam().octets;
+    ASSERT_FALSE(plateforme.disque().remplacer("users.dat", octets));
+    appels.enpanne = GetParam().ennui == std::string_view("erreur du disque");
+    profiles::Form2 form(plateforme, v.voisins);
+    plateforme.executer([&] { form.charger(); });
+    EXPECT_FALSE(plateforme.fini());
+    EXPECT_TRUE(plateforme.journal.messages.empty());
+    form.trouver("user")->texte = "Zoe";
+    plateforme.executer([&] { form.cliquer(*form.trouver("Command1")); });
+    EXPECT_TRUE(plateforme.fini());
+    const auto rapport = plateforme.rapport().value_or("aucun");
+    EXPECT_THAT(rapport, testing::HasSubstr("users.dat"));
+    EXPECT_THAT(rapport, testing::HasSubstr(GetParam().ennui));
+    EXPECT_EQ(lireusers(), octets);
+    EXPECT_FALSE(std::filesystem::exists(dossier.chemin() / "Zoe"));
+}
+
+const Illisible illisibles[] = {
+    {"panne", "Paul\r\nAnne\r\n", "erreur du disque"},
+    {"nom_de_dix_megaoctets", "Paul\r\n" + std::string(10'000'000, 'x') + "\r\nAnne\r\n",
+     "ligne 2 : la ligne est trop longue ; la limite est de 65536 octets"},
+};
+INSTANTIATE_TEST_SUITE_P(Table, Illisibles, testing::ValuesIn(illisibles),
+                         essai::nommer<Illisible>);
+
+TEST_F(Form2, une_liste_lue_trop_tot_ne_perd_pas_ceux_venus_depuis) {
+    machine.ecrire("users.dat", "Paul\r\nAnne\r\n");
+    charger();
+    machine.ecrire("users.dat", "Paul\r\nAnne\r\nLuc\r\n");
+    connecter("Paul");
+    EXPECT_EQ(machine.lire("users.dat"), "Anne\r\nLuc\r\nPaul\r\n");
+}
+
+TEST_F(Form2, un_nom_trop_long_pour_se_relire_ne_s_ecrit_pas) {
+    machine.ecrire("users.dat", "Paul\r\n");
+    charger();
+    connecter(std::string(common::limiteligne, 'x'));
+    EXPECT_THAT(rapport(), testing::HasSubstr("la limite est de 65536 octets"));
+    EXPECT_EQ(machine.lire("users.dat"), "Paul\r\n");
 }
 
 TEST_F(Form2, taper_sur_le_nom_active_commencer) {

@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QMediaDevices>
 #include <QTimer>
 #include <QtEndian>
@@ -81,7 +82,8 @@ std::optional<Onde> lireonde(const QByteArray& octets) {
 
 void jouer(Minuteur& minuteur, const QString& chemin) {
     QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly))
+    // A pipe would be waited for.
+    if (!QFileInfo(chemin).isFile() || !fichier.open(QIODevice::ReadOnly))
         return;
     const auto onde = lireonde(fichier.readAll());
     if (!onde || onde->duree() == 0)

@@ -27,7 +27,10 @@ QString variante(const QString& chemin, const char* marque) {
 QImage choisir(const QString& chemin, const QSize& voulue) {
     std::unique_ptr<QImageReader> choix;
     for (const auto* marque : variantes) {
-        auto lecteur = std::make_unique<QImageReader>(variante(chemin, marque));
+        const auto nom = variante(chemin, marque);
+        if (!QFileInfo(nom).isFile())  // a pipe would be waited for
+            continue;
+        auto lecteur = std::make_unique<QImageReader>(nom);
         const auto taille = lecteur->size();
         if (!taille.isValid())
             continue;
@@ -61,7 +64,7 @@ QIcon iconeprogramme(const std::function<QString(std::string_view)>& systeme) {
     QIcon icone;
     for (const int cote : icones) {
         const auto chemin = systeme("images\\orvane_" + std::to_string(cote) + ".png");
-        if (QFileInfo::exists(chemin))
+        if (QFileInfo(chemin).isFile())
             icone.addFile(chemin);
     }
     return icone;

@@ -1,5 +1,7 @@
 #include "plateforme_qt.h"
 
+#include <filesystem>
+
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
@@ -8,6 +10,7 @@
 
 #include "hautparleur.h"
 #include "messages.h"
+#include "programme.h"
 #include "texteqt.h"
 
 namespace ui::qt {
@@ -40,6 +43,14 @@ bool PlateformeQt::telecharger(std::string_view adresse, std::string_view chemin
     fenetrier_.rafraichir();
     const auto contenu = telechargement_.lire(adresse);
     return contenu && !disque_.remplacer(chemin, *contenu);
+}
+
+std::string PlateformeQt::dossierprogramme() {
+    std::error_code oubli;  // without a working folder none is the same
+    return common::dossierprogramme(
+        common::appelsdusysteme(),
+        std::filesystem::path(QCoreApplication::applicationDirPath().toStdU16String()),
+        std::filesystem::current_path(oubli));
 }
 
 Reponse PlateformeQt::demander(std::string_view texte, Icone icone, bool ouinon) {

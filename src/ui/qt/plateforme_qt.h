@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "disquereel.h"
@@ -21,6 +22,7 @@ class PlateformeQt : public Plateforme {
     [[nodiscard]] common::Instant maintenant() override;
     void ouvrir(std::string_view cible) override;
     [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
+    [[nodiscard]] std::string dossierprogramme() override;
     void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
 
     [[nodiscard]] Fenetrier& fenetrier() { return fenetrier_; }

@@ -64,6 +64,8 @@ const auto* const bureau = testing::AddGlobalTestEnvironment(new Bureau);
 class Machine : public ui::qt::PlateformeQt {
   public:
     Machine() : PlateformeQt({.silence = 200, .duree = 600, .taille = 1000}) {}
+    /// The program runs from its own folder.
+    std::string dossierprogramme() override { return {}; }
 
     Journal journal;
     ui::Reponse reponse = ui::Reponse::Oui;

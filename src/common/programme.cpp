@@ -1,0 +1,37 @@
+#include "programme.h"
+
+#include <algorithm>
+
+namespace common {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A file can be made there. Asking for its mode would not tell of a disk that is read-only.
+bool inscriptible(Appels& appels, const fs::path& dossier) {
+    const auto essai = dossier / (".orvane." + std::to_string(appels.programme()) + ".tmp");
+    Poignee poignee = sanspoignee;
+    if (appels.ouvrir(essai, Ouverture::Creation, poignee))
+        return false;
+    appels.fermer(poignee);
+    return !appels.supprimer(essai);
+}
+
+}  // namespace
+
+std::string dossierprogramme(Appels& appels, const fs::path& executable, const fs::path& courant) {
+    std::error_code erreur;
+    const auto octets = executable.u8string();
+    std::string texte(octets.begin(), octets.end());
+    // A path of the rules cannot say a backslash that is part of a name.
+    const bool dicible = fs::path::preferred_separator == '\\' || texte.find('\\') == texte.npos;
+    if (texte.empty() || !dicible || fs::equivalent(executable, courant, erreur) ||
+        !inscriptible(appels, executable))
+        return {};
+    std::replace(texte.begin(), texte.end(), '/', '\\');
+    if (texte.back() != '\\')
+        texte += '\\';
+    return texte;
+}
+
+}  // namespace common

@@ -1,0 +1,203 @@
+#include "provisoire.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "disquereel.h"
+#include "fichier.h"
+
+namespace common {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int64_t pas = 2;      // milliseconds between two looks at a lock
+constexpr int essaisdunom = 1000;    // numbers that programs of other machines may have taken
+constexpr int lienslimite = 40;      // links one behind the other, as the system bears
+constexpr int releveslimite = 1000;  // a disk might number its files anew each time
+constexpr std::string_view extension = ".tmp";
+
+/// `<name>.<number>.tmp` of that name.
+bool estprovisoirede(const std::string& nom, const std::string& cible) {
+    if (nom.size() <= cible.size() + 1 + extension.size() || !nom.starts_with(cible + ".") ||
+        !nom.ends_with(extension))
+        return false;
+    return std::all_of(nom.begin() + static_cast<std::ptrdiff_t>(cible.size()) + 1,
+                       nom.end() - static_cast<std::ptrdiff_t>(extension.size()),
+                       [](char c) { return c >= '0' && c <= '9'; });
+}
+
+/// Whoever writes a provisional file has it locked: one that can be locked is nobody's.
+void balayer(Appels& appels, const fs::path& cible) {
+    std::vector<fs::path> noms;
+    if (appels.lister(cible.parent_path(), noms))
+        return;
+    for (const auto& nom : noms) {
+        if (!estprovisoirede(nom.string(), cible.filename().string()))
+            continue;
+        const auto reste = cible.parent_path() / nom;
+        Descripteur fichier(appels);
+        bool pris = false;
+        if (!fichier.ouvrir(reste, Ouverture::Modification) &&
+            !appels.verrouiller(fichier.poignee(), pris) && pris && fichier.nomme(reste))
+            static_cast<void>(appels.supprimer(reste));
+    }
+}
+
+/// A file that waits to take the place of another; gone unless it does.
+class Provisoire {
+  public:
+    explicit Provisoire(Appels& appels) : appels_(appels), fichier_(appels) {}
+    Provisoire(const Provisoire&) = delete;
+    Provisoire& operator=(const Provisoire&) = delete;
+    ~Provisoire() {
+        if (!chemin_.empty())
+            static_cast<void>(appels_.supprimer(chemin_));
+    }
+
+    [[nodiscard]] std::error_code creer(const fs::path& cible) {
+        std::error_code erreur;
+        for (int n = 0; n < essaisdunom; ++n) {
+            auto chemin = cible;
+            chemin += "." + std::to_string(appels_.programme() + n) + std::string(extension);
+            erreur = fichier_.ouvrir(chemin, Ouverture::Creation);
+            if (erreur == std::errc::file_exists)
+                continue;
+            if (erreur)
+                return erreur;
+            // Another program may have taken it for a left one before the lock. Where a disk has no
+            // locks nobody does.
+            bool pris = true;
+            const bool sansverrous =
+                static_cast<bool>(appels_.verrouiller(fichier_.poignee(), pris));
+            if (sansverrous || (pris && fichier_.nomme(chemin))) {
+                chemin_ = chemin;
+                return {};
+            }
+            if (pris)
+                static_cast<void>(appels_.supprimer(chemin));
+        }
+        return erreur ? erreur : std::make_error_code(std::errc::device_or_resource_busy);
+    }
+    [[nodiscard]] std::error_code remplir(std::string_view octets) {
+        while (!octets.empty()) {
+            std::size_t ecrits = 0;
+            if (const auto erreur = appels_.ecrire(fichier_.poignee(), octets, ecrits))
+                return erreur;
+            if (ecrits == 0)
+                return std::make_error_code(std::errc::no_space_on_device);
+            octets.remove_prefix(ecrits);
+        }
+        return {};
+    }
+    [[nodiscard]] std::error_code prendreledroit(const fs::path& modele) {
+        return appels_.copierdroits(modele, fichier_.poignee());
+    }
+    [[nodiscard]] std::error_code placer(const fs::path& cible, bool neuf) {
+        if (const auto erreur = appels_.synchroniser(fichier_.poignee()))
+            return erreur;
+        if (const auto erreur =
+                neuf ? appels_.nommer(chemin_, cible) : appels_.renommer(chemin_, cible))
+            return erreur;
+        chemin_.clear();
+        // The change is made: a folder that cannot be synchronised takes nothing back.
+        static_cast<void>(appels_.synchroniserdossier(cible.parent_path()));
+        return {};
+    }
+
+  private:
+    Appels& appels_;
+    Descripteur fichier_;
+    fs::path chemin_;
+};
+
+}  // namespace
+
+std::error_code Descripteur::ouvrir(const fs::path& chemin, Ouverture mode) {
+    fermer();
+    if (const auto erreur = appels_.ouvrir(chemin, mode, poignee_))
+        return erreur;
+    Etat etat;
+    if (const auto erreur = appels_.etat(poignee_, etat)) {
+        fermer();
+        return erreur;
+    }
+    if (etat.genre == Genre::Fichier)
+        return {};
+    fermer();
+    return etat.genre == Genre::Dossier ? std::make_error_code(std::errc::is_a_directory)
+                                        : make_error_code(Ennui::PasUnFichier);
+}
+
+void Descripteur::fermer() {
+    if (poignee_ != sanspoignee)
+        appels_.fermer(poignee_);
+    poignee_ = sanspoignee;
+}
+
+bool Descripteur::nomme(const fs::path& chemin) const {
+    Etat tenu;
+    Etat nomme;
+    return !appels_.etat(poignee_, tenu) && !appels_.etat(chemin, nomme) &&
+           tenu.disque == nomme.disque && tenu.numero == nomme.numero;
+}
+
+std::error_code destination(Appels& appels, fs::path& chemin) {
+    for (int n = 0; n < lienslimite; ++n) {
+        fs::path cible;
+        if (const auto erreur = appels.lien(chemin, cible))
+            return erreur;
+        if (cible.empty())
+            return {};
+        chemin = chemin.parent_path() / cible;
+    }
+    return std::make_error_code(std::errc::too_many_symbolic_link_levels);
+}
+
+std::error_code tenir(Appels& appels, const fs::path& chemin, Descripteur& tenu) {
+    const auto limite = appels.maintenant() + attentelimite;
+    // Whoever held the file may have put another in its place meanwhile: it is that one which is
+    // wanted.
+    for (int releves = 0; releves < releveslimite;) {
+        if (const auto erreur = tenu.ouvrir(chemin, Ouverture::Modification))
+            return erreur;
+        bool pris = false;
+        if (appels.verrouiller(tenu.poignee(), pris))
+            return {};  // some disks have no locks; what they hold is not kept
+        if (pris && tenu.nomme(chemin))
+            return {};
+        if (pris) {
+            ++releves;
+            continue;
+        }
+        tenu.fermer();
+        if (appels.maintenant() >= limite)
+            return Ennui::Retenu;
+        appels.attendre(pas);
+    }
+    return {};
+}
+
+std::error_code poser(Appels& appels, const fs::path& cible, std::string_view octets, bool neuf) {
+    Etat ancien;
+    auto erreur = neuf ? std::make_error_code(std::errc::no_such_file_or_directory)
+                       : appels.etat(cible, ancien);
+    const bool remplace = !erreur;
+    if (erreur && erreur != std::errc::no_such_file_or_directory)
+        return erreur;
+    if (remplace && ancien.genre != Genre::Fichier)
+        return ancien.genre == Genre::Dossier ? std::make_error_code(std::errc::is_a_directory)
+                                              : make_error_code(Ennui::PasUnFichier);
+    balayer(appels, cible);
+    Provisoire provisoire(appels);
+    erreur = provisoire.creer(cible);
+    if (!erreur)
+        erreur = provisoire.remplir(octets);
+    if (!erreur && remplace)
+        erreur = provisoire.prendreledroit(cible);
+    if (!erreur)
+        erreur = provisoire.placer(cible, neuf);
+    return erreur;
+}
+
+}  // namespace common

@@ -1,0 +1,186 @@
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+#include "appels.h"
+
+namespace essais {
+
+/// What befalls a program at one of its calls.
+enum class Panne : std::uint8_t {
+    Aucune,
+    Avant,      ///< killed right before a call that changes the disk
+    Refus,      ///< any call answers with an error of the disk
+    Dechirure,  ///< killed when half the bytes of a write are written
+    Courte,     ///< half the bytes of a write are taken, and it goes on
+    Coupure     ///< the power goes before a change: what is not synchronised is cut in half
+};
+
+constexpr int tue = 42;  ///< exit status of a program that was killed
+
+/// The calls of the system, numbered from 1, one of which breaks. Closing and the clock are not
+/// counted. Time goes by at the waits only.
+class AppelsDessai : public common::Appels {
+  public:
+    /// Breaks the call of that number, among those that the breakdown is for.
+    void prevoir(Panne panne, int rang) {
+        panne_ = panne;
+        rang_ = rang;
+        compte_ = 0;
+        atteinte_ = false;
+    }
+    [[nodiscard]] bool atteinte() const { return atteinte_; }
+
+    std::vector<std::string> journal;  ///< names of the calls that were made
+    std::int64_t horloge = 0;
+    std::int64_t attendu = 0;  ///< milliseconds that were waited
+    std::size_t bouchee = 0;   ///< most bytes that a write takes; 0: all
+
+    std::error_code ouvrir(const Chemin& chemin, common::Ouverture mode,
+                           common::Poignee& poignee) override {
+        return faire(
+            "ouvrir", [&] { return vrais_.ouvrir(chemin, mode, poignee); },
+            mode == common::Ouverture::Creation);
+    }
+    void fermer(common::Poignee poignee) override {
+        sales_.erase(poignee);
+        vrais_.fermer(poignee);
+    }
+    std::error_code lire(common::Poignee poignee, std::span<char> tampon,
+                         std::size_t& lus) override {
+        return faire(
+            "lire", [&] { return vrais_.lire(poignee, tampon, lus); }, false);
+    }
+    std::error_code ecrire(common::Poignee poignee, std::string_view octets,
+                           std::size_t& ecrits) override {
+        const auto moitie = octets.substr(0, (octets.size() + 1) / 2);
+        if (panne_ == Panne::Dechirure && compter()) {
+            static_cast<void>(vrais_.ecrire(poignee, moitie, ecrits));
+            ::_exit(tue);
+        }
+        if (panne_ == Panne::Courte && compter())
+            return vrais_.ecrire(poignee, moitie, ecrits);
+        sales_.insert(poignee);
+        return faire("ecrire", [&] {
+            return vrais_.ecrire(poignee, bouchee == 0 ? octets : octets.substr(0, bouchee),
+                                 ecrits);
+        });
+    }
+    std::error_code synchroniser(common::Poignee poignee) override {
+        return faire("synchroniser", [&] {
+            const auto erreur = vrais_.synchroniser(poignee);
+            sales_.erase(poignee);
+            return erreur;
+        });
+    }
+    std::error_code synchroniserdossier(const Chemin& dossier) override {
+        return faire("synchroniserdossier", [&] { return vrais_.synchroniserdossier(dossier); });
+    }
+    std::error_code etat(common::Poignee poignee, common::Etat& etat) override {
+        return faire(
+            "etat", [&] { return vrais_.etat(poignee, etat); }, false);
+    }
+    std::error_code etat(const Chemin& chemin, common::Etat& etat) override {
+        return faire(
+            "etat", [&] { return vrais_.etat(chemin, etat); }, false);
+    }
+    std::error_code lien(const Chemin& chemin, Chemin& cible) override {
+        return faire(
+            "lien", [&] { return vrais_.lien(chemin, cible); }, false);
+    }
+    std::error_code copierdroits(const Chemin& modele, common::Poignee neuf) override {
+        return faire("copierdroits", [&] { return vrais_.copierdroits(modele, neuf); });
+    }
+    std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
+        return faire("renommer", [&] { return vrais_.renommer(ancien, nouveau); });
+    }
+    std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) override {
+        return faire("nommer", [&] { return vrais_.nommer(ancien, nouveau); });
+    }
+    std::error_code supprimer(const Chemin& chemin) override {
+        return faire("supprimer", [&] { return vrais_.supprimer(chemin); });
+    }
+    std::error_code creerdossier(const Chemin& chemin) override {
+        return faire("creerdossier", [&] { return vrais_.creerdossier(chemin); });
+    }
+    std::error_code lister(const Chemin& dossier, std::vector<Chemin>& noms) override {
+        return faire(
+            "lister", [&] { return vrais_.lister(dossier, noms); }, false);
+    }
+    std::error_code verrouiller(common::Poignee poignee, bool& pris) override {
+        return faire(
+            "verrouiller", [&] { return vrais_.verrouiller(poignee, pris); }, false);
+    }
+    std::int64_t programme() override { return vrais_.programme(); }
+    std::int64_t maintenant() override { return horloge; }
+    void attendre(std::int64_t millisecondes) override {
+        horloge += millisecondes;
+        attendu += millisecondes;
+    }
+
+  private:
+    bool compter() {
+        if (++compte_ != rang_)
+            return false;
+        atteinte_ = true;
+        return true;
+    }
+
+    template <class Appel>
+    std::error_code faire(const char* nom, const Appel& appel, bool change = true) {
+        journal.emplace_back(nom);
+        const bool decriture = panne_ == Panne::Dechirure || panne_ == Panne::Courte;
+        const bool dechange = panne_ == Panne::Avant || panne_ == Panne::Coupure;
+        if (panne_ == Panne::Aucune || decriture || (dechange && !change) || !compter())
+            return appel();
+        if (panne_ == Panne::Refus)
+            return std::make_error_code(std::errc::io_error);
+        if (panne_ == Panne::Coupure)
+            couper();
+        ::_exit(tue);
+    }
+
+    void couper() {
+        for (const auto poignee : sales_) {
+            struct stat etat {};
+            const auto numero = static_cast<int>(poignee);
+            if (::fstat(numero, &etat) != 0 || ::ftruncate(numero, etat.st_size / 2) != 0)
+                ::_exit(1);
+        }
+    }
+
+    common::Appels& vrais_ = common::appelsdusysteme();
+    std::set<common::Poignee> sales_;  ///< open files whose bytes are not synchronised
+    Panne panne_ = Panne::Aucune;
+    int rang_ = 0;
+    int compte_ = 0;
+    bool atteinte_ = false;
+};
+
+/// The calls of the system, on a clock that stands still: locks are waited for as long as it takes.
+class AppelsPatients : public AppelsDessai {
+  public:
+    void attendre(std::int64_t millisecondes) override {
+        common::appelsdusysteme().attendre(millisecondes);
+    }
+};
+
+/// Runs an action in a program of its own, which ends with the status that the action gives.
+/// Gives that status; -1 if it ended otherwise.
+template <class Action>
+int enfant(const Action& action) {
+    const auto pid = ::fork();
+    if (pid == 0)
+        ::_exit(action());
+    int statut = -1;
+    ::waitpid(pid, &statut, 0);
+    return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+}
+
+}  // namespace essais

@@ -1,0 +1,55 @@
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "appelsdessai.h"
+#include "disquereel.h"
+#include "dossiertemporaire.h"
+#include "programme.h"
+
+namespace {
+
+class Dossierprogramme : public testing::Test {
+  protected:
+    [[nodiscard]] std::string chercher(const std::filesystem::path& executable) {
+        return common::dossierprogramme(appels, executable, courant.chemin());
+    }
+
+    essais::DossierTemporaire courant;
+    essais::DossierTemporaire programme;
+    essais::AppelsDessai appels;
+};
+
+TEST_F(Dossierprogramme, est_celui_de_l_executable) {
+    const auto devant = chercher(programme.chemin());
+    common::DisqueReel disque(courant.chemin());
+    EXPECT_FALSE(disque.remplacer(devant + "f.txt", "x"));
+    EXPECT_EQ(programme.lire("f.txt"), "x");
+    EXPECT_EQ(chercher(programme.chemin() / ""), devant);
+    EXPECT_FALSE(std::filesystem::exists(courant.chemin() / "f.txt"));
+}
+
+TEST_F(Dossierprogramme, est_le_dossier_de_travail_s_ils_se_confondent) {
+    EXPECT_EQ(chercher(courant.chemin()), "");
+    EXPECT_EQ(chercher(courant.chemin() / "."), "");
+}
+
+TEST_F(Dossierprogramme, est_le_dossier_de_travail_si_rien_ne_s_ecrit_dans_l_autre) {
+    appels.prevoir(essais::Panne::Refus, 1);
+    EXPECT_EQ(chercher(programme.chemin()), "");
+    EXPECT_EQ(chercher(programme.chemin() / "absent"), "");
+    EXPECT_EQ(chercher(""), "");
+}
+
+TEST_F(Dossierprogramme, d_un_nom_a_barre_inverse_ne_se_dit_pas) {
+    const auto dossier = programme.chemin() / "a\\b";
+    std::filesystem::create_directory(dossier);
+    EXPECT_EQ(chercher(dossier), "");
+}
+
+TEST_F(Dossierprogramme, ne_garde_rien_de_l_essai) {
+    EXPECT_NE(chercher(programme.chemin()), "");
+    EXPECT_TRUE(std::filesystem::is_empty(programme.chemin()));
+}
+
+}  // namespace
