@@ -21,7 +21,8 @@ class PlateformeQt : public Plateforme {
     [[nodiscard]] common::Instant maintenant() override;
     void bip() override;
     void ouvrir(std::string_view cible) override;
-    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
+    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin,
+                                   const Exigence& exigence) override;
     void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
 
     [[nodiscard]] Fenetrier& fenetrier() { return fenetrier_; }
