@@ -141,7 +141,9 @@ TEST_F(MiseAJour, le_lien_et_l_installeur_ne_viennent_que_d_une_adresse_sure) {
 
 TEST_F(MiseAJour, la_seconde_ligne_de_la_version_est_la_somme_de_l_installeur) {
     toutpublier();
+    v.plateforme.reseau.erase(installeur);  // or else the program ends
     verifier();
+    ASSERT_TRUE(v.plateforme.exigences.contains("orvane_setup.exe"));
     EXPECT_EQ(v.plateforme.exigences["orvane_setup.exe"].somme, std::nullopt);
     publier("2.7\r\n0A1B\r\nautre ligne\r\n");
     verifier();

@@ -10,6 +10,7 @@
 namespace ui::qt {
 namespace {
 
+constexpr int statutservi = 200;     // of http
 constexpr qint64 bloc = 64 * 1024;   // bytes handed over at once
 constexpr qint64 avance = 4 * bloc;  // bytes that may wait to be handed over
 
@@ -46,8 +47,11 @@ class TransfertQt : public Transfert {
                 reponse_->abort();
         });
         QObject::connect(reponse, &QNetworkReply::finished, reponse, [this] {
-            const bool sansfaute = reponse_->error() == QNetworkReply::NoError;
-            demande_.finir(sansfaute && lire());
+            // A ring of redirections ends without an error, at the last of them.
+            const auto statut = reponse_->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+            const bool servi =
+                reponse_->error() == QNetworkReply::NoError && statut.toInt() == statutservi;
+            demande_.finir(servi && lire());
         });
     }
     TransfertQt(const TransfertQt&) = delete;

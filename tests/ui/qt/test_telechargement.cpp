@@ -267,8 +267,8 @@ TEST_F(Telechargements, ce_qu_un_programme_mort_a_laisse_est_emporte) {
     ecrire("recu.txt.backup", "du joueur", 2 * duree);
     ecrire("recu.txt.1234.tmp", "d'un autre", 2 * duree);
     EXPECT_TRUE(enregistrer(adresse()));
-    EXPECT_EQ(fichiers(), (QStringList{"recu.txt", "recu.txt.1234.tmp", "recu.txt.QuiVit.tmp",
-                                       "recu.txt.backup"}));
+    EXPECT_EQ(fichiers(), (QStringList{"recu.txt", "recu.txt.1234.tmp", "recu.txt.backup",
+                                       "recu.txt.QuiVit.tmp"}));
 }
 
 TEST_F(Telechargements, un_lien_symbolique_et_les_droits_restent) {
