@@ -1,5 +1,7 @@
 #include "miseajour.h"
 
+#include <array>
+
 #include "fichier.h"
 #include "nombre.h"
 #include "texte.h"
@@ -11,13 +13,21 @@ constexpr std::string_view fichierversion = "version_en_ligne.txt";
 constexpr std::string_view fichierlien = "downloadlink.txt";
 constexpr std::string_view fichierinstalleur = "orvane_setup.exe";
 
-/// The first line of a file's bytes, whole; nothing if there is none.
-std::optional<std::string> premiereligne(std::string_view octets) {
+constexpr std::int64_t tailledeligne = 64 * 1024;        // bytes of the version file, of the link
+constexpr std::int64_t tailleinstalleur = 512LL << 20U;  // bytes
+
+using Ligne = std::optional<std::string>;
+
+/// The first two lines of a file's bytes, whole; nothing for one that it has not.
+std::array<Ligne, 2> premiereslignes(std::string_view octets) {
     common::Lignes lignes(octets);
-    std::string_view ligne;
-    if (!lignes.suivante(ligne))
-        return std::nullopt;
-    return common::depuis1252(ligne);
+    std::array<Ligne, 2> lues;
+    for (auto& lue : lues) {
+        std::string_view ligne;
+        if (lignes.suivante(ligne))
+            lue = common::depuis1252(ligne);
+    }
+    return lues;
 }
 
 }  // namespace
@@ -28,19 +38,19 @@ bool memeversion(std::string_view locale, std::string_view publiee) {
 
 void MiseAJour::verifier() {
     const auto chemin = dansdossierprogramme(fichierversion);
-    if (!plateforme_.telecharger(publication_.version, chemin)) {
+    if (!plateforme_.telecharger(publication_.version, chemin, {.taille = tailledeligne})) {
         ouvrirpage(
             "Erreur durant la vérification. Votre navigateur va s'ouvrir sur la page d'Orvane.",
             ui::Icone::Exclamation);
         return;
     }
-    const auto publiee = premiereligne(common::liretexte(plateforme_.disque(), chemin,
-                                                         "Vérification de la mise à jour"))
-                             .value_or("");
+    const auto [ligne, somme] = premiereslignes(
+        common::liretexte(plateforme_.disque(), chemin, "Vérification de la mise à jour"));
+    const auto publiee = ligne.value_or("");
     if (memeversion(voisins_.form3.versionlocale, publiee))
         plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
     else if (proposer(publiee))
-        telecharger();
+        telecharger(somme);
 }
 
 bool MiseAJour::proposer(std::string_view publiee) {
@@ -49,16 +59,17 @@ bool MiseAJour::proposer(std::string_view publiee) {
                                 " est disponible. Voulez-vous la télécharger ?");
 }
 
-/// Fetches the link, then what it leads to. A link that cannot be fetched or read leaves the busy
-/// pointer on the menu.
-void MiseAJour::telecharger() {
+/// Fetches the link, then what it leads to, which has to have the published sum if there is one. A
+/// link that cannot be fetched or read leaves the busy pointer on the menu.
+void MiseAJour::telecharger(const std::optional<std::string>& somme) {
     plateforme_.message(
         "Le programme va télécharger la nouvelle version, cela peut prendre quelques secondes.",
         ui::Icone::Information);
     voisins_.menu.patienter(true);
     voisins_.menu.aide("Téléchargement en cours");
     plateforme_.laissercourir();
-    if (!plateforme_.telecharger(publication_.lien, fichierlien)) {
+    if (!plateforme_.telecharger(publication_.lien, fichierlien,
+                                 {.sure = true, .taille = tailledeligne})) {
         ouvrirpage(
             "Erreur durant le téléchargement automatisé, désolé. Votre navigateur va s'ouvrir sur "
             "la page d'Orvane, vous pourrez ensuite télécharger la dernière version.",
@@ -68,7 +79,8 @@ void MiseAJour::telecharger() {
     const auto lien = lirelien();
     if (!lien)
         return;
-    const bool complet = plateforme_.telecharger(*lien, fichierinstalleur);
+    const bool complet = plateforme_.telecharger(
+        *lien, fichierinstalleur, {.sure = true, .taille = tailleinstalleur, .somme = somme});
     voisins_.menu.patienter(false);
     if (complet)
         installer();
@@ -105,7 +117,7 @@ std::optional<std::string> MiseAJour::lirelien() {
     std::string octets;
     if (common::essayerliretexte(plateforme_.disque(), fichierlien, octets))
         return std::nullopt;
-    return premiereligne(octets);
+    return premiereslignes(octets).front();
 }
 
 std::string MiseAJour::dansdossierprogramme(std::string_view fichier) {

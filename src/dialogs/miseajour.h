@@ -23,7 +23,9 @@ struct Publication {
 
 /// The update check: compares the program's version with the published one, and on the player's
 /// word downloads the installer, opens it and ends the program. All of it runs in one call. The
-/// version file goes to the program's folder; the link and the installer go to the working folder.
+/// version file goes to the program's folder; the link and the installer go to the working folder,
+/// and come from a safe address only (`ui::Exigence`). What is published, and where it lies, is
+/// told in docs/formats.md.
 class MiseAJour {
   public:
     MiseAJour(ui::Plateforme& plateforme, common::Voisins& voisins, Publication publication = {})
@@ -34,7 +36,7 @@ class MiseAJour {
 
   private:
     [[nodiscard]] bool proposer(std::string_view publiee);
-    void telecharger();
+    void telecharger(const std::optional<std::string>& somme);
     void installer();
     void ouvrirpage(std::string_view explication, ui::Icone icone);
     [[nodiscard]] std::optional<std::string> lirelien();

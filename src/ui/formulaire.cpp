@@ -36,7 +36,11 @@ Controle& Formulaire::poser(Genre genre, std::string_view nomducontrole, int ind
 }
 
 Minuterie& Formulaire::ajouterminuterie(std::string_view nomdelaminuterie) {
-    return *minuteries_.emplace_back(std::make_unique<Minuterie>(std::string(nomdelaminuterie)));
+    auto& minuterie =
+        *minuteries_.emplace_back(std::make_unique<Minuterie>(std::string(nomdelaminuterie)));
+    if (surminuterie)
+        surminuterie(minuterie);
+    return minuterie;
 }
 
 Menu& Formulaire::ajoutermenu(std::string_view nomdumenu) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -98,6 +99,8 @@ class Formulaire : public Observe<ChampFormulaire> {
     [[nodiscard]] const std::vector<std::unique_ptr<Minuterie>>& minuteries() const {
         return minuteries_;
     }
+    /// Told of each timer that is made from now on; set by whoever drives them.
+    std::function<void(Minuterie&)> surminuterie;
 
     /// How often a control was brought to the front: the `plan` of the one in front.
     [[nodiscard]] int plan() const { return plan_; }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,15 @@ class Formulaire;
 
 enum class Icone : std::uint8_t { Aucune, Information, Exclamation, Question };
 enum class Reponse : std::uint8_t { Ok, Oui, Non };
+
+/// What a download has to be, or else it has failed.
+struct Exigence {
+    /// Only from where nobody can have changed it (`adressesure`), redirections included.
+    bool sure = false;
+    std::int64_t taille = 0;  ///< bytes at the most
+    /// SHA-256 in 64 hexadecimal digits, blanks around them; another text fits no content.
+    std::optional<std::string> somme{};
+};
 
 /// The program ends at once, normally; thrown by `terminer`, caught by `executer`.
 struct Fin {
@@ -45,7 +55,8 @@ class Plateforme {
     virtual void ouvrir(std::string_view cible) = 0;
     /// Downloads an address, never from a cache, to a file that takes its name only when whole.
     /// False if that failed; the file is then what it was.
-    [[nodiscard]] virtual bool telecharger(std::string_view adresse, std::string_view chemin) = 0;
+    [[nodiscard]] virtual bool telecharger(std::string_view adresse, std::string_view chemin,
+                                           const Exigence& exigence) = 0;
     /// What stands before a file's name to find it in the program's folder: that folder and a
     /// backslash, or nothing where it is the working folder.
     [[nodiscard]] virtual std::string dossierprogramme() { return {}; }

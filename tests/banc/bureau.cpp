@@ -44,8 +44,12 @@ Bureau::~Bureau() = default;
 void Bureau::accueillir(ui::Formulaire& formulaire) {
     simulees_ = formulaire.vue == nullptr;
     places_.insert(places_.begin(), std::make_unique<Place>(*this, formulaire));
+    const auto suivre = [this](ui::Minuterie& minuterie) {
+        minuterie.surchangement = [this](ui::Minuterie& m) { fraiches_.push_back(&m); };
+    };
     for (const auto& minuterie : formulaire.minuteries())
-        minuterie->surchangement = [this](ui::Minuterie& m) { fraiches_.push_back(&m); };
+        suivre(*minuterie);
+    formulaire.surminuterie = suivre;
 }
 
 void Bureau::oublier(const Place& place) {

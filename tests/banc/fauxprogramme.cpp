@@ -66,7 +66,8 @@ class FauxForm1 : public ui::Formulaire {
             common::ajouterlignes(plateforme().disque(), "Essai\\suite.txt", {&ligne, 1}, "Essai");
         });
         action("telecharger", [this] {
-            ecrireetat(plateforme().telecharger("https://x.invalid/a/version.txt", "recu.txt")
+            ecrireetat(plateforme().telecharger("https://x.invalid/a/version.txt", "recu.txt",
+                                                {.sure = true, .taille = 100})
                            ? "reçu"
                            : "échec");
         });

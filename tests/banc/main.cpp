@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <QApplication>
+#include <QCryptographicHash>
 
 #include "pilotemodele.h"
 #include "piloteqt.h"
@@ -43,6 +44,13 @@ Appel analyser(std::span<char*> arguments) {
     return appel;
 }
 
+std::string sha256(std::string_view octets) {
+    const QByteArrayView vue(octets.data(), static_cast<qsizetype>(octets.size()));
+    return QCryptographicHash::hash(vue.toByteArray(), QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
+
 void jouerfichier(const std::string& nom, const banc::Reglages& reglages, banc::Bilan& bilan) {
     std::ifstream flux(nom);
     if (!flux) {
@@ -67,6 +75,7 @@ int main(int argc, char** argv) {
         return std::make_unique<banc::ProgrammeReel>(plateforme);
     };
     reglages.fabriquepilote = [](banc::PlateformeSimulee& plateforme) {
+        plateforme.somme = sha256;
         return std::make_unique<banc::PiloteModele>(plateforme);
     };
     std::unique_ptr<QApplication> qt;
@@ -74,6 +83,7 @@ int main(int argc, char** argv) {
         qt = banc::preparerqt(argc, argv);
         reglages.pilote = banc::Destination::Qt;
         reglages.fabriquepilote = [](banc::PlateformeSimulee& plateforme) {
+            plateforme.somme = sha256;
             return std::make_unique<banc::PiloteQt>(plateforme, plateforme.disque().systeme(""));
         };
     }

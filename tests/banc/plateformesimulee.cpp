@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "confiance.h"
 #include "faute.h"
 #include "fichier.h"
 
@@ -27,17 +28,26 @@ common::Instant unesecondeapres(const common::Instant& instant) {
 
 }  // namespace
 
-bool PlateformeSimulee::telecharger(std::string_view adresse, std::string_view chemin) {
+bool PlateformeSimulee::telecharger(std::string_view adresse, std::string_view chemin,
+                                    const ui::Exigence& exigence) {
     const auto place = std::find_if(reseau_.rbegin(), reseau_.rend(),
                                     [&](const Adresse& a) { return adresse.ends_with(a.fin); });
     if (place == reseau_.rend() || !place->fichier)
         return false;
+    if (exigence.sure && !ui::adressesure(adresse))
+        return false;
     try {
-        return !disque_.remplacer(
-            chemin, common::lirefichier(disque_, *place->fichier, "Téléchargement simulé"));
+        const auto octets = common::lirefichier(disque_, *place->fichier, "Téléchargement simulé");
+        return convient(octets, exigence) && !disque_.remplacer(chemin, octets);
     } catch (const common::Faute&) {
         return false;
     }
+}
+
+bool PlateformeSimulee::convient(std::string_view octets, const ui::Exigence& exigence) const {
+    if (static_cast<std::int64_t>(octets.size()) > exigence.taille)
+        return false;
+    return !exigence.somme || (somme && ui::memesomme(*exigence.somme, somme(octets)));
 }
 
 void PlateformeSimulee::accueillir(ui::Formulaire& formulaire) {

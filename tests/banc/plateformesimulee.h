@@ -34,7 +34,8 @@ class PlateformeSimulee : public ui::Plateforme {
     [[nodiscard]] HasardSimule& hasard() override { return hasard_; }
     [[nodiscard]] common::Instant maintenant() override { return instant_; }
     void ouvrir(std::string_view cible) override { journal.ouvertures.emplace_back(cible); }
-    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
+    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin,
+                                   const ui::Exigence& exigence) override;
     void accueillir(ui::Formulaire& formulaire) override;
 
     void regler(const common::Instant& instant) { instant_ = instant; }
@@ -59,6 +60,8 @@ class PlateformeSimulee : public ui::Plateforme {
     std::function<ui::Reponse(std::string_view, ui::Icone, bool ouinon, ui::Reponse)> boite;
     /// Shows the report of a fault.
     std::function<void(std::string_view)> affichage;
+    /// SHA-256 of bytes, as 64 hexadecimal digits in lower case. Without it no content has a sum.
+    std::function<std::string(std::string_view)> somme;
 
   protected:
     void sonner() override { ++journal.bips; }
@@ -71,6 +74,7 @@ class PlateformeSimulee : public ui::Plateforme {
 
   private:
     [[nodiscard]] ui::Reponse reponsesuivante(std::string_view texte, bool ouinon);
+    [[nodiscard]] bool convient(std::string_view octets, const ui::Exigence& exigence) const;
 
     struct Adresse {
         std::string fin;

@@ -6,7 +6,9 @@
 #include "disquesimule.h"
 #include "dossier.h"
 #include "fauxprogramme.h"
+#include "formulaire.h"
 #include "pilotemodele.h"
+#include "plateformesimulee.h"
 #include "scenario.h"
 
 namespace {
@@ -301,6 +303,24 @@ TEST(Lettres, nombres_en_lettres_capitales) {
     EXPECT_EQ(banc::enlettres(27), "AA");
     EXPECT_EQ(banc::enlettres(702), "ZZ");
     EXPECT_EQ(banc::enlettres(703), "AAA");
+}
+
+TEST(Horloge, une_minuterie_faite_apres_l_accueil_attend_aussi_sa_seconde) {
+    banc::PlateformeSimulee plateforme(".");
+    ui::Formulaire forme(plateforme, "Form1");
+    auto& premiere = forme.ajouterminuterie("Timer1");
+    plateforme.accueillir(forme);
+    auto& tardive = forme.ajouterminuterie("Timer2");
+    int tics = 0;
+    tardive.tic = [&tics] { ++tics; };
+    premiere.tic = [&tardive] {
+        tardive.actif = false;
+        tardive.actif = true;
+    };
+    premiere.actif = true;
+    tardive.actif = true;
+    plateforme.avancer(1);
+    EXPECT_EQ(tics, 0);
 }
 
 }  // namespace

@@ -90,7 +90,8 @@ class Plateforme : public ui::Plateforme {
   public:
     Journal journal;
     Disque lesfichiers;
-    std::map<std::string, std::string, std::less<>> reseau;  ///< address to content
+    std::map<std::string, std::string, std::less<>> reseau;      ///< address to content
+    std::map<std::string, ui::Exigence, std::less<>> exigences;  ///< by file, of its download
     ui::Reponse reponse = ui::Reponse::Oui;
     std::string dossier;
     std::string rapport;
@@ -99,8 +100,10 @@ class Plateforme : public ui::Plateforme {
     common::Hasard& hasard() override { return hasard_; }
     common::Instant maintenant() override { return {}; }
     void ouvrir(std::string_view cible) override { noter("ouvrir ", cible); }
-    bool telecharger(std::string_view adresse, std::string_view chemin) override {
+    bool telecharger(std::string_view adresse, std::string_view chemin,
+                     const ui::Exigence& exigence) override {
         noter("telecharger ", std::string(adresse) + " > " + std::string(chemin));
+        exigences[std::string(chemin)] = exigence;
         const auto page = reseau.find(adresse);
         if (page == reseau.end())
             return false;

@@ -127,6 +127,33 @@ TEST_F(MiseAJour, telechargee_ouvre_l_installeur_et_finit_le_programme) {
     EXPECT_TRUE(v.plateforme.lesfichiers.existe("orvane_setup.exe"));
 }
 
+TEST_F(MiseAJour, le_lien_et_l_installeur_ne_viennent_que_d_une_adresse_sure) {
+    toutpublier();
+    verifier();
+    auto& exigences = v.plateforme.exigences;
+    EXPECT_FALSE(exigences["version_en_ligne.txt"].sure);
+    EXPECT_TRUE(exigences["downloadlink.txt"].sure);
+    EXPECT_TRUE(exigences["orvane_setup.exe"].sure);
+    EXPECT_LT(exigences["version_en_ligne.txt"].taille, 1 << 20);
+    EXPECT_LT(exigences["downloadlink.txt"].taille, 1 << 20);
+    EXPECT_GT(exigences["orvane_setup.exe"].taille, 100 << 20);
+}
+
+TEST_F(MiseAJour, la_seconde_ligne_de_la_version_est_la_somme_de_l_installeur) {
+    toutpublier();
+    v.plateforme.reseau.erase(installeur);  // or else the program ends
+    verifier();
+    ASSERT_TRUE(v.plateforme.exigences.contains("orvane_setup.exe"));
+    EXPECT_EQ(v.plateforme.exigences["orvane_setup.exe"].somme, std::nullopt);
+    publier("2.7\r\n0A1B\r\nautre ligne\r\n");
+    verifier();
+    EXPECT_EQ(v.plateforme.exigences["orvane_setup.exe"].somme, "0A1B");
+    EXPECT_EQ(v.plateforme.exigences["downloadlink.txt"].somme, std::nullopt);
+    publier("2.7\r\n\r\n");
+    verifier();
+    EXPECT_EQ(v.plateforme.exigences["orvane_setup.exe"].somme, "");
+}
+
 TEST_F(MiseAJour, suppression_refusee_laisse_le_programme_ouvert) {
     for (const auto* fichier : {"downloadlink.txt", "version_en_ligne.txt"}) {
         v.plateforme.lesfichiers.indestructibles.clear();

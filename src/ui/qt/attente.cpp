@@ -1,5 +1,7 @@
 #include "attente.h"
 
+#include <memory>
+
 #include <QEventLoop>
 #include <QTimer>
 
@@ -8,19 +10,30 @@
 namespace ui::qt {
 namespace {
 
-constexpr int terme = 1;  // status of a wait that did not come to its end
+/// Who is waiting, as long as he is.
+struct Veille {
+    QEventLoop* boucle = nullptr;
+    bool venue = false;
+};
 
 }  // namespace
 
-bool attendre(Minuteur& minuteur, int limite, const std::function<void(QEventLoop&)>& lancer) {
+bool attendre(Minuteur& minuteur, int limite,
+              const std::function<void(std::function<void()> finir)>& lancer) {
     const Minuteur::Silence silence(minuteur);
     QEventLoop boucle;
-    QTimer garde;
-    garde.setSingleShot(true);
-    QObject::connect(&garde, &QTimer::timeout, &boucle, [&boucle] { boucle.exit(terme); });
-    lancer(boucle);
-    garde.start(limite);
-    return boucle.exec(QEventLoop::ExcludeUserInputEvents) == 0;
+    const auto veille = std::make_shared<Veille>(Veille{&boucle});
+    QTimer::singleShot(limite, &boucle, &QEventLoop::quit);
+    lancer([veille] {
+        veille->venue = true;
+        if (veille->boucle != nullptr)
+            veille->boucle->quit();
+    });
+    // The status of the loop doesn't tell: a program that ends leaves every loop with its own.
+    if (!veille->venue)
+        boucle.exec(QEventLoop::ExcludeUserInputEvents);
+    veille->boucle = nullptr;
+    return veille->venue;
 }
 
 }  // namespace ui::qt

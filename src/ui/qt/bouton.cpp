@@ -1,6 +1,7 @@
 #include "bouton.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QPainter>
 
@@ -35,7 +36,12 @@ Bouton::Bouton(QWidget& parent, Fenetre& fenetre, Controle& controle)
 void Bouton::montrer(Champs champs) {
     const bool remesurer =
         (champs & (champsplace | champsfonte | ensemble(Champ::Texte, Champ::Aspect))) != 0;
-    if (!remesurer)
+    if (remesurer)
+        mesuree_ = false;
+}
+
+void Bouton::mesurer() {
+    if (std::exchange(mesuree_, true))
         return;
     if (controle()->aspect() == Aspect::Tuile) {
         auto grande = qt::fonte(*controle(), lettredetuile * std::min(width(), height()), *this);
@@ -58,6 +64,7 @@ dessin::Etat Bouton::etat() const {
 void Bouton::paintEvent(QPaintEvent* /*evenement*/) {
     if (controle() == nullptr)
         return;
+    mesurer();
     QPainter peintre(this);
     if (controle()->aspect() == Aspect::Tuile) {
         peindretuile(peintre);

@@ -19,9 +19,11 @@ class Bouton : public VueDe<QPushButton> {
 
   private:
     [[nodiscard]] dessin::Etat etat() const;
+    void mesurer();
     void peindretuile(QPainter& peintre);
 
     QFont ajustee_;
+    bool mesuree_ = false;  ///< waits for the first painting: a hidden button needs no font
 };
 
 }  // namespace ui::qt

@@ -19,16 +19,26 @@ constexpr double forceligne = .3;
 
 }  // namespace
 
+void Image::charger() {
+    const auto chemin = fenetre().chemin(controle()->image());
+    if (!vignette_.isNull() && chemin == chemin_ && size() == place_ &&
+        vignette_.devicePixelRatio() == devicePixelRatio())
+        return;
+    vignette_ = image(chemin, size(), devicePixelRatio());
+    chemin_ = chemin;
+    place_ = size();
+}
+
 void Image::paintEvent(QPaintEvent* /*evenement*/) {
     if (controle() == nullptr || controle()->image().empty())
         return;
-    const auto vignette = image(fenetre().chemin(controle()->image()), size(), devicePixelRatio());
-    if (vignette.isNull())
+    charger();
+    if (vignette_.isNull())
         return;
     QPainter peintre(this);
-    const auto taille = vignette.deviceIndependentSize();
+    const auto taille = vignette_.deviceIndependentSize();
     peintre.drawPixmap(QPointF((width() - taille.width()) / 2, (height() - taille.height()) / 2),
-                       vignette);
+                       vignette_);
 }
 
 void Cadre::paintEvent(QPaintEvent* /*evenement*/) {

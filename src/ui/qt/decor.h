@@ -4,6 +4,8 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QPixmap>
+#include <QString>
 
 #include "vue.h"
 
@@ -16,6 +18,14 @@ class Image : public VueDe<QLabel> {
 
   protected:
     void paintEvent(QPaintEvent* evenement) override;
+
+  private:
+    void charger();
+
+    // What is drawn is kept: the cache of Qt refuses the large pictures of dense screens.
+    QPixmap vignette_;
+    QString chemin_;  ///< where it comes from
+    QSize place_;     ///< pixels that it was made for
 };
 
 /// A frame: a light card, its text as a heading.

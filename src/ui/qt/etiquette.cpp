@@ -1,5 +1,7 @@
 #include "etiquette.h"
 
+#include <utility>
+
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -44,7 +46,12 @@ void Etiquette::montrer(Champs champs) {
         setText(texte());
     constexpr auto mesures =
         champsplace | champsfonte | ensemble(Champ::Texte, Champ::Fond, Champ::Fondu);
-    if ((champs & mesures) == 0)
+    if ((champs & mesures) != 0)
+        mesuree_ = false;
+}
+
+void Etiquette::mesurer() {
+    if (std::exchange(mesuree_, true))
         return;
     ajustee_ = ajuster(fonte(), texte(), placetexte().size(), *this);
     const auto ligne = QFontMetricsF(fonte(), this).height();
@@ -54,6 +61,7 @@ void Etiquette::montrer(Champs champs) {
 void Etiquette::paintEvent(QPaintEvent* /*evenement*/) {
     if (controle() == nullptr)
         return;
+    mesurer();
     QPainter peintre(this);
     if (controle()->aspect() == Aspect::Horloge) {
         dessin::boite(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()),

@@ -17,9 +17,11 @@ class Etiquette : public VueDe<QLabel> {
 
   private:
     [[nodiscard]] QRectF placetexte() const;
+    void mesurer();
 
     QFont ajustee_;
     Qt::Alignment verticale_;
+    bool mesuree_ = false;  ///< waits for the first painting: a hidden label needs no font
 };
 
 }  // namespace ui::qt

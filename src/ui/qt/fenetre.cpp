@@ -139,7 +139,7 @@ void Fenetre::modifie(ChampFormulaire champ) {
 void Fenetre::adieu() {
     for (auto* vue : vues_)
         vue->detacher();
-    const auto* partant = std::exchange(formulaire_, nullptr);
+    auto* partant = std::exchange(formulaire_, nullptr);
     deroulant_->accorder();
     notees_.clear();
     hide();

@@ -157,7 +157,7 @@ void Fenetrier::peinte() {
     QMetaObject::invokeMethod(this, mettre, Qt::QueuedConnection);
 }
 
-void Fenetrier::oublier(Fenetre& fenetre, const Formulaire& formulaire) {
+void Fenetrier::oublier(Fenetre& fenetre, Formulaire& formulaire) {
     minuteur_.oublier(formulaire);
     std::erase(fenetres_, &fenetre);
     partantes_.emplace_back(&fenetre);

@@ -72,7 +72,7 @@ class Fenetrier : public QObject {
     void garderdevant(const Fenetre& fenetre);
     /// A window is on screen: the program's icon, whose files take their time, may follow.
     void peinte();
-    void oublier(Fenetre& fenetre, const Formulaire& formulaire);
+    void oublier(Fenetre& fenetre, Formulaire& formulaire);
 
   protected:
     bool event(QEvent* evenement) override;

@@ -1,24 +1,22 @@
 #include "hautparleur.h"
 
-#include <QAudioDevice>
-#include <QAudioSink>
-#include <QBuffer>
-#include <QEventLoop>
+#include <algorithm>
+#include <memory>
+
 #include <QFile>
 #include <QFileInfo>
-#include <QMediaDevices>
-#include <QTimer>
 #include <QtEndian>
 
 #include "attente.h"
 #include "minuteur.h"
+#include "modules.h"
+#include "son.h"
 
 namespace ui::qt {
 namespace {
 
 constexpr std::int64_t millisecondes = 1000;
 constexpr int marge = 500;             // milliseconds that a device may take to start and to drain
-constexpr int vidange = 200;           // milliseconds
 constexpr qsizetype tailleentete = 8;  // of a chunk: its name and its length
 
 template <class T>
@@ -42,14 +40,6 @@ Morceau morceau(const QByteArray& octets, const char* nom) {
         i = debut + taille + taille % 2;
     }
     return {};
-}
-
-QAudioFormat format(const Onde& onde) {
-    QAudioFormat resultat;
-    resultat.setSampleRate(onde.frequence);
-    resultat.setChannelCount(onde.voies);
-    resultat.setSampleFormat(onde.bits == 8 ? QAudioFormat::UInt8 : QAudioFormat::Int16);
-    return resultat;
 }
 
 }  // namespace
@@ -88,27 +78,17 @@ void jouer(Minuteur& minuteur, const QString& chemin) {
     const auto onde = lireonde(fichier.readAll());
     if (!onde || onde->duree() == 0)
         return;
-    const auto appareil = QMediaDevices::defaultAudioOutput();
-    if (appareil.isNull() || !appareil.isFormatSupported(format(*onde)))
+    auto* const son = qobject_cast<Son*>(module(moduleson));
+    if (son == nullptr)
         return;
-    QBuffer source;
-    source.setData(onde->echantillons);
-    source.open(QIODevice::ReadOnly);
-    QAudioSink sortie(appareil, format(*onde));
     const auto limite = static_cast<int>(std::min(onde->duree(), dureelimite)) + marge;
+    std::unique_ptr<Lecture> lecture;
     // A device that sticks is left behind at the limit.
-    static_cast<void>(attendre(minuteur, limite, [&](QEventLoop& boucle) {
-        QObject::connect(&sortie, &QAudioSink::stateChanged, &boucle, [&](QAudio::State etat) {
-            if (etat == QAudio::IdleState)  // all is handed over, not all is heard
-                QTimer::singleShot(vidange, &boucle, &QEventLoop::quit);
-            if (etat == QAudio::StoppedState)
-                boucle.quit();
-        });
-        sortie.start(&source);
-        if (sortie.error() != QAudio::NoError)
-            QMetaObject::invokeMethod(&boucle, &QEventLoop::quit, Qt::QueuedConnection);
+    static_cast<void>(attendre(minuteur, limite, [&](const auto& finir) {
+        lecture = son->jouer(*onde, finir);
+        if (lecture == nullptr)
+            finir();
     }));
-    sortie.stop();
 }
 
 }  // namespace ui::qt

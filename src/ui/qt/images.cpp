@@ -22,19 +22,30 @@ QString variante(const QString& chemin, const char* marque) {
     return point < 0 ? nom + QLatin1String(marque) : nom.insert(point, QLatin1String(marque));
 }
 
+/// A reader of a picture; null if the file is missing or is none. Qt is asked for the format that
+/// the ending says: to find out by itself it would load all that it has.
+std::unique_ptr<QImageReader> lecteur(const QString& chemin) {
+    const QFileInfo fichier(chemin);
+    if (!fichier.isFile())  // a pipe would be waited for
+        return nullptr;
+    auto direct = std::make_unique<QImageReader>(chemin, fichier.suffix().toLower().toLatin1());
+    direct->setAutoDetectImageFormat(false);
+    if (direct->size().isValid())
+        return direct;
+    auto curieux = std::make_unique<QImageReader>(chemin);
+    return curieux->size().isValid() ? std::move(curieux) : nullptr;
+}
+
 /// The variant to draw from: the smallest one that is large enough, or else the largest; null if
 /// no picture can be read.
 QImage choisir(const QString& chemin, const QSize& voulue) {
     std::unique_ptr<QImageReader> choix;
     for (const auto* marque : variantes) {
-        const auto nom = variante(chemin, marque);
-        if (!QFileInfo(nom).isFile())  // a pipe would be waited for
+        auto essai = lecteur(variante(chemin, marque));
+        if (essai == nullptr)
             continue;
-        auto lecteur = std::make_unique<QImageReader>(nom);
-        const auto taille = lecteur->size();
-        if (!taille.isValid())
-            continue;
-        choix = std::move(lecteur);
+        choix = std::move(essai);
+        const auto taille = choix->size();
         if (taille.width() >= voulue.width() || taille.height() >= voulue.height())
             break;
     }
@@ -63,9 +74,9 @@ QPixmap image(const QString& chemin, const QSize& taille, double densite) {
 QIcon iconeprogramme(const std::function<QString(std::string_view)>& systeme) {
     QIcon icone;
     for (const int cote : icones) {
-        const auto chemin = systeme("images\\orvane_" + std::to_string(cote) + ".png");
-        if (QFileInfo(chemin).isFile())
-            icone.addFile(chemin);
+        const auto essai = lecteur(systeme("images\\orvane_" + std::to_string(cote) + ".png"));
+        if (essai != nullptr)
+            icone.addPixmap(QPixmap::fromImage(essai->read()));
     }
     return icone;
 }

@@ -23,15 +23,24 @@ Minuteur::Minuteur(std::function<void(const std::function<void()>&)> executer, H
 }
 
 void Minuteur::accueillir(Formulaire& formulaire) {
-    for (const auto& minuterie : formulaire.minuteries()) {
-        suivis_.push_back({minuterie.get(), &formulaire, 0});
-        minuterie->surchangement = [this](Minuterie& m) { changement(m); };
-        if (minuterie->actif())
-            changement(*minuterie);
-    }
+    for (const auto& minuterie : formulaire.minuteries())
+        suivre(formulaire, *minuterie);
+    formulaire.surminuterie = [this, &formulaire](Minuterie& m) { suivre(formulaire, m); };
 }
 
-void Minuteur::oublier(const Formulaire& formulaire) {
+/// Behind the form's other timers, whatever forms have come since.
+void Minuteur::suivre(const Formulaire& formulaire, Minuterie& minuterie) {
+    const auto derniere = std::find_if(suivis_.rbegin(), suivis_.rend(),
+                                       [&](const Suivi& s) { return s.formulaire == &formulaire; });
+    suivis_.insert(derniere == suivis_.rend() ? suivis_.end() : derniere.base(),
+                   {&minuterie, &formulaire, 0});
+    minuterie.surchangement = [this](Minuterie& m) { changement(m); };
+    if (minuterie.actif())
+        changement(minuterie);
+}
+
+void Minuteur::oublier(Formulaire& formulaire) {
+    formulaire.surminuterie = nullptr;
     std::erase_if(suivis_, [&](const Suivi& s) {
         if (s.formulaire == &formulaire)
             s.minuterie->surchangement = nullptr;

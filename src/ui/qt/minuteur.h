@@ -25,8 +25,9 @@ class Minuteur : public QObject {
     explicit Minuteur(std::function<void(const std::function<void()>&)> executer,
                       Horloge horloge = {});
 
+    /// Drives the timers of a form, those that it makes later too.
     void accueillir(Formulaire& formulaire);
-    void oublier(const Formulaire& formulaire);
+    void oublier(Formulaire& formulaire);
     /// Runs the ticks that are due, then waits for the next.
     void echoir();
 
@@ -52,6 +53,7 @@ class Minuteur : public QObject {
         std::int64_t echeance;  ///< meaningful while it runs
     };
 
+    void suivre(const Formulaire& formulaire, Minuterie& minuterie);
     void changement(const Minuterie& minuterie);
     void armer();
     [[nodiscard]] Suivi* due(std::int64_t limite, std::size_t depuis);

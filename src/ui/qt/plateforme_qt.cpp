@@ -39,10 +39,10 @@ void PlateformeQt::ouvrir(std::string_view cible) {
                 : QUrl::fromLocalFile(QDir::current().absoluteFilePath(fenetrier_.chemin(cible))));
 }
 
-bool PlateformeQt::telecharger(std::string_view adresse, std::string_view chemin) {
+bool PlateformeQt::telecharger(std::string_view adresse, std::string_view chemin,
+                               const Exigence& exigence) {
     fenetrier_.rafraichir();
-    const auto contenu = telechargement_.lire(adresse);
-    return contenu && !disque_.remplacer(chemin, *contenu);
+    return telechargement_.enregistrer(adresse, fenetrier_.chemin(chemin), exigence);
 }
 
 std::string PlateformeQt::dossierprogramme() {

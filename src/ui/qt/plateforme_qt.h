@@ -21,7 +21,8 @@ class PlateformeQt : public Plateforme {
     common::Hasard& hasard() override { return hasard_; }
     [[nodiscard]] common::Instant maintenant() override;
     void ouvrir(std::string_view cible) override;
-    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin) override;
+    [[nodiscard]] bool telecharger(std::string_view adresse, std::string_view chemin,
+                                   const Exigence& exigence) override;
     [[nodiscard]] std::string dossierprogramme() override;
     void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <optional>
-#include <string>
 #include <string_view>
 
-#include <QNetworkAccessManager>
+#include <QString>
+
+#include "plateforme.h"
 
 namespace ui::qt {
 
@@ -14,22 +14,22 @@ class Minuteur;
 class Telechargement {
   public:
     struct Limites {
-        int silence = 20'000;                ///< milliseconds without a byte
-        int duree = 15 * 60'000;             ///< milliseconds in all
-        std::int64_t taille = 512LL << 20U;  ///< bytes
+        int silence = 30'000;     ///< milliseconds without a byte
+        int duree = 10 * 60'000;  ///< milliseconds in all
     };
 
     explicit Telechargement(Minuteur& minuteur) : Telechargement(minuteur, Limites()) {}
     Telechargement(Minuteur& minuteur, Limites limites) : minuteur_(minuteur), limites_(limites) {}
 
-    /// The whole content of an address, fresh from its server; nothing if that failed. Certificates
-    /// are verified; a redirection may not lead from https to http.
-    [[nodiscard]] std::optional<std::string> lire(std::string_view adresse);
+    /// Writes the content of an address, fresh from its server, to a file as it comes; the file
+    /// takes its name when it is whole and as wanted, and is what it was otherwise (false).
+    /// Certificates are verified; a redirection may not lead from https to http.
+    [[nodiscard]] bool enregistrer(std::string_view adresse, const QString& chemin,
+                                   const Exigence& exigence);
 
   private:
     Minuteur& minuteur_;
     Limites limites_;
-    QNetworkAccessManager reseau_;
 };
 
 }  // namespace ui::qt

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QProcess>
 #include <QSslCertificate>
@@ -47,6 +48,7 @@ class Bureau : public testing::Environment {
                     ADD_FAILURE() << "Qt: " << texte.toStdString();
             });
         qt_.emplace(nombre_, arguments_);
+        QCoreApplication::addLibraryPath(ORVANE_MODULES);
     }
     void TearDown() override { qt_.reset(); }
 
@@ -63,7 +65,7 @@ const auto* const bureau = testing::AddGlobalTestEnvironment(new Bureau);
 /// The player's machine, its message boxes answered and its browser noted down.
 class Machine : public ui::qt::PlateformeQt {
   public:
-    Machine() : PlateformeQt({.silence = 200, .duree = 600, .taille = 1000}) {}
+    Machine() : PlateformeQt({.silence = 200, .duree = 600}) {}
     /// The program runs from its own folder.
     std::string dossierprogramme() override { return {}; }
 
@@ -158,7 +160,7 @@ const Echec echecs[] = {
     {"coupee_avant_le_premier_octet", {"", 200, 100}},
     {"jamais_de_reponse", {.muette = true}},
     {"octets_sans_fin", {.corps = "2.68\r\n", .goutte = true}},
-    {"trop_longue", {QByteArray(1001, 'x')}},
+    {"trop_longue", {QByteArray(64 * 1024 + 1, 'x')}},
     {"renvoi_sans_fin",
      {.statut = 302, .entetes = QByteArray("Location: ") + cheminversion + "\r\n"}},
 };
@@ -257,6 +259,27 @@ TEST_F(Reseau, tout_va_bien) {
     EXPECT_EQ(contenu("downloadlink.txt"), std::nullopt);
     EXPECT_EQ(contenu("version_en_ligne.txt"), std::nullopt);
     EXPECT_EQ(v.plateforme.statut(), 0);
+}
+
+TEST_F(Reseau, l_installeur_a_la_somme_publiee_ou_ne_s_ouvre_pas) {
+    toutpublier();
+    const auto somme = QCryptographicHash::hash("MZ", QCryptographicHash::Sha256).toHex();
+    publier("2.7\r\n" + somme + "\r\n");
+    serveur.pages[chemininstalleur].corps = "MZ, mais un autre";
+    EXPECT_EQ(verifier(), echecdelinstalleur());
+    EXPECT_EQ(contenu("orvane_setup.exe"), std::nullopt);
+    serveur.pages[chemininstalleur].corps = "MZ";
+    EXPECT_EQ(verifier(), telechargement({"menu pointeur normal", aurevoir,
+                                          "ouvrir orvane_setup.exe", "fin 0"}));
+}
+
+TEST_F(Reseau, un_lien_en_clair_vers_une_autre_machine) {
+    toutpublier();
+    const auto lien = QByteArray::fromStdString(serveur.adresse(chemininstalleur))
+                          .replace("127.0.0.1", "localhost");
+    serveur.pages[cheminlien] = {lien + "\r\n"};
+    EXPECT_EQ(verifier(), echecdelinstalleur());
+    EXPECT_EQ(serveur.demandes.size(), 2U) << "the installer is not asked for";
 }
 
 /// A key and a certificate that nobody has signed, for 127.0.0.1.

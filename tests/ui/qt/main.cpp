@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
     qputenv("XDG_RUNTIME_DIR", dossier.path().toUtf8());
     ui::qt::preparer();
     QApplication application(argc, argv);
+    QCoreApplication::addLibraryPath(ORVANE_MODULES);
     qInstallMessageHandler(entendre);
     ui::qt::habiller(application);
     return RUN_ALL_TESTS();

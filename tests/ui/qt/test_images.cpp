@@ -75,6 +75,13 @@ TEST_F(Images, un_tube_a_la_place_d_une_image_ne_s_attend_pas) {
     EXPECT_TRUE(image(28, 1).isNull());
 }
 
+TEST_F(Images, le_contenu_l_emporte_sur_la_terminaison) {
+    QImage image(28, 28, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    ASSERT_TRUE(image.save(dossier.filePath("marque.bmp"), "PNG"));
+    EXPECT_EQ(couleur(28, 1), QColor(Qt::green));
+}
+
 TEST_F(Images, l_icone_prend_les_tailles_presentes) {
     dessiner("orvane_32.png", 32, Qt::red);
     dessiner("orvane_64.png", 64, Qt::red);

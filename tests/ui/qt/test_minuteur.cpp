@@ -117,12 +117,30 @@ TEST_F(Minuteries, le_silence_retient_les_tics) {
     EXPECT_EQ(lire(), Tics{"Timer1@2100"});
 }
 
+TEST_F(Minuteries, une_minuterie_faite_plus_tard_bat_a_sa_place) {
+    ui::Formulaire autre(plateforme, "Multi");
+    const auto suivre = [this](ui::Formulaire& celle, const char* nom) -> ui::Minuterie& {
+        auto& minuterie = celle.ajouterminuterie(nom);
+        minuterie.tic = [this, nom] { tics.emplace_back(nom); };
+        return minuterie;
+    };
+    suivre(autre, "Autre").actif = true;
+    minuteur.accueillir(autre);
+    suivre(forme, "Timer4").actif = true;
+    aller(900);
+    EXPECT_EQ(lire(), Tics{});
+    aller(1000);
+    EXPECT_EQ(lire(), (Tics{"Timer4", "Autre"}));
+    minuteur.oublier(autre);
+}
+
 TEST_F(Minuteries, une_forme_qui_s_en_va_emporte_ses_minuteries) {
     minuteries[0]->actif = true;
     minuteur.oublier(forme);
     aller(1000);
     EXPECT_EQ(lire(), Tics{});
     EXPECT_FALSE(minuteries[0]->surchangement);
+    EXPECT_FALSE(forme.surminuterie);
 }
 
 }  // namespace

@@ -200,7 +200,8 @@ TEST_F(Machine, une_adresse_s_ouvre_telle_quelle_et_un_fichier_par_son_chemin_en
 
 TEST_F(Machine, un_telechargement_manque_laisse_le_fichier_comme_il_etait) {
     ASSERT_FALSE(plateforme.disque().remplacer("version_en_ligne.txt", "2.68\r\n"));
-    EXPECT_FALSE(plateforme.telecharger("http://127.0.0.1:1/version.txt", "version_en_ligne.txt"));
+    EXPECT_FALSE(plateforme.telecharger("http://127.0.0.1:1/version.txt", "version_en_ligne.txt",
+                                        {.taille = 1000}));
     QFile fichier("version_en_ligne.txt");
     ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
     EXPECT_EQ(fichier.readAll(), "2.68\r\n");

@@ -3,9 +3,14 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmapCache>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "bureauqt.h"
@@ -342,6 +347,25 @@ TEST_F(Vues, une_technologie_d_assistance_presse_un_bouton) {
     const auto clics = [this] { return std::count(journal.begin(), journal.end(), "valider!"); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return clics() > 0; }));
     EXPECT_EQ(clics(), 1);
+}
+
+TEST_F(Vues, une_image_que_la_reserve_de_qt_refuse_n_est_lue_qu_une_fois) {
+    const QTemporaryDir dossier(QDir::tempPath() + "/images d'été XXXXXX");
+    const auto chemin = dossier.filePath("grande.bmp");
+    QImage grande(200, 200, QImage::Format_RGB32);
+    grande.fill(Qt::red);
+    ASSERT_TRUE(grande.save(chemin));
+    const int avant = QPixmapCache::cacheLimit();
+    QPixmapCache::setCacheLimit(1);
+    marque->image = chemin.toStdString();
+    fenetrier->rafraichir();
+    EXPECT_EQ(couleur(*marque, {5, 5}), QColor(Qt::red));
+    ASSERT_TRUE(QFile::remove(chemin));
+    EXPECT_EQ(couleur(*marque, {5, 5}), QColor(Qt::red));
+    QPixmapCache::setCacheLimit(avant);
+    marque->image = dossier.filePath("autre.bmp").toStdString();
+    fenetrier->rafraichir();
+    EXPECT_NE(couleur(*marque, {5, 5}), QColor(Qt::red));
 }
 
 }  // namespace

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QtPlugin>
+
+#include "hautparleur.h"
+
+namespace ui::qt {
+
+/// A sound that is being played; it is cut when this goes.
+class Lecture {
+  public:
+    Lecture() = default;
+    Lecture(const Lecture&) = delete;
+    Lecture& operator=(const Lecture&) = delete;
+    virtual ~Lecture() = default;
+};
+
+/// What the sound module offers.
+class Son {
+  public:
+    Son() = default;
+    Son(const Son&) = delete;
+    Son& operator=(const Son&) = delete;
+    virtual ~Son() = default;
+    /// Starts a sound; `finir` is called when it is over, or when the device has given up. Null if
+    /// the machine cannot play it.
+    [[nodiscard]] virtual std::unique_ptr<Lecture> jouer(const Onde& onde,
+                                                         std::function<void()> finir) = 0;
+};
+
+}  // namespace ui::qt
+
+Q_DECLARE_INTERFACE(ui::qt::Son, "orvane.Son/1")
