@@ -84,8 +84,8 @@ bool verrouille(int numero) {
 
 /// The file of a descriptor is the one that bears the name by now.
 bool nommeencore(int numero, const std::filesystem::path& chemin) {
-    struct stat tenu {};
-    struct stat nomme {};
+    struct stat tenu = {};
+    struct stat nomme = {};
     return ::fstat(numero, &tenu) == 0 && ::stat(chemin.c_str(), &nomme) == 0 &&
            tenu.st_dev == nomme.st_dev && tenu.st_ino == nomme.st_ino;
 }
@@ -148,7 +148,7 @@ std::error_code DisqueReel::ajouter(std::string_view chemin, std::string_view oc
     const auto fichier = tenir(cible, O_RDWR | O_APPEND | O_CREAT);
     if (fichier == nullptr)
         return derniere();
-    struct stat etat {};
+    struct stat etat = {};
     if (::fstat(fichier->numero(), &etat) != 0)
         return derniere();
     if (octets.empty())
