@@ -17,6 +17,9 @@ struct Bornes {
     double millisecondes = 0;
 };
 
+/// Prepares nothing.
+inline void rien() {}
+
 /// Times the plain reading of `fichiers` (their bytes, in blocks, and a count of the line ends) and
 /// `sujet` in turn, after `preparer`, which is not timed; shows the medians and their ratio, and
 /// reports an error where one is over its bound.

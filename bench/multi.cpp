@@ -46,8 +46,7 @@ void chargement_de_10000_rangees(benchmark::State& state) {
     epreuve.lancer(true);
     const std::vector<std::string> fichiers{epreuve.chemin("listes/x.txt"),
                                             epreuve.chemin("Essai/rev-x.txt")};
-    bench::comparer(
-        state, [] {}, [&] { epreuve.lancer(true); }, fichiers, {5, 0});
+    bench::comparer(state, bench::rien, [&] { epreuve.lancer(true); }, fichiers, {5, 0});
 }
 BENCHMARK(chargement_de_10000_rangees)->UseManualTime()->Iterations(300);
 
@@ -56,8 +55,7 @@ void pas_dans_le_parcours(benchmark::State& state) {
     Epreuve epreuve;
     epreuve.ecrire("listes/x.txt", liste(10, 5));
     epreuve.lancer(true);
-    bench::chronometrer(
-        state, [] {}, [&] { epreuve.touche(touches::droite); }, {0, 1});
+    bench::chronometrer(state, bench::rien, [&] { epreuve.touche(touches::droite); }, {0, 1});
 }
 BENCHMARK(pas_dans_le_parcours)->UseManualTime()->Iterations(2000);
 

@@ -36,7 +36,7 @@ class DisqueReel : public Disque {
     [[nodiscard]] bool estdossier(std::string_view chemin) override;
 
     /// The system's path of a path of the rules.
-    [[nodiscard]] std::filesystem::path systeme(std::string_view chemin) const;
+    [[nodiscard]] virtual std::filesystem::path systeme(std::string_view chemin) const;
 
   private:
     std::filesystem::path racine_;

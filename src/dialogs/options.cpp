@@ -22,9 +22,11 @@ constexpr std::string_view rien;
 constexpr std::string_view ordrevert = "Le 1er % doit être supérieur à celui d'en dessous !";
 constexpr std::string_view ordrerouge = "Le 2ème % doit être inférieur à celui d'au dessus !";
 
+using Texte = std::string Saisie::*;
+
 /// A box: where its text stands, its bounds, and what it says outside them.
 struct Regle {
-    std::string Saisie::*texte;
+    Texte texte;
     Bornes bornes;
     std::string_view trop;
     std::string_view troppeu;

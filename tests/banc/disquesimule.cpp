@@ -1,6 +1,7 @@
 #include "disquesimule.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace banc {
 namespace {
@@ -10,6 +11,31 @@ std::error_code disqueplein() {
 }
 
 }  // namespace
+
+void DisqueSimule::reserver(std::map<std::string, Fourniture> fournitures) {
+    const auto racine = DisqueReel::systeme("");
+    for (const auto& [nom, fourniture] : fournitures)
+        std::filesystem::create_directories((racine / nom).parent_path());
+    reserve_ = std::move(fournitures);
+}
+
+/// The root itself brings nothing: it is asked for to look for files by one's own means.
+std::filesystem::path DisqueSimule::systeme(std::string_view chemin) const {
+    auto voulu = DisqueReel::systeme(chemin);
+    if (reserve_.empty() || chemin.empty())
+        return voulu;
+    const auto racine = DisqueReel::systeme("");
+    const auto nom = voulu.lexically_normal().lexically_relative(racine).generic_string();
+    for (auto f = reserve_.lower_bound(nom); f != reserve_.end() && f->first.starts_with(nom);) {
+        if (f->first.size() > nom.size() && f->first[nom.size()] != '/') {
+            ++f;
+            continue;
+        }
+        f->second.poser(racine / f->first);
+        f = reserve_.erase(f);
+    }
+    return voulu;
+}
 
 bool DisqueSimule::plein(std::string_view chemin) const {
     return std::any_of(refuses_.begin(), refuses_.end(), [&](const std::string& refuse) {

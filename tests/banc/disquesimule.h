@@ -1,10 +1,12 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "disquereel.h"
+#include "dossier.h"
 
 namespace banc {
 
@@ -15,6 +17,10 @@ class DisqueSimule : public common::DisqueReel {
     explicit DisqueSimule(std::filesystem::path racine,
                           common::Appels& appels = common::appelsdusysteme())
         : DisqueReel(std::move(racine), appels) {}
+
+    /// Holds these files, each written when its path, or that of a folder above it, is first asked
+    /// for: most scenarios look at few.
+    void reserver(std::map<std::string, Fourniture> fournitures);
 
     /// What is written to this file, or into this folder, fails from now on.
     void refuser(std::string_view chemin) { refuses_.emplace_back(chemin); }
@@ -32,10 +38,12 @@ class DisqueSimule : public common::DisqueReel {
     [[nodiscard]] std::error_code creerdossier(std::string_view chemin) override;
     [[nodiscard]] std::error_code renommer(std::string_view ancien,
                                            std::string_view nouveau) override;
+    [[nodiscard]] std::filesystem::path systeme(std::string_view chemin) const override;
 
   private:
     [[nodiscard]] bool plein(std::string_view chemin) const;
 
+    mutable std::map<std::string, Fourniture> reserve_;  ///< not written yet
     std::vector<std::string> refuses_;
     int lectures_ = 0;
     int ecritures_ = 0;

@@ -14,32 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 6> references{"ods5.txt", "ods6.txt",    "ods7.txt",
-                                                     "vbi.txt",  "vbt4-10.txt", "inv.txt"};
-constexpr std::string_view notes = "infosouris.txt";
+constexpr std::array<const char*, 6> references{"ods5.txt", "ods6.txt",    "ods7.txt",
+                                                "vbi.txt",  "vbt4-10.txt", "inv.txt"};
+const std::string dossierlistes = "listes/";
+constexpr const char* notes = "infosouris.txt";
+constexpr const char* son = "APP05.WAV";
 constexpr std::string_view rangeesimple = "AB;BA\r\n";
 constexpr std::string_view rangeemultiple = "ABC;BAC;CAB\r\n";
-
-void ecrire(const fs::path& fichier, std::string_view octets) {
-    std::ofstream flux(fichier, std::ios::binary);
-    if (!(flux << octets).flush())
-        throw fs::filesystem_error("écriture", fichier, std::make_error_code(std::errc::io_error));
-}
-
-/// Gives a file, or the files of a folder, a second name: nothing writes to them. Copies them where
-/// that cannot be.
-void lier(const fs::path& source, const fs::path& but) {
-    if (fs::is_directory(source)) {
-        fs::create_directories(but);
-        for (const auto& fichier : fs::directory_iterator(source))
-            lier(fichier.path(), but / fichier.path().filename());
-        return;
-    }
-    std::error_code impossible;
-    fs::create_hard_link(source, but, impossible);
-    if (impossible)
-        fs::copy_file(source, but);
-}
 
 }  // namespace
 
@@ -56,23 +37,45 @@ Dossier::~Dossier() {
         fs::remove_all(chemin_, oubli);
 }
 
-void garnir(const fs::path& dossier, const fs::path& jeu) {
-    const auto listes = dossier / "listes";
-    fs::create_directories(listes);
+void Fourniture::poser(const fs::path& but) const {
+    if (!source.empty()) {
+        std::error_code impossible;
+        fs::create_hard_link(source, but, impossible);
+        if (impossible)
+            fs::copy_file(source, but);
+        return;
+    }
+    std::ofstream flux(but, std::ios::binary);
+    if (!(flux << octets).flush())
+        throw fs::filesystem_error("écriture", but, std::make_error_code(std::errc::io_error));
+}
+
+std::map<std::string, Fourniture> fournitures(const fs::path& jeu) {
+    std::map<std::string, Fourniture> toutes{{notes, {}}};
+    for (const auto* nom : references)
+        toutes[dossierlistes + nom] = {};
     for (const auto& panneau : menu::panneaux()) {
         for (const auto& rangee : panneau.rangees) {
             const auto octets = rangee.ecran == menu::Ecran::multi ? rangeemultiple : rangeesimple;
-            ecrire(listes / rangee.fichier, octets);
+            toutes[dossierlistes + std::string(rangee.fichier)] = {octets, {}};
             for (std::size_t partie = 0; partie < rangee.parties; ++partie)
-                ecrire(listes / menu::fichierdepartie(rangee.fichier, partie), octets);
+                toutes[dossierlistes + menu::fichierdepartie(rangee.fichier, partie)] = {octets,
+                                                                                         {}};
         }
     }
-    for (const auto nom : references)
-        ecrire(listes / nom, {});
-    ecrire(dossier / notes, {});
-    for (const auto* nom : {"images", "APP05.WAV"}) {
-        if (fs::exists(jeu / nom))
-            lier(jeu / nom, dossier / nom);
+    if (fs::exists(jeu / son))
+        toutes[son] = {{}, jeu / son};
+    if (fs::exists(jeu / "images")) {
+        for (const auto& image : fs::directory_iterator(jeu / "images"))
+            toutes["images/" + image.path().filename().string()] = {{}, image.path()};
+    }
+    return toutes;
+}
+
+void garnir(const fs::path& dossier, const fs::path& jeu) {
+    for (const auto& [nom, fourniture] : fournitures(jeu)) {
+        fs::create_directories((dossier / nom).parent_path());
+        fourniture.poser(dossier / nom);
     }
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
 
 namespace banc {
 
@@ -22,8 +25,21 @@ class Dossier {
     bool provisoire_ = false;
 };
 
-/// Puts into a folder what a scenario finds there: the program's pictures and sound, taken from
-/// `jeu`, empty reference lists and notes, and a list of one row for every file of the catalogue.
+/// A file that a scenario finds: these bytes, or those of a file that nothing writes to.
+struct Fourniture {
+    std::string_view octets;
+    std::filesystem::path source;
+
+    /// Writes it; a source is given a second name, and copied where that cannot be.
+    void poser(const std::filesystem::path& but) const;
+};
+
+/// What a scenario finds in its folder, by path with "/": the program's pictures and sound, taken
+/// from `jeu`, empty reference lists and notes, and a list of one row for every file of the
+/// catalogue.
+[[nodiscard]] std::map<std::string, Fourniture> fournitures(const std::filesystem::path& jeu);
+
+/// Puts all of it into a folder.
 void garnir(const std::filesystem::path& dossier, const std::filesystem::path& jeu);
 
 }  // namespace banc

@@ -54,12 +54,15 @@ QPoint placeduclic(const ui::Controle& controle, const QWidget& widget) {
     return widget.rect().center();
 }
 
-/// Picks an entry of a menu that is on screen.
+/// Picks an entry of a menu that is on screen. The mouse comes over it in several moves, as a hand
+/// does: Qt takes a click without them for the end of the one that opened the menu.
 void choisiraction(QMenu& menu, QAction* action) {
     if (action == nullptr || !action->isEnabled() || !action->isVisible())
         throw Refus("à l'écran, l'entrée n'est pas dans le menu, ou grisée");
     const auto place = menu.actionGeometry(action).center();
-    souris(menu, place, QEvent::MouseMove, Qt::NoButton);
+    constexpr int pas = 8;
+    for (int reste = pas; reste >= 0; --reste)
+        souris(menu, place - QPoint(reste, 0), QEvent::MouseMove, Qt::NoButton);
     clic(menu, place);
 }
 

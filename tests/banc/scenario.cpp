@@ -14,9 +14,13 @@ void jouer(std::istream& scenario, const std::string& nom, const Reglages& regla
         return;
     const auto dossier = reglages.dossier ? std::make_unique<Dossier>(*reglages.dossier)
                                           : std::make_unique<Dossier>();
-    if (!reglages.dossier)
-        garnir(dossier->chemin(), reglages.jeu);
     Seance seance(dossier->chemin(), reglages.programme, reglages.fabriquepilote);
+    if (!reglages.dossier) {
+        auto& disque = seance.plateforme.disque();
+        disque.reserver(fournitures(reglages.jeu));
+        if (reglages.pilote == Destination::Qt)  // the windows read pictures by their own means
+            static_cast<void>(disque.systeme("images"));
+    }
     bool bon = true;
     Ordre ordre;
     while (lecteur.suivant(ordre)) {

@@ -1,3 +1,6 @@
+#include <filesystem>
+#include <fstream>
+#include <memory>
 #include <sstream>
 #include <string>
 
@@ -274,6 +277,54 @@ TEST(DisqueSimule, compte_ce_qui_est_lu_et_ecrit) {
     EXPECT_FALSE(disque.ouvrir("f.txt", flux));
     EXPECT_EQ(disque.ecritures(), 2);
     EXPECT_EQ(disque.lectures(), 1);
+}
+
+class Reserve : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::ofstream(source, std::ios::binary) << "image";
+        disque.reserver({{"listes/a.txt", {"AB;BA\r\n", {}}},
+                         {"listes/b.txt", {"", {}}},
+                         {"listes-c.txt", {"", {}}},
+                         {"images/1.png", {{}, source}}});
+    }
+    [[nodiscard]] bool ecrit(const char* nom) const {
+        return std::filesystem::exists(dossier.chemin() / nom);
+    }
+
+    banc::Dossier dossier;
+    std::filesystem::path source = dossier.chemin() / "source.png";
+    banc::DisqueSimule disque{dossier.chemin()};
+};
+
+TEST_F(Reserve, un_fichier_est_ecrit_quand_on_le_demande) {
+    EXPECT_FALSE(ecrit("listes/a.txt"));
+    std::unique_ptr<common::Flux> flux;
+    EXPECT_FALSE(disque.ouvrir("listes\\a.txt", flux));
+    EXPECT_TRUE(ecrit("listes/a.txt"));
+    EXPECT_FALSE(ecrit("listes/b.txt"));
+}
+
+TEST_F(Reserve, ce_qui_est_ajoute_suit_ce_qui_y_etait) {
+    ASSERT_FALSE(disque.ajouter("listes\\a.txt", "CD;DC\r\n"));
+    EXPECT_EQ(std::filesystem::file_size(dossier.chemin() / "listes/a.txt"), 14U);
+}
+
+TEST_F(Reserve, un_fichier_supprime_ne_revient_pas) {
+    ASSERT_FALSE(disque.supprimer("listes\\b.txt"));
+    EXPECT_FALSE(disque.existe("listes\\b.txt"));
+}
+
+TEST_F(Reserve, un_dossier_amene_ses_fichiers) {
+    ASSERT_FALSE(disque.renommer("listes", "autres"));
+    EXPECT_TRUE(ecrit("autres/a.txt"));
+    EXPECT_TRUE(ecrit("autres/b.txt"));
+    EXPECT_FALSE(ecrit("listes-c.txt"));
+}
+
+TEST_F(Reserve, un_fichier_pris_ailleurs_a_ses_octets) {
+    EXPECT_TRUE(disque.existe("images\\1.png"));
+    EXPECT_EQ(std::filesystem::file_size(dossier.chemin() / "images/1.png"), 5U);
 }
 
 TEST(Lecteur, lit_une_ligne_a_la_fois) {

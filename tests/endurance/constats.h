@@ -23,9 +23,10 @@ class Constats {
 
   private:
     static std::string texte(const std::string& valeur) { return valeur; }
-    template <class Nombre>
-    requires std::is_arithmetic_v<Nombre>
-    static std::string texte(Nombre valeur) { return std::to_string(valeur); }
+    template <class Nombre, class = std::enable_if_t<std::is_arithmetic_v<Nombre>>>
+    static std::string texte(Nombre valeur) {
+        return std::to_string(valeur);
+    }
     static std::string texte(const std::vector<std::string>& lignes) {
         std::string somme;
         for (const auto& ligne : lignes)
