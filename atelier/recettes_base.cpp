@@ -45,7 +45,7 @@ Contenu chere6(const Matiere& m, std::size_t total) {
 }
 
 /// Racks without a dear letter; wanted are the words that are not conjugated, or all if all are.
-Contenu courts34(const Matiere& m, std::size_t taille) {
+Selection courts34(const Matiere& m, std::size_t taille) {
     Selection mots;
     for (const auto& tirage : m.mots.tirages(taille, taille)) {
         auto souhaites = choisir(m.mots, tirage, nonconjugue);
@@ -55,7 +55,18 @@ Contenu courts34(const Matiere& m, std::size_t taille) {
             continue;
         demander(mots, souhaites);
     }
+    std::sort(mots.begin(), mots.end());
+    return mots;
+}
+
+Contenu courts3(const Matiere& m) {
+    const auto mots = courts34(m, 3);
     return indiques(m.mots, mots, mots);
+}
+
+Contenu courts4(const Matiere& m, std::size_t total) {
+    const auto mots = courts34(m, 4);
+    return indiques(m.mots, couper(m.mots, mots, total, frequence), mots);
 }
 
 /// Racks of at most three words without a dear letter; wanted are the words of the best rank.
@@ -114,7 +125,7 @@ void recettesdebase(std::vector<Recettes>& toutes) {
              {"Tous les mots de 3 lettres qui ont une lettre chère (J K Q W X Y Z).", chere3},
              {"Les mots de 3 lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas "
               "de tirage à plus de 3 mots voulus.",
-              [](const Matiere& m) { return courts34(m, 3); }},
+              courts3},
              {"Les infinitifs de 4 et 5 lettres, sans les défectifs ni les plus courants.",
               verbes45},
              {"Les infinitifs de 6 lettres, sans les plus courants : 779 au plus.",
@@ -140,8 +151,8 @@ void recettesdebase(std::vector<Recettes>& toutes) {
               "plus.",
               [](const Matiere& m) { return verbesreguliers(m, 9, 1300); }},
              {"Les mots de 4 lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas "
-              "de tirage à plus de 3 mots voulus.",
-              [](const Matiere& m) { return courts34(m, 4); }},
+              "de tirage à plus de 3 mots voulus ; sans les plus courants : 1568 au plus.",
+              [](const Matiere& m) { return courts4(m, 1568); }},
              {"Les mots de 5 lettres sans lettre chère, tirages à 3 mots au plus ; un nom plutôt "
               "qu'un pluriel ou une conjugaison : 3676 au plus.",
               [](const Matiere& m) { return courts5(m, 3676); }},
