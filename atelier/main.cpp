@@ -56,7 +56,7 @@ struct Sources {
           vocabulaire(
               lirelexique(lire(options.lexique, "Lecture du lexique"), options.lexique,
                           Affixes(lire(options.affixes, "Lecture des affixes"), options.affixes),
-                          thesaurus),
+                          thesaurus, options.ajouts ? retouches() : retouchessansajouts()),
               options.mots ? std::optional(mots(*options.mots)) : std::nullopt),
           difficulte(vocabulaire) {
         for (std::size_t i = 0; i < editions.size(); ++i) {

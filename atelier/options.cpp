@@ -77,6 +77,8 @@ class Lecteur {
             options_.affixes = valeur(nom);
         else if (nom == "--thesaurus")
             options_.thesaurus = valeur(nom);
+        else if (nom == "--sans-ajouts")
+            options_.ajouts = false;
         else if (nom == "--mots")
             options_.mots = valeur(nom);
         else if (nom == "--nouveautes")
@@ -129,6 +131,7 @@ std::string aide() {
            "\n"
            "  --thesaurus DAT      thésaurus (mythes) ; par défaut " ORVANE_THESAURUS
            "\n"
+           "  --sans-ajouts        n'ajoute rien au lexique\n"
            "  --mots FICHIER       ne garde que les mots de ce fichier, un par ligne\n"
            "  --nouveautes ANNEE=ANCIENNE,NOUVELLE\n"
            "                       mots entrés en 2008, 2012 ou 2016, d'après deux éditions\n"

@@ -27,6 +27,7 @@ struct Options {
     std::string lexique;
     std::string affixes;
     std::string thesaurus;
+    bool ajouts = true;               ///< the lexicon gets the words that it lacks
     std::optional<std::string> mots;  ///< a player's own dictionary
     std::array<std::optional<Comparaison>, editions.size()> comparaisons;
 };

@@ -62,7 +62,8 @@ void lirelesmots(benchmark::State& etat) {
     const Thesaurus synonymes(thesaurus(), ORVANE_THESAURUS);
     std::size_t mots = 0;
     for ([[maybe_unused]] const auto tour : etat) {
-        const Vocabulaire v(lirelexique(texte, "lexique", regles, synonymes), std::nullopt);
+        const Vocabulaire v(lirelexique(texte, "lexique", regles, synonymes, retouches()),
+                            std::nullopt);
         mots = v.mots().size();
     }
     etat.counters["mots"] = static_cast<double>(mots);
@@ -78,7 +79,8 @@ void fabriquertout(benchmark::State& etat) {
     for ([[maybe_unused]] const auto tour : etat) {
         const Thesaurus synonymes(thesaurus(), ORVANE_THESAURUS);
         const Affixes regles(affixes(), ORVANE_AFFIXES);
-        const Vocabulaire v(lirelexique(texte, "lexique", regles, synonymes), std::nullopt);
+        const Vocabulaire v(lirelexique(texte, "lexique", regles, synonymes, retouches()),
+                            std::nullopt);
         const Difficulte difficulte(v);
         const Nouveautes nouveautes;
         benchmark::DoNotOptimize(

@@ -12,8 +12,8 @@ This Source Code Form is subject to the terms of the Mozilla Public License, v. 
 MPL was not distributed with this file, You can obtain one at http://mozilla.org/MPL/2.0/.
 
 Source : https://grammalecte.net/, et le paquet source hunspell-fr de Debian (apt-get source
-hunspell-fr). Les règles qui choisissent les mots sont dans le dossier « atelier » des sources
-d'Orvane, dont le programme orvane-listes refait les listes.
+hunspell-fr). Les mots ajoutés ou ôtés à la main et les règles des listes sont dans le dossier
+« atelier » des sources d'Orvane, dont le programme orvane-listes refait les listes.
 )";
 
 constexpr std::string_view desnotes =

@@ -45,7 +45,7 @@ Contenu chere6(const Matiere& m, std::size_t total) {
 }
 
 /// Racks without a dear letter; wanted are the words that are not conjugated, or all if all are.
-Contenu courts34(const Matiere& m, std::size_t taille) {
+Selection courts34(const Matiere& m, std::size_t taille) {
     Selection mots;
     for (const auto& tirage : m.mots.tirages(taille, taille)) {
         auto souhaites = choisir(m.mots, tirage, nonconjugue);
@@ -55,7 +55,18 @@ Contenu courts34(const Matiere& m, std::size_t taille) {
             continue;
         demander(mots, souhaites);
     }
+    std::sort(mots.begin(), mots.end());
+    return mots;
+}
+
+Contenu courts3(const Matiere& m) {
+    const auto mots = courts34(m, 3);
     return indiques(m.mots, mots, mots);
+}
+
+Contenu courts4(const Matiere& m, std::size_t total) {
+    const auto mots = courts34(m, 4);
+    return indiques(m.mots, couper(m.mots, mots, total, frequence), mots);
 }
 
 /// Racks of at most three words without a dear letter; wanted are the words of the best rank.
@@ -112,13 +123,11 @@ Recette recettecoupee(std::string_view fichier, const std::string& description, 
             [=](const Matiere& m) { return faire(m, total); }};
 }
 
-Recette recettecourte(std::string_view fichier, std::size_t taille) {
-    return {std::string(fichier),
-            "Les mots de " + std::to_string(taille) +
-                " lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas de tirage à "
-                "plus de " +
-                std::to_string(souhaitesmax) + " mots voulus.",
-            [taille](const Matiere& m) { return courts34(m, taille); }};
+std::string descriptioncourte(std::size_t taille) {
+    return "Les mots de " + std::to_string(taille) +
+           " lettres sans lettre chère ; un nom plutôt qu'une conjugaison, et pas de tirage à plus "
+           "de " +
+           std::to_string(souhaitesmax) + " mots voulus";
 }
 
 Recette recettechere(std::string_view fichier, std::size_t taille) {
@@ -142,7 +151,7 @@ Recette recettereguliere(std::string_view fichier, std::size_t taille, std::size
 std::vector<Recette> recettesdebase() {
     return {
         {"3lc.txt", "Tous les mots de 3 lettres qui ont une lettre chère (J K Q W X Y Z).", chere3},
-        recettecourte("3lt.txt", 3),
+        {"3lt.txt", descriptioncourte(3) + ".", courts3},
         {"vb45.txt", "Les infinitifs de 4 et 5 lettres, sans les défectifs ni les plus courants.",
          verbes45},
         recettecoupee("vb6.txt", "Les infinitifs de 6 lettres, sans les plus courants", 779,
@@ -156,7 +165,7 @@ std::vector<Recette> recettesdebase() {
         recettereguliere("vb7.txt", 7, 1215),
         recettereguliere("vb8.txt", 8, 1467),
         recettereguliere("vb9.txt", 9, 1300),
-        recettecourte("4lt.txt", 4),
+        recettecoupee("4lt.txt", descriptioncourte(4) + " ; sans les plus courants", 1568, courts4),
         recettecoupee("5lt.txt",
                       "Les mots de 5 lettres sans lettre chère, tirages à " +
                           std::to_string(anagrammesmax5) +

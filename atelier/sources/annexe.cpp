@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "exclus.h"
-#include "lignestexte.h"
-
 namespace atelier {
 namespace {
 
@@ -14,23 +11,6 @@ constexpr std::string_view locutions =
     "CONTREBORD CONTREHAUT CONTREPOIL CONTREVOIE CROUPETONS DEMEURANT DEMI EMBLEE ENVI EX "
     "FACE FLORES GRACE INSTAR JEUN LORS PARCE PERPETE PERPETTE POURVU QUANT RECULONS SANS SUS "
     "TANDIS TANT TAPINOIS TATONS TEMPERA TIRELARIGOT TRAVIOLE ";
-
-constexpr std::string_view ecartes =
-    "AB ABRUPTO ABSTRACTO ABSURDO AC AD AEQUO AETERNAM AL ALTER ANNUA ANNUUS ARCCOSH ARCCOTAN "
-    "ARCCOTANH ARCSIN ARCSINH ARCTAN ARCTANH AV AVR BENE BIBL BIBLIOGR BIG BRRR CAETERA "
-    "CAPELLA CAPPELLA CATHEDRA CAUSA CETERA CF CHAP CIRC CIT CLAUSUS COETERA COLL COMMODO "
-    "COMMUNIS CONF CONFER CONTRARIO CONTREFA COSH COTAN COTANH CUJUS DEC DEI DEXTRORSUM DIE "
-    "DIV DONA DPI ECCE ECSTAS ED EDD ENV ETC ETYM EXTENSO EXTREMIS FACTO FAM FENG FEVR FIG "
-    "FORTIORI FRANCA FRENCH FRUTTI GENERIS GIORNO GOOD GROSSO GRRR HAB HIGH HMM HOC HOMINEM "
-    "HONORIS HPZ IBID IBN ID INCH INCOGNITA INCOMMODO INFINITUM INITIO INTUITU IPSO IRATO "
-    "JANV JUIL JUSQU KPC KSS LANLAIRE LATERE LIBITUM LINGUA LINI LITT LN LORSQU LOW MACOS "
-    "MADE MANU MEL MILITARI MIRABILIS MMM MODO MORTEM MUTANDIS MUTATIS NAPUS NAUSEAM NEC NEW "
-    "NIHILO NOV NUNC OCT OECONOMICUS OP OPENBSD OPERANDI ORBI OVO PANTOCRATOR PATRES PERENNE "
-    "PERSONA PERSONAE PETTO PFF PFFT POPULI POST POSTERIORI PRESQU PRIORI PROFESSO PROFUNDIS "
-    "PSITT PST PT PUISQU QU QUA QUANTI QUELQU QUIA QUO QUOIQU REF REL RETRO RISORIUS RISTOR "
-    "SAPIENS SATIVUM SB SENESTRORSUM SENIORITA SENOR SENORA SENORITA SENSU SHUI SIN SINE SINH "
-    "SITU SMALL STATU STRICTO SUI SUPPL TANH TEL THALIANA TNT TRAD TUMEFACIENS URBI UTERI "
-    "UTERO VADE VALOREM VISU VITAE VITAM VITRO VIVENDI VIVO VOL VS ";
 
 constexpr std::string_view frequents =
     "ETRE AVOIR FAIRE DIRE ALLER VOIR VENIR TENIR LIRE RIRE BOIRE AIMER JOUER PAYER POSER "
@@ -75,23 +55,7 @@ Ensemble ensemble(std::string_view texte) {
     return mots;
 }
 
-Ensemble lignesde(std::string_view texte) {
-    Ensemble mots;
-    LignesTexte lignes(texte);
-    std::string_view ligne;
-    while (lignes.suivante(ligne)) {
-        if (!ligne.empty() && ligne.front() != '#')
-            mots.insert(ligne);
-    }
-    return mots;
-}
-
 }  // namespace
-
-bool ecarte(std::string_view capitales) {
-    static const auto mots = ensemble(ecartes);
-    return mots.contains(capitales);
-}
 
 bool admisenlocution(std::string_view capitales) {
     static const auto mots = ensemble(locutions);
@@ -101,11 +65,6 @@ bool admisenlocution(std::string_view capitales) {
 bool verbefrequent(std::string_view capitales) {
     static const auto mots = ensemble(frequents);
     return mots.contains(capitales);
-}
-
-bool exclu(std::string_view lemme) {
-    static const auto mots = lignesde(texteexclus);
-    return mots.contains(lemme);
 }
 
 std::span<const std::string_view> terminaisonser() {

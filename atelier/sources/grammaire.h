@@ -41,6 +41,9 @@ enum Personne : std::uint8_t {
 enum class Genre : std::uint8_t { aucun, masculin, feminin, epicene };
 enum class Nombre : std::uint8_t { aucun, singulier, pluriel, invariable };
 
+/// What a word is.
+enum class Nature : std::uint8_t { nom, adjectif, verbe, autre };
+
 /// The traits of a form, of a suffix rule or of an entry.
 struct Traits {
     std::uint16_t temps = sanstemps;

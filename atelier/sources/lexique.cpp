@@ -73,8 +73,12 @@ struct Entree {
 class LecteurLexique {
   public:
     LecteurLexique(std::string_view texte, std::string_view chemin, const Affixes& affixes,
-                   const Thesaurus& thesaurus)
-        : lignes_(texte), chemin_(chemin), affixes_(affixes), thesaurus_(thesaurus) {}
+                   const Thesaurus& thesaurus, const Retouches& retouches)
+        : lignes_(texte),
+          chemin_(chemin),
+          affixes_(affixes),
+          thesaurus_(thesaurus),
+          retouches_(retouches) {}
 
     Lexique lire() {
         const auto annoncees = lireentete();
@@ -85,14 +89,17 @@ class LecteurLexique {
         for (; lignes_.suivante(ligne); ++lues) {
             if (ligne.empty())
                 continue;
-            if (const auto entree = lireentree(ligne))
+            if (const auto entree = lireentree(ligne)) {
                 expanser(*entree);
+                retenirmodele(*entree);
+            }
         }
         if (lues + annoncees / tolerance < annoncees)
             faute("le fichier est coupé : il annonce " + std::to_string(annoncees) +
                   " entrées et en a " + std::to_string(lues));
         if (lexique_.formes.empty())
             faute("aucun mot jouable");
+        completer();
         return std::move(lexique_);
     }
 
@@ -133,7 +140,7 @@ class LecteurLexique {
             barre == std::string_view::npos ? std::string_view() : tete.substr(barre + 1);
         if (!liredrapeaux(drapeaux, entree) || !lirechamps(mots, entree))
             return std::nullopt;
-        if (ecarte(entree.capitales))
+        if (retouches_.ecarte(entree.mot, entree.nature))
             return std::nullopt;
         if (entree.infinitifseul && thesaurus_.frequence(entree.mot) == 0)
             return std::nullopt;
@@ -205,7 +212,7 @@ class LecteurLexique {
             cree.texte = texte;
             cree.capitales = capitales;
             cree.frequence = thesaurus_.frequence(texte);
-            cree.injurieux = exclu(texte);
+            cree.injurieux = retouches_.injurieux(texte);
         }
         return place->second;
     }
@@ -229,6 +236,43 @@ class LecteurLexique {
                 ajouter(entree, numero, forme, regle.traits.completes(entree.traits));
             }
         }
+    }
+
+    void retenirmodele(const Entree& entree) {
+        if (entree.nature == Nature::verbe && retouches_.modele(entree.mot))
+            modeles_.try_emplace(std::string(entree.mot), entree);
+    }
+
+    /// Adds the words that the source lacks.
+    void completer() {
+        for (const auto& ajout : retouches_.ajouts()) {
+            if (ajout.modele.empty())
+                ajoutermot(ajout);
+            else
+                conjuguer(ajout);
+        }
+    }
+
+    void ajoutermot(const Ajout& ajout) {
+        Entree entree;
+        entree.nature = ajout.nature;
+        const auto numero = lemme(ajout.mot, *encapitales(ajout.mot));
+        for (const auto& forme : ajout.formes) {
+            Traits traits;
+            traits.nombre = forme.nombre;
+            ajouter(entree, numero, forme.capitales, traits);
+        }
+    }
+
+    void conjuguer(const Ajout& ajout) {
+        const auto modele = modeles_.find(ajout.modele);
+        if (modele == modeles_.end())
+            return;
+        auto entree = modele->second;
+        entree.mot = ajout.mot;
+        entree.points = *points(ajout.mot);
+        entree.capitales = *encapitales(ajout.mot);
+        expanser(entree);
     }
 
     /// A unit of measure and its multiples, which the source makes by prefixes.
@@ -259,8 +303,10 @@ class LecteurLexique {
         // Persons that stand only before their pronoun make no word.
         if (traits.personnes == inversee && (traits.temps & (infinitif | participepasse)) == 0)
             return;
-        ++lexique_.expansees;
         auto& lemme = lexique_.lemmes[numero];
+        if (retouches_.refuse(lemme.texte, forme))
+            return;
+        ++lexique_.expansees;
         if (entree.nature == Nature::verbe) {
             lemme.cases |= cases(traits);
             const bool passe = (traits.temps & participepasse) != 0;
@@ -277,7 +323,9 @@ class LecteurLexique {
     std::string chemin_;
     const Affixes& affixes_;
     const Thesaurus& thesaurus_;
+    const Retouches& retouches_;
     Lexique lexique_;
+    std::unordered_map<std::string, Entree> modeles_;
     std::unordered_map<std::string, std::uint32_t> numeros_;
 };
 
@@ -292,8 +340,8 @@ bool Lemme::defectif() const {
 }
 
 Lexique lirelexique(std::string_view texte, std::string_view chemin, const Affixes& affixes,
-                    const Thesaurus& thesaurus) {
-    return LecteurLexique(texte, chemin, affixes, thesaurus).lire();
+                    const Thesaurus& thesaurus, const Retouches& retouches) {
+    return LecteurLexique(texte, chemin, affixes, thesaurus, retouches).lire();
 }
 
 }  // namespace atelier

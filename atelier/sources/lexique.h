@@ -10,11 +10,10 @@
 #include "affixes.h"
 #include "capitales.h"
 #include "grammaire.h"
+#include "retouches.h"
 #include "thesaurus.h"
 
 namespace atelier {
-
-enum class Nature : std::uint8_t { nom, adjectif, verbe, autre };
 
 /// A word as the head of its forms.
 struct Lemme {
@@ -66,9 +65,12 @@ struct Lexique {
     std::size_t expansees = 0;  ///< forms made from the entries kept, of any length
 };
 
-/// Expands the text of a dictionary (format: hunspell) by its affixes. `chemin` names it in
-/// reports. Throws `common::Faute`, with the line, for a text that is no dictionary or that is cut.
+/// Expands the text of a dictionary (format: hunspell) by its affixes, changed by hand as
+/// `retouches` says. A verb added whose model the dictionary lacks is left out. `chemin` names the
+/// text in reports. Throws `common::Faute`, with the line, for a text that is no dictionary or that
+/// is cut.
 [[nodiscard]] Lexique lirelexique(std::string_view texte, std::string_view chemin,
-                                  const Affixes& affixes, const Thesaurus& thesaurus);
+                                  const Affixes& affixes, const Thesaurus& thesaurus,
+                                  const Retouches& retouches);
 
 }  // namespace atelier

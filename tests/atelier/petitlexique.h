@@ -81,10 +81,11 @@ inline std::string dictionnaire(const std::string& lignes) {
     return std::to_string(std::count(lignes.begin(), lignes.end(), '\n')) + '\n' + lignes;
 }
 
-inline atelier::Lexique lexique(const std::string& lignes,
-                                const atelier::Thesaurus& thesaurus = atelier::Thesaurus()) {
+inline atelier::Lexique lexique(
+    const std::string& lignes, const atelier::Thesaurus& thesaurus = atelier::Thesaurus(),
+    const atelier::Retouches& retouches = atelier::retouchessansajouts()) {
     return atelier::lirelexique(dictionnaire(lignes), "petit.dic",
-                                atelier::Affixes(affixes, "petit.aff"), thesaurus);
+                                atelier::Affixes(affixes, "petit.aff"), thesaurus, retouches);
 }
 
 inline atelier::Vocabulaire vocabulaire(

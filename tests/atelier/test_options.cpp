@@ -13,9 +13,10 @@ using testing::HasSubstr;
 using Arguments = std::vector<std::string>;
 
 TEST(Options, fabriquer_avec_tout) {
-    const Arguments arguments{"--sortie",  "dossier été", "--lexique",    "d.dic",
-                              "--affixes", "a.aff",       "--thesaurus",  "t.dat",
-                              "--mots",    "m.txt",       "--nouveautes", "2012=a.txt,b.txt"};
+    const Arguments arguments{"--sortie",     "dossier été", "--lexique",    "d.dic",
+                              "--affixes",    "a.aff",       "--thesaurus",  "t.dat",
+                              "--mots",       "m.txt",       "--nouveautes", "2012=a.txt,b.txt",
+                              "--sans-ajouts"};
     const auto lues = lireoptions(arguments);
     EXPECT_EQ(lues.commande, Commande::fabriquer);
     EXPECT_EQ(lues.cible, "dossier été");
@@ -23,6 +24,7 @@ TEST(Options, fabriquer_avec_tout) {
     EXPECT_EQ(lues.affixes, "a.aff");
     EXPECT_EQ(lues.thesaurus, "t.dat");
     EXPECT_EQ(lues.mots, "m.txt");
+    EXPECT_FALSE(lues.ajouts);
     EXPECT_FALSE(lues.comparaisons[0].has_value());
     ASSERT_TRUE(lues.comparaisons[1].has_value());
     EXPECT_EQ(lues.comparaisons[1]->ancienne, "a.txt");

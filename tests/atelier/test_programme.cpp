@@ -62,10 +62,11 @@ class Programme : public testing::Test {
     /// The arguments of a run on the small lexicon.
     [[nodiscard]] std::vector<std::string> petit(const std::string& cible) const {
         const std::string petit = ORVANE_PETIT;
-        return {"--sortie",    cible,
-                "--lexique",   petit + "/petit.dic",
-                "--affixes",   petit + "/petit.aff",
-                "--thesaurus", petit + "/petit.dat"};
+        return {"--sortie",     cible,
+                "--lexique",    petit + "/petit.dic",
+                "--affixes",    petit + "/petit.aff",
+                "--thesaurus",  petit + "/petit.dat",
+                "--sans-ajouts"};
     }
     [[nodiscard]] std::string cible() const { return (dossier.chemin() / "jeu été").string(); }
     [[nodiscard]] std::string lu(const std::string& nom) const {

@@ -36,11 +36,11 @@ void verifierlexique(const atelier::Lexique& lexique) {
 
 void affixes(Essai& essai) {
     const atelier::Affixes lus(essai.octets, nom);
-    verifierlexique(atelier::lirelexique(fuzz::corpus("petit.dic"), nom, lus, {}));
+    verifierlexique(atelier::lirelexique(fuzz::corpus("petit.dic"), nom, lus, {}, {}));
 }
 
 void lexique(Essai& essai) {
-    verifierlexique(atelier::lirelexique(essai.octets, nom, affixessains(), {}));
+    verifierlexique(atelier::lirelexique(essai.octets, nom, affixessains(), {}, {}));
 }
 
 void thesaurus(Essai& essai) {

@@ -175,7 +175,8 @@ class LexiqueCasse : public testing::TestWithParam<Casse> {};
 TEST_P(LexiqueCasse, est_une_faute_avec_fichier_et_ligne) {
     try {
         std::ignore = atelier::lirelexique(GetParam().texte, "d.dic",
-                                           atelier::Affixes(essais::affixes, "a.aff"), {});
+                                           atelier::Affixes(essais::affixes, "a.aff"), {},
+                                           atelier::retouches());
         FAIL() << "pas de faute";
     } catch (const common::Faute& faute) {
         EXPECT_THAT(faute.what(),
