@@ -13,7 +13,7 @@ constexpr std::string_view fichierversion = "version_en_ligne.txt";
 constexpr std::string_view fichierlien = "downloadlink.txt";
 constexpr std::string_view fichierinstalleur = "orvane_setup.exe";
 
-constexpr std::int64_t tailledeligne = 64 * 1024;        // bytes of the version file, of the link
+constexpr std::int64_t tailledeligne = 1 << 16;          // bytes of the version file, of the link
 constexpr std::int64_t tailleinstalleur = 512LL << 20U;  // bytes
 
 using Ligne = std::optional<std::string>;

@@ -1,17 +1,14 @@
-// The network module: the only user of Qt Network.
+#include "module_reseau.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QObject>
-
-#include "reseau.h"
 
 namespace ui::qt {
 namespace {
 
 constexpr int statutservi = 200;     // of http
-constexpr qint64 bloc = 64 * 1024;   // bytes handed over at once
+constexpr qint64 bloc = 1 << 16;     // bytes handed over at once
 constexpr qint64 avance = 4 * bloc;  // bytes that may wait to be handed over
 
 QNetworkRequest requete(const Demande& demande) {
@@ -77,17 +74,8 @@ class TransfertQt : public Transfert {
 
 }  // namespace
 
-class ModuleReseau : public QObject, public Reseau {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID "orvane.Reseau/1")
-    Q_INTERFACES(ui::qt::Reseau)
-
-  public:
-    std::unique_ptr<Transfert> demander(const Demande& demande) override {
-        return std::make_unique<TransfertQt>(demande);
-    }
-};
+std::unique_ptr<Transfert> ModuleReseau::demander(const Demande& demande) {
+    return std::make_unique<TransfertQt>(demande);
+}
 
 }  // namespace ui::qt
-
-#include "module_reseau.moc"

@@ -1,13 +1,10 @@
-// The sound module: the only user of Qt Multimedia.
+#include "module_son.h"
 
 #include <QAudioDevice>
 #include <QAudioSink>
 #include <QBuffer>
 #include <QMediaDevices>
-#include <QObject>
 #include <QTimer>
-
-#include "son.h"
 
 namespace ui::qt {
 namespace {
@@ -24,7 +21,7 @@ QAudioFormat format(const Onde& onde) {
 
 class LectureQt : public Lecture {
   public:
-    LectureQt(const QAudioDevice& appareil, const Onde& onde, std::function<void()> finir)
+    LectureQt(const QAudioDevice& appareil, const Onde& onde, const std::function<void()>& finir)
         : sortie_(appareil, format(onde)) {
         source_.setData(onde.echantillons);
         source_.open(QIODevice::ReadOnly);
@@ -53,20 +50,11 @@ class LectureQt : public Lecture {
 
 }  // namespace
 
-class ModuleSon : public QObject, public Son {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID "orvane.Son/1")
-    Q_INTERFACES(ui::qt::Son)
-
-  public:
-    std::unique_ptr<Lecture> jouer(const Onde& onde, std::function<void()> finir) override {
-        const auto appareil = QMediaDevices::defaultAudioOutput();
-        if (appareil.isNull() || !appareil.isFormatSupported(format(onde)))
-            return nullptr;
-        return std::make_unique<LectureQt>(appareil, onde, std::move(finir));
-    }
-};
+std::unique_ptr<Lecture> ModuleSon::jouer(const Onde& onde, const std::function<void()>& finir) {
+    const auto appareil = QMediaDevices::defaultAudioOutput();
+    if (appareil.isNull() || !appareil.isFormatSupported(format(onde)))
+        return nullptr;
+    return std::make_unique<LectureQt>(appareil, onde, finir);
+}
 
 }  // namespace ui::qt
-
-#include "module_son.moc"

@@ -28,7 +28,7 @@ class Son {
     /// Starts a sound; `finir` is called when it is over, or when the device has given up. Null if
     /// the machine cannot play it.
     [[nodiscard]] virtual std::unique_ptr<Lecture> jouer(const Onde& onde,
-                                                         std::function<void()> finir) = 0;
+                                                         const std::function<void()>& finir) = 0;
 };
 
 }  // namespace ui::qt

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+
+#include "reseau.h"
+
+namespace ui::qt {
+
+/// The network module: the only user of Qt Network.
+class ModuleReseau : public QObject, public Reseau {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "orvane.Reseau/1")
+    Q_INTERFACES(ui::qt::Reseau)
+
+  public:
+    [[nodiscard]] std::unique_ptr<Transfert> demander(const Demande& demande) override;
+};
+
+}  // namespace ui::qt
