@@ -36,7 +36,8 @@ Controle& Formulaire::poser(Genre genre, std::string_view nomducontrole, int ind
 }
 
 Minuterie& Formulaire::ajouterminuterie(std::string_view nomdelaminuterie) {
-    return *minuteries_.emplace_back(std::make_unique<Minuterie>(std::string(nomdelaminuterie)));
+    return *minuteries_.emplace_back(
+        std::make_unique<Minuterie>(*this, std::string(nomdelaminuterie)));
 }
 
 Menu& Formulaire::ajoutermenu(std::string_view nomdumenu) {
@@ -77,10 +78,10 @@ void Formulaire::perdrefocus(Controle& controle) {
 void Formulaire::prendrefocus(Controle* controle) {
     auto* ancien = std::exchange(focus_, controle);
     if (ancien != nullptr)
-        declencher(ancien->sortie);
+        survenir(*ancien, ancien->sortie);
     modifie(ChampFormulaire::Focus);
     if (controle != nullptr && focus_ == controle)
-        declencher(controle->entree);
+        survenir(*controle, controle->entree);
 }
 
 void Formulaire::ouvrirmenu(Menu& menu) {
@@ -103,28 +104,28 @@ void Formulaire::cliquer(Controle& controle) {
         const auto bout = std::string::npos;
         controle.selectionner(bout, bout);
     }
-    declencher(controle.clic);
+    survenir(controle, controle.clic);
 }
 
 void Formulaire::doublecliquer(Controle& controle) {
     if (!accessible(controle))
         return;
     focaliser(controle);
-    declencher(controle.doubleclic);
+    survenir(controle, controle.doubleclic);
 }
 
 void Formulaire::choisir(Controle& liste, std::string_view entree) {
     liste.texte = std::string(entree);
     const auto bout = std::string::npos;
     liste.selectionner(bout, bout);
-    declencher(liste.clic);
+    survenir(liste, liste.clic);
 }
 
 void Formulaire::choisirentree(Controle& entree) {
     if (menuouvert_ == nullptr || !accessible(entree))
         return;
     fermermenu();
-    declencher(entree.clic);
+    survenir(entree, entree.clic);
 }
 
 void Formulaire::fermermenu() {
@@ -136,7 +137,7 @@ void Formulaire::fermermenu() {
 
 void Formulaire::fermer() {
     if (fermeture)
-        fermeture();
+        survenir(*this, fermeture);
     else
         visible = false;
 }
