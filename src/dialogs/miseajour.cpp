@@ -37,14 +37,14 @@ void MiseAJour::verifier() {
     const auto publiee = premiereligne(common::lirefichier(plateforme_.disque(), chemin,
                                                            "Vérification de la mise à jour"))
                              .value_or("");
-    if (memeversion(voisins_.form3.versionlocale, publiee))
+    if (memeversion(form3_.versionlocale, publiee))
         plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
     else if (proposer(publiee))
         telecharger();
 }
 
 bool MiseAJour::proposer(std::string_view publiee) {
-    return plateforme_.question("Votre version actuelle est " + voisins_.form3.versionlocale +
+    return plateforme_.question("Votre version actuelle est " + form3_.versionlocale +
                                 "\nLa mise à jour " + std::string(publiee) +
                                 " est disponible. Voulez-vous la télécharger ?");
 }
@@ -55,8 +55,8 @@ void MiseAJour::telecharger() {
     plateforme_.message(
         "Le programme va télécharger la nouvelle version, cela peut prendre quelques secondes.",
         ui::Icone::Information);
-    voisins_.menu.patienter(true);
-    voisins_.menu.aide("Téléchargement en cours");
+    menu_.patienter(true);
+    menu_.aide("Téléchargement en cours");
     plateforme_.laissercourir();
     if (!plateforme_.telecharger(publication_.lien, fichierlien)) {
         ouvrirpage(
@@ -69,7 +69,7 @@ void MiseAJour::telecharger() {
     if (!lien)
         return;
     const bool complet = plateforme_.telecharger(*lien, fichierinstalleur);
-    voisins_.menu.patienter(false);
+    menu_.patienter(false);
     if (complet)
         installer();
     else

@@ -18,7 +18,7 @@ constexpr std::string_view utilisateurdesecours = "Ferdo";
 
 }  // namespace
 
-Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
+Form3::Form3(ui::Plateforme& plateforme, const Voisins& voisins)
     : Formulaire(plateforme, "Form3"),
       voisins_(voisins),
       acces_(poseracces()),
@@ -91,8 +91,8 @@ bool Form3::Verification(std::string_view chemin) {
     return plateforme().disque().existe(chemin);
 }
 
-void Form3::donnerfond(std::uint32_t rvb) {
-    fond = ui::Couleur(rvb);
+void Form3::donnerfond(ui::Couleur couleur) {
+    fond = couleur;
     app_.fond = fond();
 }
 

@@ -166,7 +166,7 @@ Form3::Controles Form3::poserimages() {
 void Form3::dresser() {
     largeur = largeurdessin;
     hauteur = hauteurdessin;
-    donnerfond(profiles::couleurdufond(profiles::couleurpardefaut).rvb());
+    donnerfond(profiles::couleurdufond(profiles::couleurpardefaut));
     auto& titre = poser(Genre::Etiquette, "Label10", -1, "Entraînement", {150, 60, 9000, 510});
     titre.taille = 18;
     titre.gras = true;
