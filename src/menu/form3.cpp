@@ -5,14 +5,13 @@
 #include "hist.h"
 #include "historique.h"
 #include "settings.h"
+#include "version.h"
 
 namespace menu {
 namespace {
 
 using ui::Genre;
 
-constexpr std::string_view version = "2.68";
-constexpr std::string_view datedeversion = "24/08/2019";
 /// Who the menu runs for when no name was chosen at login.
 constexpr std::string_view utilisateurdesecours = "Ferdo";
 
@@ -47,8 +46,8 @@ Form3::Form3(ui::Plateforme& plateforme, const Voisins& voisins)
 
 void Form3::charger() {
     auto& variables = voisins_.form3;
-    variables.versionlocale = version;
-    variables.dateversion = datedeversion;
+    variables.versionlocale = version::numero;
+    variables.dateversion = version::date;
     texte = "Orvane - Menu";
     if (variables.util.empty())
         variables.util = utilisateurdesecours;
