@@ -66,7 +66,7 @@ void Form3::maj() {
     if (!ouvert_)
         return;
     auto listes = listes_;
-    if (panneau_ == panneaupersonnel)
+    if (panneau_->personnel)
         listes[rangeepersonnelle].fichier = perso_.texte();
     Derniers derniers(listes);
     profiles::parcourirhist(plateforme().disque(), voisins_.form3.util,

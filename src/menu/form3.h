@@ -129,9 +129,9 @@ class Form3 : public ui::Formulaire {
     ui::Controle& miseajour_;
     ui::Controle& quitter_;
 
-    std::string panneau_;        ///< key of the panel on show, or of the last one
-    std::vector<Liste> listes_;  ///< of that panel
-    bool ouvert_ = false;        ///< the rows of that panel are on show
+    const Panneau* panneau_ = nullptr;  ///< the panel on show, or the last one
+    std::vector<Liste> listes_;         ///< of that panel
+    bool ouvert_ = false;               ///< the rows of that panel are on show
 };
 
 }  // namespace menu

@@ -66,8 +66,9 @@ int haut(std::size_t rangee) {
 Form3::Controles Form3::poseracces() {
     Controles boutons;
     for (const auto& acces : lesacces()) {
-        auto& bouton = poser(Genre::Bouton, acces.nom, acces.index, acces.libelle, acces.cadre);
-        if (acces.groupe == Groupe::Aucun) {
+        auto& bouton = poser(Genre::Bouton, acces.bouton->nom, acces.bouton->index,
+                             acces.bouton->libelle, acces.cadre);
+        if (acces.permanent()) {
             bouton.gras = true;
             bouton.taille = 9;
             bouton.aspect = ui::Aspect::Principal;

@@ -61,7 +61,8 @@ void garnir(const fs::path& dossier, const fs::path& jeu) {
     fs::create_directories(listes);
     for (const auto& panneau : menu::panneaux()) {
         for (const auto& rangee : panneau.rangees) {
-            const auto octets = rangee.ecran == menu::Ecran::multi ? rangeemultiple : rangeesimple;
+            const auto octets =
+                rangee.ecran() == menu::Ecran::multi ? rangeemultiple : rangeesimple;
             ecrire(listes / rangee.fichier, octets);
             for (std::size_t partie = 0; partie < rangee.parties; ++partie)
                 ecrire(listes / menu::fichierdepartie(rangee.fichier, partie), octets);
