@@ -41,7 +41,7 @@ class Epreuve {
     void montrermenu();
     /// Clicks a control of the form.
     void cliquer(std::string_view controle, int index = -1);
-    [[nodiscard]] common::Voisins& voisins() { return programme_.voisins(); }
+    [[nodiscard]] ui::Voisins& voisins() { return programme_.voisins(); }
     /// Runs an event, and stops the program if it faults.
     void executer(const std::function<void()>& evenement);
     /// A second goes by.

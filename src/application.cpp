@@ -45,7 +45,7 @@ class Piece {
 };
 
 template <class F>
-class Serie final : public common::FaceSerie {
+class Serie final : public ui::FaceSerie {
   public:
     explicit Serie(Piece<F>& form) : form_(form) {}
     void patienter() override { form_().pointeur = ui::Pointeur::Attente; }
@@ -53,19 +53,19 @@ class Serie final : public common::FaceSerie {
     void montrer() override { form_().visible = true; }
     void commencer(std::string_view chemin) override { form_().commencer(chemin); }
     void activerseuil(bool actif) override { form_().activerseuil(actif); }
-    void donnerfond(std::uint32_t rvb) override { form_().fond = ui::Couleur(rvb); }
+    void donnerfond(ui::Couleur couleur) override { form_().fond = couleur; }
 
   private:
     Piece<F>& form_;
 };
 
-class Menu final : public common::FaceMenu {
+class Menu final : public ui::FaceMenu {
   public:
     explicit Menu(Piece<menu::Form3>& form) : form_(form) {}
     void montrer() override { form_().montrer(); }
     void maj() override { form_().maj(); }
-    std::uint32_t fond() override { return form_().fond().rvb(); }
-    void donnerfond(std::uint32_t rvb) override { form_().donnerfond(rvb); }
+    ui::Couleur fond() override { return form_().fond(); }
+    void donnerfond(ui::Couleur couleur) override { form_().donnerfond(couleur); }
     bool app() override { return form_().app(); }
     void aide(std::string_view texte) override { form_().aide(texte); }
     void patienter(bool attente) override { form_().patienter(attente); }
@@ -74,7 +74,7 @@ class Menu final : public common::FaceMenu {
     Piece<menu::Form3>& form_;
 };
 
-class Options final : public common::FaceOptions {
+class Options final : public ui::FaceOptions {
   public:
     explicit Options(Piece<dialogs::Dialog2>& form) : form_(form) {}
     bool check1() override { return form_().check1(); }
@@ -85,7 +85,7 @@ class Options final : public common::FaceOptions {
     Piece<dialogs::Dialog2>& form_;
 };
 
-class Historique final : public common::FaceHistorique {
+class Historique final : public ui::FaceHistorique {
   public:
     explicit Historique(Piece<dialogs::Dialog>& form) : form_(form) {}
     void montrer(std::string_view titre) override { form_().montrer(titre); }
@@ -95,10 +95,11 @@ class Historique final : public common::FaceHistorique {
     Piece<dialogs::Dialog>& form_;
 };
 
-class Apropos final : public common::FaceApropos {
+class Apropos final : public ui::FaceApropos {
   public:
-    Apropos(Piece<dialogs::Dialog1>& form, ui::Plateforme& plateforme, common::Voisins& voisins)
-        : form_(form), miseajour_(plateforme, voisins) {}
+    Apropos(Piece<dialogs::Dialog1>& form, ui::Plateforme& plateforme,
+            const common::VariablesForm3& form3, ui::FaceMenu& menu)
+        : form_(form), miseajour_(plateforme, form3, menu) {}
     void apropos() override { form_().montrertexte(); }
     void montrerimage(int index) override { form_().montrerimage(index); }
     void verifiermiseajour() override { miseajour_.verifier(); }
@@ -113,14 +114,27 @@ class Apropos final : public common::FaceApropos {
 class Application::Salle {
   public:
     explicit Salle(ui::Plateforme& plateforme)
-        : form2(plateforme, [&] { return std::make_unique<profiles::Form2>(plateforme, voisins); }),
-          form3(plateforme, [&] { return std::make_unique<menu::Form3>(plateforme, voisins); }),
+        : form2(plateforme,
+                [&] {
+                    return std::make_unique<profiles::Form2>(plateforme, variablesform3, facemenu,
+                                                             faceform1);
+                }),
+          form3(plateforme,
+                [&] {
+                    return std::make_unique<menu::Form3>(
+                        plateforme,
+                        menu::Form3::Voisins{variablesform3, variablesdialog2, faceoptions,
+                                             faceform1, facemulti, facehistorique, faceapropos});
+                }),
           form1(plateforme, [&] { return std::make_unique<series::Form1>(plateforme, voisins); }),
           multi(plateforme, [&] { return std::make_unique<multi::Multi>(plateforme, voisins); }),
           dialog2(plateforme,
                   [&] {
-                      return std::make_unique<dialogs::Dialog2>(plateforme, voisins,
-                                                                [this] { dialog2.decharger(); });
+                      return std::make_unique<dialogs::Dialog2>(
+                          plateforme,
+                          dialogs::Dialog2::Voisins{variablesform3, variablesdialog2, facemenu,
+                                                    facemulti},
+                          [this] { dialog2.decharger(); });
                   }),
           dialog(plateforme,
                  [&] {
@@ -128,13 +142,13 @@ class Application::Salle {
                                                               [this] { dialog.decharger(); });
                  }),
           dialog1(plateforme,
-                  [&] { return std::make_unique<dialogs::Dialog1>(plateforme, voisins); }),
+                  [&] { return std::make_unique<dialogs::Dialog1>(plateforme, variablesform3); }),
           facemenu(form3),
           faceoptions(dialog2),
           faceform1(form1),
           facemulti(multi),
           facehistorique(dialog),
-          faceapropos(dialog1, plateforme, voisins),
+          faceapropos(dialog1, plateforme, variablesform3, facemenu),
           voisins{variablesform3, variablesdialog2, facemenu,       faceoptions,
                   faceform1,      facemulti,        facehistorique, faceapropos} {}
 
@@ -153,7 +167,7 @@ class Application::Salle {
     Serie<multi::Multi> facemulti;
     Historique facehistorique;
     Apropos faceapropos;
-    common::Voisins voisins;
+    ui::Voisins voisins;
 };
 
 Application::Application(ui::Plateforme& plateforme)
@@ -165,7 +179,7 @@ void Application::demarrer() {
     salle_->form2().visible = true;
 }
 
-common::Voisins& Application::voisins() {
+ui::Voisins& Application::voisins() {
     return salle_->voisins;
 }
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string_view>
 
-#include "formulaires.h"
+#include "faces.h"
 #include "plateforme.h"
 
 namespace application {
@@ -20,7 +20,7 @@ class Application {
     /// Starts the program: shows the first form.
     void demarrer();
     /// What the forms know of one another, for whoever drives the program from outside.
-    [[nodiscard]] common::Voisins& voisins();
+    [[nodiscard]] ui::Voisins& voisins();
 
   private:
     class Salle;

@@ -59,7 +59,7 @@ Sorte sorte(std::string_view panneau, std::size_t rangee) {
         return Sorte::rallonge;
     if (panneau == "autres" && rangee == rangeebenjamins)
         return Sorte::benjamin;
-    const auto ecran = menu::panneau(panneau)->rangees[rangee].ecran;
+    const auto ecran = menu::panneau(panneau)->rangees[rangee].ecran();
     return ecran == menu::Ecran::multi ? Sorte::multi : Sorte::simple;
 }
 

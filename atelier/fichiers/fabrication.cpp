@@ -56,7 +56,7 @@ std::string octets(std::string_view texte) {
 
 /// Most rows that the form of a list can hold.
 std::size_t rangeesmax(const menu::Rangee& rangee) {
-    return rangee.ecran == menu::Ecran::form1 ? common::rangeesform1 : common::rangeesmulti;
+    return rangee.ecran() == menu::Ecran::form1 ? common::rangeesform1 : common::rangeesmulti;
 }
 
 /// Makes the files one after the other and remembers what the notes need.

@@ -25,6 +25,9 @@ inline constexpr std::string_view typrallonges = "rallong";
 /// The name of the colour that stands for every unknown name.
 inline constexpr std::string_view couleurpardefaut = "Par défaut";
 
+/// Racks of a series with one solution a rack.
+inline constexpr int tiragesparserie = 30;
+
 /// Public variables of `Form3` (the menu).
 struct VariablesForm3 {
     std::string util;                             ///< user name, and the name of the user's folder
@@ -43,7 +46,7 @@ struct VariablesDialog2 {
     std::int16_t seuilch = 0;        ///< percent from which a result is green
     std::int16_t seuilcb = 0;        ///< percent under which a result is red
     std::int16_t tempsparmot = 0;    ///< seconds a word
-    std::int16_t nbechantillon = 0;  ///< series of 30 racks in a sample
+    std::int16_t nbechantillon = 0;  ///< series in a sample
     std::int16_t son = 0;
     std::int16_t saisieassistee = 0;
     std::int16_t nbechuni = 0;  ///< sample sizes, in racks, by number of solutions

@@ -39,9 +39,9 @@ std::string textesurorvane(const common::VariablesForm3& menu) {
 
 }  // namespace
 
-Dialog1::Dialog1(ui::Plateforme& plateforme, common::Voisins& voisins)
+Dialog1::Dialog1(ui::Plateforme& plateforme, const common::VariablesForm3& form3)
     : Formulaire(plateforme, "Dialog1"),
-      voisins_(voisins),
+      form3_(form3),
       image1_(ajouter(ui::Genre::Image, "Image1")),
       image2_(ajouter(ui::Genre::Image, "Image2")),
       appui_(ajouter(ui::Genre::Boite, "Text2")),
@@ -81,7 +81,7 @@ void Dialog1::apropos() {
     image2_.visible = false;
     texte_.visible = true;
     appui_.visible = true;
-    texte_.texte = textesurorvane(voisins_.form3);
+    texte_.texte = textesurorvane(form3_);
     donnerfocus(appui_);
 }
 

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <array>
-
 #include "formulaire.h"
-#include "formulaires.h"
+#include "partage.h"
 
 namespace dialogs {
 
@@ -12,7 +10,7 @@ namespace dialogs {
 /// `Image1` the racks of 7 letters, `Image2` those of 8.
 class Dialog1 : public ui::Formulaire {
   public:
-    Dialog1(ui::Plateforme& plateforme, common::Voisins& voisins);
+    Dialog1(ui::Plateforme& plateforme, const common::VariablesForm3& form3);
 
     /// Shows the panel, sized for the text about the program.
     void montrertexte();
@@ -25,7 +23,7 @@ class Dialog1 : public ui::Formulaire {
   private:
     void dimensionner(int largeurforme, int hauteurforme);
 
-    common::Voisins& voisins_;
+    const common::VariablesForm3& form3_;  ///< version and date are shown
     ui::Controle& image1_;
     ui::Controle& image2_;
     ui::Controle& appui_;

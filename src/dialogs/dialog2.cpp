@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "couleurs.h"
-#include "dialog2_dessin.h"
 #include "echap.h"
 #include "nombre.h"
 #include "settings.h"
@@ -24,7 +23,7 @@ void finir(ui::Controle& boite, std::int16_t valeur) {
 
 }  // namespace
 
-Dialog2::Dialog2(ui::Plateforme& plateforme, common::Voisins& voisins,
+Dialog2::Dialog2(ui::Plateforme& plateforme, const Voisins& voisins,
                  std::function<void()> decharger)
     : Formulaire(plateforme, "Dialog2"),
       voisins_(voisins),
@@ -53,7 +52,6 @@ Dialog2::Dialog2(ui::Plateforme& plateforme, common::Voisins& voisins,
         "restantes en temps réel";
     duree_.gras = true;
     message_.gras = true;
-    message_.couleur = couleurdumessage;
     ok_.texte = "OK";
     ok_.aspect = ui::Aspect::Principal;
     annuler_.texte = "Annuler";
@@ -62,7 +60,7 @@ Dialog2::Dialog2(ui::Plateforme& plateforme, common::Voisins& voisins,
     for (const auto& c : profiles::couleursdufond())
         noms.emplace_back(c.nom);
     couleur_.choix = std::move(noms);
-    dessinerdialog2(*this);
+    disposer();
     brancher();
 }
 
@@ -113,8 +111,8 @@ void Dialog2::choisircouleur(std::string_view nomdecouleur) {
 void Dialog2::Combo1_Click() {
     const auto choisie = profiles::couleurdufond(couleur_.texte());
     fond = choisie;
-    voisins_.menu.donnerfond(choisie.rvb());
-    voisins_.multi.donnerfond(choisie.rvb());
+    voisins_.menu.donnerfond(choisie);
+    voisins_.multi.donnerfond(choisie);
     colorerlabels();
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "faces.h"
 #include "formulaire.h"
-#include "formulaires.h"
 #include "options.h"
 
 namespace dialogs {
@@ -19,21 +19,32 @@ namespace dialogs {
 /// `Text1(0)` and `Text1(1)` are the green and the red threshold, `Text2` the seconds a word,
 /// `Text3` the series of a sample, `Combo1` the colour, `Check1` the sound, `Check2` the assisted
 /// entry, `Label4` the message area.
-class Dialog2 : public ui::Formulaire, public common::FaceOptions {
+class Dialog2 : public ui::Formulaire {
   public:
+    /// What it reads, sets and calls of the others.
+    struct Voisins {
+        common::VariablesForm3& form3;
+        common::VariablesDialog2& dialog2;
+        ui::FaceMenu& menu;
+        ui::FaceSerie& multi;
+    };
     /// `decharger` makes the form go away, and the next touch make it anew.
-    Dialog2(ui::Plateforme& plateforme, common::Voisins& voisins, std::function<void()> decharger);
+    Dialog2(ui::Plateforme& plateforme, const Voisins& voisins, std::function<void()> decharger);
 
     /// Takes everything from the variables. Throws `Faute` if a time or a sample passes 16 bits.
     void charger();
 
-    [[nodiscard]] bool check1() override { return son_.coche(); }
-    void choisircouleur(std::string_view nomdecouleur) override;
-    void ouvrir() override;
+    /// The check box `Check1` ("Son") is ticked.
+    [[nodiscard]] bool check1() const { return son_.coche(); }
+    /// Puts a colour name in `Combo1` and applies it to the forms.
+    void choisircouleur(std::string_view nomdecouleur);
+    /// Opens the form in front of the others, without blocking them.
+    void ouvrir();
     /// Applies the colour named by `Combo1` to this form, the menu and `Multi`.
     void Combo1_Click();
 
   private:
+    void disposer();  ///< the design (dialog2_ecran.cpp)
     void brancher();
     void change(options::Champ champ);
     void affichertailles();
@@ -43,7 +54,7 @@ class Dialog2 : public ui::Formulaire, public common::FaceOptions {
     void partir();
     [[nodiscard]] options::Saisie saisie() const;
 
-    common::Voisins& voisins_;
+    Voisins voisins_;
     std::function<void()> decharger_;
 
     ui::Controle& vert_;

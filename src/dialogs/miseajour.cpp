@@ -47,14 +47,14 @@ void MiseAJour::verifier() {
     const auto [ligne, somme] = premiereslignes(
         common::liretexte(plateforme_.disque(), chemin, "Vérification de la mise à jour"));
     const auto publiee = ligne.value_or("");
-    if (memeversion(voisins_.form3.versionlocale, publiee))
+    if (memeversion(form3_.versionlocale, publiee))
         plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
     else if (proposer(publiee))
         telecharger(somme);
 }
 
 bool MiseAJour::proposer(std::string_view publiee) {
-    return plateforme_.question("Votre version actuelle est " + voisins_.form3.versionlocale +
+    return plateforme_.question("Votre version actuelle est " + form3_.versionlocale +
                                 "\nLa mise à jour " + std::string(publiee) +
                                 " est disponible. Voulez-vous la télécharger ?");
 }
@@ -65,8 +65,8 @@ void MiseAJour::telecharger(const std::optional<std::string>& somme) {
     plateforme_.message(
         "Le programme va télécharger la nouvelle version, cela peut prendre quelques secondes.",
         ui::Icone::Information);
-    voisins_.menu.patienter(true);
-    voisins_.menu.aide("Téléchargement en cours");
+    menu_.patienter(true);
+    menu_.aide("Téléchargement en cours");
     plateforme_.laissercourir();
     if (!plateforme_.telecharger(publication_.lien, fichierlien,
                                  {.sure = true, .taille = tailledeligne})) {
@@ -81,7 +81,7 @@ void MiseAJour::telecharger(const std::optional<std::string>& somme) {
         return;
     const bool complet = plateforme_.telecharger(
         *lien, fichierinstalleur, {.sure = true, .taille = tailleinstalleur, .somme = somme});
-    voisins_.menu.patienter(false);
+    menu_.patienter(false);
     if (complet)
         installer();
     else

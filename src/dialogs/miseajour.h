@@ -6,7 +6,8 @@
 #include <utility>
 
 #include "adresses.h"
-#include "formulaires.h"
+#include "faces.h"
+#include "partage.h"
 #include "plateforme.h"
 
 namespace dialogs {
@@ -28,8 +29,12 @@ struct Publication {
 /// told in docs/formats.md.
 class MiseAJour {
   public:
-    MiseAJour(ui::Plateforme& plateforme, common::Voisins& voisins, Publication publication = {})
-        : plateforme_(plateforme), voisins_(voisins), publication_(std::move(publication)) {}
+    MiseAJour(ui::Plateforme& plateforme, const common::VariablesForm3& form3, ui::FaceMenu& menu,
+              Publication publication = {})
+        : plateforme_(plateforme),
+          form3_(form3),
+          menu_(menu),
+          publication_(std::move(publication)) {}
 
     /// Throws `Faute` if the version file that was downloaded cannot be read.
     void verifier();
@@ -43,7 +48,8 @@ class MiseAJour {
     [[nodiscard]] std::string dansdossierprogramme(std::string_view fichier);
 
     ui::Plateforme& plateforme_;
-    common::Voisins& voisins_;
+    const common::VariablesForm3& form3_;
+    ui::FaceMenu& menu_;
     Publication publication_;
 };
 

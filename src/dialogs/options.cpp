@@ -8,8 +8,6 @@
 namespace dialogs::options {
 namespace {
 
-constexpr int motsparserie = 30;
-
 struct Bornes {
     double bas;
     double haut;
@@ -103,7 +101,7 @@ std::string tempsdeserie(double secondesparmot) {
     constexpr std::string_view quoi =
         "Temps d'une série de 30 mots, à 1092 secondes par mot au plus (options, ligne 3 de "
         "« settings.dat »)";
-    return common::CalcDuree(common::entier16(secondesparmot * motsparserie, quoi));
+    return common::CalcDuree(common::entier16(secondesparmot * common::tiragesparserie, quoi));
 }
 
 std::array<std::string, nbtailles> tailles(common::VariablesDialog2& variables,
@@ -117,7 +115,7 @@ std::array<std::string, nbtailles> tailles(common::VariablesDialog2& variables,
         return mots(nombre, solutions) + " (" + std::to_string(nombre) + " " + std::string(quoi) +
                ")";
     };
-    return {mots(nbser, motsparserie), groupes(variables.nbechduo, 2, "duos"),
+    return {mots(nbser, common::tiragesparserie), groupes(variables.nbechduo, 2, "duos"),
             groupes(variables.nbechtri, 3, "trios"), groupes(variables.nbechqua, 4, "quatuors"),
             groupes(variables.nbechqui, 5, "quintets")};
 }

@@ -1,63 +1,76 @@
 #include "acces.h"
 
-#include <array>
+#include <vector>
 
 namespace menu {
 namespace {
 
-constexpr auto aucun = Groupe::Aucun;
-constexpr auto uniques = Groupe::Uniques;
-constexpr auto multiples = Groupe::Multiples;
-constexpr auto autres = Groupe::Autres;
-constexpr auto chere = Groupe::Chere;
-
-// Twips: five wide buttons, and under them a line of narrower ones.
+// Twips: a line of wide buttons, and under it a line of narrower ones for each group.
 constexpr int marge = 150;
 constexpr int ecart = 90;
 constexpr int largeurgroupe = 2628;
+constexpr int hautgroupes = 660;
+constexpr int hauteurgroupe = 600;
+constexpr int hautseconds = 1410;
+constexpr int hauteurseconds = 510;
 
-constexpr ui::Cadrage premier(int rang) {
-    return {marge + rang * (largeurgroupe + ecart), 660, largeurgroupe, 600};
-}
-constexpr ui::Cadrage second(int gauche, int largeur) {
-    return {marge + gauche, 1410, largeur, 510};
-}
+/// Puts the buttons of one group after the other, those of a group within it at their end.
+class Rang {
+  public:
+    explicit Rang(std::vector<Acces>& acces) : acces_(acces) {}
 
-constexpr std::array tous{
-    Acces{"Command1", -1, "BASES TECHNIQUES", "bt", aucun, aucun, premier(0)},
-    Acces{"Command2", -1, "TECHNIQUE APPROFONDIE", "ta", aucun, aucun, premier(1)},
-    Acces{"Command3", -1, "SCRABBLES UNIQUES", "", uniques, aucun, premier(2)},
-    Acces{"Command4", -1, "SCRABBLES MULTIPLES", "", multiples, aucun, premier(3)},
-    Acces{"Command5", -1, "AUTRES LISTES", "", autres, aucun, premier(4)},
-    Acces{"Command7", 0, "Conjugaisons et 1 seul non conjugué", "conja", uniques, uniques,
-          second(0, 3510)},
-    Acces{"Command7", 1, "6 lettres", "6", uniques, uniques, second(3600, 1350)},
-    Acces{"Command7", 2, "7 lettres", "7", uniques, uniques, second(5040, 1350)},
-    Acces{"Command7", 3, "8 lettres", "8", uniques, uniques, second(6480, 1350)},
-    Acces{"Command7", 4, "Lettre chère   7 et 8 L", "lc78", chere, uniques, second(7920, 2460)},
-    Acces{"Command7", 5, "Duos 7 lettres", "duos7", multiples, multiples, second(0, 2340)},
-    Acces{"Command7", 6, "Duos 8 lettres", "duos8", multiples, multiples, second(2430, 2340)},
-    Acces{"Command7", 7, "Trios 7 et 8 L", "trios", multiples, multiples, second(4860, 2340)},
-    Acces{"Command7", 8, "Quatuors et plus  7 et 8 L", "quatquin", multiples, multiples,
-          second(7290, 3510)},
-    Acces{"Command7", 9, "Conjugaisons", "conjm", multiples, multiples, second(10890, 2610)},
-    Acces{"Command8", -1, "poids < 12", "78lca", chere, chere, second(10470, 1470)},
-    Acces{"Command9", -1, "poids > 11", "78lcb", chere, chere, second(12030, 1470)},
-    Acces{"Command15", 0, "Formations difficiles", "formdif", autres, autres, second(0, 4440)},
-    Acces{"Command15", 1, "Rallonges d'une lettre", "rallong", autres, autres, second(4530, 4440)},
-    Acces{"Command15", 2, "Listes diverses", "autres", autres, autres, second(9060, 4440)},
+    void placer(Groupe groupe) {
+        for (const auto& panneau : panneaux()) {
+            if (panneau.bouton.groupe == groupe)
+                ajouter(panneau.bouton, &panneau, groupe);
+        }
+        for (const auto& autre : boutonsdegroupe()) {
+            if (autre.bouton.groupe != groupe)
+                continue;
+            ajouter(autre.bouton, nullptr, autre.montre);
+            if (groupe != Groupe::aucun)
+                placer(autre.montre);
+        }
+    }
+
+  private:
+    void ajouter(const Bouton& bouton, const Panneau* panneau, Groupe montre) {
+        const bool premier = bouton.groupe == Groupe::aucun;
+        const int largeur = premier ? largeurgroupe : bouton.largeur;
+        acces_.push_back({&bouton,
+                          panneau,
+                          montre,
+                          {gauche_, premier ? hautgroupes : hautseconds, largeur,
+                           premier ? hauteurgroupe : hauteurseconds}});
+        gauche_ += largeur + ecart;
+    }
+
+    std::vector<Acces>& acces_;
+    int gauche_ = marge;
 };
+
+std::vector<Acces> faire() {
+    std::vector<Acces> acces;
+    Rang(acces).placer(Groupe::aucun);
+    for (const auto& groupe : boutonsdegroupe()) {
+        if (groupe.bouton.groupe == Groupe::aucun)
+            Rang(acces).placer(groupe.montre);
+    }
+    return acces;
+}
 
 }  // namespace
 
 std::span<const Acces> lesacces() {
+    static const auto tous = faire();
     return tous;
 }
 
 bool danslegroupe(const Acces& acces, Groupe groupe) {
-    if (groupe == aucun)
+    if (groupe == Groupe::aucun)
         return false;
-    return acces.groupe == groupe || (groupe == chere && acces.montre == chere);
+    return acces.bouton->groupe == groupe ||
+           (acces.panneau == nullptr && !acces.permanent() && acces.montre == groupe);
 }
 
 }  // namespace menu

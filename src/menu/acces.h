@@ -1,32 +1,30 @@
 #pragma once
 
-// The buttons that lead to the panels, as a table: the five groups and their second-level buttons.
+// The buttons that lead to the panels, with their places: those that are always shown, and the
+// second-level buttons of each group.
 
-#include <cstdint>
 #include <span>
-#include <string_view>
 
+#include "catalogue.h"
 #include "controle.h"
 
 namespace menu {
 
-/// A set of second-level buttons that are shown together.
-enum class Groupe : std::uint8_t { Aucun, Uniques, Multiples, Autres, Chere };
-
-/// A button of the menu.
+/// A button of the menu that opens a panel or shows a group.
 struct Acces {
-    std::string_view nom;      ///< design name
-    int index;                 ///< in its control array, -1 if it stands alone
-    std::string_view libelle;  ///< caption
-    std::string_view panneau;  ///< key that a click puts on show; empty: the last one stays
-    Groupe montre;             ///< second-level buttons that a click shows
-    Groupe groupe;             ///< the button stands among these; none: it is always shown
+    const Bouton* bouton;
+    const Panneau* panneau;  ///< what a click opens; none: it only shows a group
+    Groupe montre;           ///< second-level buttons that a click shows
     ui::Cadrage cadre;
+
+    /// It is shown whatever the group.
+    [[nodiscard]] bool permanent() const { return bouton->groupe == Groupe::aucun; }
 };
 
+/// All of them, made from the catalogue; those of a group stand one after the other.
 [[nodiscard]] std::span<const Acces> lesacces();
 
-/// The button is shown with a group. The one that opens the group of the dear letter stands in two.
+/// The button is shown with a group. The one that opens a group within a group stands in two.
 [[nodiscard]] bool danslegroupe(const Acces& acces, Groupe groupe);
 
 }  // namespace menu

@@ -5,20 +5,19 @@
 #include "hist.h"
 #include "historique.h"
 #include "settings.h"
+#include "version.h"
 
 namespace menu {
 namespace {
 
 using ui::Genre;
 
-constexpr std::string_view version = "2.68";
-constexpr std::string_view datedeversion = "24/08/2019";
 /// Who the menu runs for when no name was chosen at login.
 constexpr std::string_view utilisateurdesecours = "Ferdo";
 
 }  // namespace
 
-Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
+Form3::Form3(ui::Plateforme& plateforme, const Voisins& voisins)
     : Formulaire(plateforme, "Form3"),
       voisins_(voisins),
       acces_(poseracces()),
@@ -47,8 +46,8 @@ Form3::Form3(ui::Plateforme& plateforme, common::Voisins& voisins)
 
 void Form3::charger() {
     auto& variables = voisins_.form3;
-    variables.versionlocale = version;
-    variables.dateversion = datedeversion;
+    variables.versionlocale = version::numero;
+    variables.dateversion = version::date;
     texte = "Orvane - Menu";
     if (variables.util.empty())
         variables.util = utilisateurdesecours;
@@ -67,7 +66,7 @@ void Form3::maj() {
     if (!ouvert_)
         return;
     auto listes = listes_;
-    if (panneau_ == panneaupersonnel)
+    if (panneau_->personnel)
         listes[rangeepersonnelle].fichier = perso_.texte();
     Derniers derniers(listes);
     profiles::parcourirhist(plateforme().disque(), voisins_.form3.util,
@@ -91,8 +90,8 @@ bool Form3::Verification(std::string_view chemin) {
     return plateforme().disque().existe(chemin);
 }
 
-void Form3::donnerfond(std::uint32_t rvb) {
-    fond = ui::Couleur(rvb);
+void Form3::donnerfond(ui::Couleur couleur) {
+    fond = couleur;
     app_.fond = fond();
 }
 

@@ -1,15 +1,13 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "acces.h"
+#include "faces.h"
 #include "formulaire.h"
-#include "formulaires.h"
 #include "lancement.h"
 #include "resultats.h"
 #include "tableau.h"
@@ -24,7 +22,17 @@ namespace menu {
 /// `Label13` the message line.
 class Form3 : public ui::Formulaire {
   public:
-    Form3(ui::Plateforme& plateforme, common::Voisins& voisins);
+    /// What it reads, sets and calls of the others.
+    struct Voisins {
+        common::VariablesForm3& form3;
+        common::VariablesDialog2& dialog2;
+        ui::FaceOptions& options;
+        ui::FaceSerie& form1;
+        ui::FaceSerie& multi;
+        ui::FaceHistorique& historique;
+        ui::FaceApropos& apropos;
+    };
+    Form3(ui::Plateforme& plateforme, const Voisins& voisins);
 
     /// Sets the menu up for the user whose name stands in `util`. Throws `Faute` if there is no
     /// readable `settings.dat` for that name.
@@ -37,7 +45,7 @@ class Form3 : public ui::Formulaire {
     [[nodiscard]] bool Verification(std::string_view chemin);
 
     void montrer() { visible = true; }
-    void donnerfond(std::uint32_t rvb);
+    void donnerfond(ui::Couleur couleur);
     /// The check box `app` ("Apprentissage") is ticked.
     [[nodiscard]] bool app() const { return app_.coche(); }
     /// Writes the help box.
@@ -101,7 +109,7 @@ class Form3 : public ui::Formulaire {
     std::string preparerrevision(std::size_t rangee);
     void lancer(Ecran ecran, std::string_view chemin);
 
-    common::Voisins& voisins_;
+    Voisins voisins_;
     Controles acces_;    ///< in the order of `lesacces`
     Controles entetes_;  ///< what is on show with any panel
     std::vector<Ligne> lignes_;
@@ -121,9 +129,9 @@ class Form3 : public ui::Formulaire {
     ui::Controle& miseajour_;
     ui::Controle& quitter_;
 
-    std::string panneau_;        ///< key of the panel on show, or of the last one
-    std::vector<Liste> listes_;  ///< of that panel
-    bool ouvert_ = false;        ///< the rows of that panel are on show
+    const Panneau* panneau_ = nullptr;  ///< the panel on show, or the last one
+    std::vector<Liste> listes_;         ///< of that panel
+    bool ouvert_ = false;               ///< the rows of that panel are on show
 };
 
 }  // namespace menu

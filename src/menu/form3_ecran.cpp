@@ -66,8 +66,9 @@ int haut(std::size_t rangee) {
 Form3::Controles Form3::poseracces() {
     Controles boutons;
     for (const auto& acces : lesacces()) {
-        auto& bouton = poser(Genre::Bouton, acces.nom, acces.index, acces.libelle, acces.cadre);
-        if (acces.groupe == Groupe::Aucun) {
+        auto& bouton = poser(Genre::Bouton, acces.bouton->nom, acces.bouton->index,
+                             acces.bouton->libelle, acces.cadre);
+        if (acces.permanent()) {
             bouton.gras = true;
             bouton.taille = 9;
             bouton.aspect = ui::Aspect::Principal;
@@ -166,7 +167,7 @@ Form3::Controles Form3::poserimages() {
 void Form3::dresser() {
     largeur = largeurdessin;
     hauteur = hauteurdessin;
-    donnerfond(profiles::couleurdufond(profiles::couleurpardefaut).rvb());
+    donnerfond(profiles::couleurdufond(profiles::couleurpardefaut));
     auto& titre = poser(Genre::Etiquette, "Label10", -1, "Entraînement", {150, 60, 9000, 510});
     titre.taille = 18;
     titre.gras = true;

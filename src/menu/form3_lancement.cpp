@@ -27,9 +27,9 @@ void Form3::jouertout(std::size_t rangee) {
     auto& variables = voisins_.form3;
     variables.toue = common::modes::tout;
     variables.nombase = lignes_[rangee].nom.texte();
-    variables.typ = typdupanneau(panneau_);
+    variables.typ = panneau_->typ;
     preparerrevision(rangee);
-    lancer(ecran(panneau_, rangee, variables.persomulti),
+    lancer(ecran(*panneau_, rangee, variables.persomulti),
            common::cheminliste(listes_.at(rangee).fichier));
 }
 
@@ -38,14 +38,14 @@ void Form3::jouerrevision(std::size_t rangee) {
     variables.toue = common::modes::revision;
     variables.nombase = lignes_[rangee].nom.texte() + std::string(common::titrerevision);
     variables.listerevisee = listes_.at(rangee).fichier;
-    variables.typ = typdupanneau(panneau_);
-    lancer(ecran(panneau_, rangee, variables.persomulti), preparerrevision(rangee));
+    variables.typ = panneau_->typ;
+    lancer(ecran(*panneau_, rangee, variables.persomulti), preparerrevision(rangee));
 }
 
 /// `typ` is left as it stands. The result that is emptied goes by the index of the button, which in
 /// one panel is not its row.
 void Form3::jouerpartie(std::size_t index, std::size_t partie) {
-    const auto rangee = rangeedepartie(panneau_, listes_, index, partie);
+    const auto rangee = rangeedepartie(*panneau_, index, partie);
     if (!rangee)
         return;
     auto& variables = voisins_.form3;
@@ -53,7 +53,7 @@ void Form3::jouerpartie(std::size_t index, std::size_t partie) {
     variables.nombase = lignes_[*rangee].nom.texte();
     ecrireresultat(index, {});
     preparerrevision(*rangee);
-    lancer(ecran(panneau_, *rangee, variables.persomulti),
+    lancer(ecran(*panneau_, *rangee, variables.persomulti),
            common::cheminliste(fichierdepartie(listes_.at(*rangee).fichier, partie)));
 }
 
@@ -66,12 +66,12 @@ void Form3::jouerechantillon(std::size_t rangee) {
     variables.nombase = lignes_[rangee].nom.texte();
     tailles.affecterechantillons(tailles.nbechantillon);
     const auto base = common::valeur(lignes_[rangee].nombre.texte());
-    for (const auto& etape : etapes(panneau_, rangee, variables.persomulti, base, tailles)) {
+    for (const auto& etape : etapes(*panneau_, rangee, variables.persomulti, base, tailles)) {
         if (etape.refus)
             annoncer(messageechantillon);
         if (!etape.lancement)
             continue;
-        variables.typ = typdupanneau(panneau_);
+        variables.typ = panneau_->typ;
         preparerrevision(rangee);
         lancer(*etape.lancement, common::cheminliste(listes_.at(rangee).fichier));
     }

@@ -11,8 +11,6 @@
 namespace menu {
 namespace {
 
-constexpr std::string_view panneaudimages = "quatquin";  // shows `Command11`
-
 /// What the name of a button adds for those who cannot see its row.
 std::string de(std::string_view libelle) {
     return libelle.empty() ? std::string() : " : " + std::string(libelle);
@@ -37,7 +35,7 @@ void Form3::effacerpanneau() {
     }
     total_.texte = "";
     for (std::size_t i = 0; i < acces_.size(); ++i) {
-        if (lesacces()[i].groupe != Groupe::Aucun)
+        if (!lesacces()[i].permanent())
             acces_[i]->visible = false;
     }
     lignes_[rangeepersonnelle].nom.visible = true;
@@ -47,11 +45,15 @@ void Form3::effacerpanneau() {
     persook_.visible = false;
 }
 
+/// A first-level button that only shows a group leaves the last panel as it was; the one of a group
+/// within a group leaves none.
 void Form3::ouvrir(const Acces& acces, ui::Controle& bouton) {
-    if (!acces.panneau.empty()) {
+    if (acces.panneau != nullptr || !acces.permanent()) {
         panneau_ = acces.panneau;
-        listes_ = listesdupanneau(panneau_, perso_.texte());
+        listes_.clear();
     }
+    if (acces.panneau != nullptr)
+        listes_ = listesdupanneau(*acces.panneau, perso_.texte());
     effacerpanneau();
     const auto groupe = acces.montre;
     for (std::size_t i = 0; i < acces_.size(); ++i) {
@@ -59,34 +61,32 @@ void Form3::ouvrir(const Acces& acces, ui::Controle& bouton) {
             acces_[i]->visible = true;
     }
     donnerfocus(bouton);
-    if (const auto* choisi = panneau(acces.panneau))
-        remplir(*choisi);
+    if (acces.panneau != nullptr)
+        remplir(*acces.panneau);
 }
 
 void Form3::remplir(const Panneau& panneau) {
     for (auto* entete : entetes_)
         entete->visible = true;
-    const bool personnel = panneau.cle == panneaupersonnel;
     for (std::size_t r = 0; r < listes_.size(); ++r)
         remplirrangee(r, r < panneau.rangees.size() ? panneau.rangees[r].libelle : "");
     std::size_t somme = 0;
     for (std::size_t r = 0; r < panneau.rangees.size(); ++r)
         somme += compterrangee(r);
     for (std::size_t r = 0; r < listes_.size(); ++r) {
-        placernombre(r, panneau.cle == panneaudesrallonges);
+        placernombre(r, panneau.nombredecale);
         if (listes_[r].parties > 0)
             montrerparties(r);
     }
     montrerinsignes(panneau);
-    perso_.visible = personnel;
-    persook_.visible = personnel;
+    perso_.visible = panneau.personnel;
+    persook_.visible = panneau.personnel;
     for (auto* image : images_)
-        image->visible = panneau.cle == panneaudimages;
+        image->visible = panneau.images;
     if (panneau.total)
         total_.texte = "Tot=" + std::to_string(somme);
-    const auto texteaide = aidepanneau(panneau.cle);
-    if (!texteaide.empty())
-        aide(texteaide);
+    if (!panneau.aide.empty())
+        aide(panneau.aide);
     ouvert_ = true;
     maj();
 }
@@ -113,7 +113,7 @@ std::size_t Form3::compterrangee(std::size_t rangee) {
 
 void Form3::montrerparties(std::size_t rangee) {
     placertout(rangee, true);
-    const auto index = boutondepartie(panneau_, rangee);
+    const auto index = boutondepartie(*panneau_, rangee);
     for (std::size_t i = 0; i < listes_[rangee].parties; ++i) {
         auto& partie = *lignes_[index].parties[i];
         partie.accessible = "Partie " + partie.texte() + de(lignes_[rangee].nom.texte());

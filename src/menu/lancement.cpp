@@ -2,81 +2,51 @@
 
 #include <algorithm>
 
-#include "tableau.h"
+#include "listes.h"
 
 namespace menu {
 namespace {
 
+/// The stages up to this one compare the list of any panel with the sample size of so many
+/// solutions: one at the first. A later one is for the panels launched at it, and compares with the
+/// sample size of the row's own.
+constexpr std::size_t etapescommunes = 3;
+
 using Taille = std::int16_t common::VariablesDialog2::*;
+/// By number of solutions, from one.
+constexpr std::array<Taille, common::solutionsmulti> lestailles{
+    &common::VariablesDialog2::nbechuni, &common::VariablesDialog2::nbechduo,
+    &common::VariablesDialog2::nbechtri, &common::VariablesDialog2::nbechqua,
+    &common::VariablesDialog2::nbechqui};
 
-/// A stage of its own for one panel: the sample size that counts for each row.
-using Bareme = std::array<Taille, nblignes>;
-
-constexpr Taille duo = &common::VariablesDialog2::nbechduo;
-constexpr Taille trio = &common::VariablesDialog2::nbechtri;
-constexpr Taille quatuor = &common::VariablesDialog2::nbechqua;
-constexpr Taille quintet = &common::VariablesDialog2::nbechqui;
-
-constexpr Bareme tous(Taille taille) {
-    Bareme bareme{};
-    bareme.fill(taille);
-    return bareme;
+std::size_t solutions(const Panneau& panneau, std::size_t rangee) {
+    return rangee < panneau.rangees.size() ? panneau.rangees[rangee].solutions : 1;
 }
 
-struct Regle {
-    Bareme bareme;
-    std::string_view panneau;  ///< the only panel of the stage; empty: every panel is compared
-};
-
-constexpr std::array<Regle, 5> regles{{
-    {tous(&common::VariablesDialog2::nbechuni), ""},
-    {tous(duo), ""},
-    {tous(trio), ""},
-    {{quatuor, quatuor, quatuor, quatuor, quintet, quintet, quintet, quintet}, "quatquin"},
-    {{duo, duo, trio, trio, quatuor, quatuor, quintet, quintet}, "conjm"},
-}};
-
-/// The stages at which the lists of a panel are launched; the others go at the first.
-struct Attente {
-    std::string_view panneau;
-    std::size_t etape;
-};
-constexpr std::array attentes{Attente{"duos7", 1}, Attente{"duos8", 1}, Attente{"trios", 2},
-                              Attente{"quatquin", 3}, Attente{"conjm", 4}};
-
-std::size_t etapedelancement(std::string_view cle, Ecran ecran) {
-    if (cle == panneaupersonnel)
-        return ecran == Ecran::multi ? 1 : 0;
-    const auto* attente = std::find_if(attentes.begin(), attentes.end(),
-                                       [&](const Attente& a) { return a.panneau == cle; });
-    return attente == attentes.end() ? 0 : attente->etape;
+/// A list with several solutions never goes at the first stage.
+std::size_t etapedelancement(const Panneau& panneau, Ecran ecran) {
+    return std::max<std::size_t>(panneau.etape, ecran == Ecran::multi ? 1 : 0);
 }
 
 }  // namespace
 
-std::string_view typdupanneau(std::string_view cle) {
-    return cle == panneaudesrallonges ? common::typrallonges : std::string_view();
-}
-
-Ecran ecran(std::string_view cle, std::size_t rangee, bool persomulti) {
-    if (cle == panneaupersonnel && persomulti)
+Ecran ecran(const Panneau& panneau, std::size_t rangee, bool persomulti) {
+    if (panneau.personnel && persomulti)
         return Ecran::multi;
-    const auto* trouve = panneau(cle);
-    if (trouve == nullptr || rangee >= trouve->rangees.size())
-        return Ecran::form1;
-    return trouve->rangees[rangee].ecran;
+    return rangee < panneau.rangees.size() ? panneau.rangees[rangee].ecran() : Ecran::form1;
 }
 
-std::array<Etape, 5> etapes(std::string_view cle, std::size_t rangee, bool persomulti, double base,
-                            const common::VariablesDialog2& tailles) {
-    std::array<Etape, 5> resultat;
-    const auto cible = ecran(cle, rangee, persomulti);
-    const auto lancee = etapedelancement(cle, cible);
-    for (std::size_t i = 0; i < regles.size(); ++i) {
-        const auto& regle = regles.at(i);
-        if (!regle.panneau.empty() && regle.panneau != cle)
+Etapes etapes(const Panneau& panneau, std::size_t rangee, bool persomulti, double base,
+              const common::VariablesDialog2& tailles) {
+    Etapes resultat;
+    const auto cible = ecran(panneau, rangee, persomulti);
+    const auto lancee = etapedelancement(panneau, cible);
+    for (std::size_t i = 0; i < nbetapes; ++i) {
+        const bool commune = i < etapescommunes;
+        if (!commune && i != panneau.etape)
             continue;
-        const bool passe = base > tailles.*regle.bareme.at(rangee);
+        const auto taille = lestailles.at(commune ? i : solutions(panneau, rangee) - 1);
+        const bool passe = base > tailles.*taille;
         resultat.at(i).refus = !passe;
         if (passe && i == lancee)
             resultat.at(i).lancement = cible;

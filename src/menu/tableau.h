@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,14 +14,12 @@ namespace menu {
 
 inline constexpr std::size_t nblignes = 8;   ///< rows of the menu
 inline constexpr std::size_t nbparties = 4;  ///< parts of a list, at most
+inline constexpr std::size_t nbetapes = 5;   ///< stages of the launch of a sample
 /// Badges of each kind: the rows of a panel that can have one.
 inline constexpr std::size_t nbverbes = 5;
 inline constexpr std::size_t nbcheres = nblignes;
-/// The panel whose last row is the user's own list, and that row.
-inline constexpr std::string_view panneaupersonnel = "autres";
-inline constexpr std::size_t rangeepersonnelle = 7;
-/// The panel of the lists of extensions.
-inline constexpr std::string_view panneaudesrallonges = "rallong";
+/// The row of the user's own list, in the panel that has one.
+inline constexpr std::size_t rangeepersonnelle = nblignes - 1;
 
 /// The list of a row: its file, and in how many parts it can be worked (0, or 2 to 4).
 struct Liste {
@@ -30,18 +27,17 @@ struct Liste {
     std::size_t parties = 0;
 };
 
-/// The lists of a panel, row 0 first. `personnel` is the file of the user's own list, which only
-/// the panel `autres` has. An unknown key has none.
-[[nodiscard]] std::vector<Liste> listesdupanneau(std::string_view cle, std::string_view personnel);
+/// The lists of a panel, row 0 first. `personnel` is the file of the user's own list, for the panel
+/// that has it.
+[[nodiscard]] std::vector<Liste> listesdupanneau(const Panneau& panneau,
+                                                 std::string_view personnel);
 
-/// Index of the part buttons that serve a row: the row itself, but in the panel `bt` the rows with
-/// parts share the first buttons, in order.
-[[nodiscard]] std::size_t boutondepartie(std::string_view cle, std::size_t rangee);
+/// Index of the part buttons that serve a row.
+[[nodiscard]] std::size_t boutondepartie(const Panneau& panneau, std::size_t rangee);
 
 /// The row of a part button, by its index and its part (0 is a); nothing where the list of the row
 /// has no such part.
-[[nodiscard]] std::optional<std::size_t> rangeedepartie(std::string_view cle,
-                                                        std::span<const Liste> listes,
-                                                        std::size_t index, std::size_t partie);
+[[nodiscard]] std::optional<std::size_t> rangeedepartie(const Panneau& panneau, std::size_t index,
+                                                        std::size_t partie);
 
 }  // namespace menu

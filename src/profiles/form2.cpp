@@ -26,9 +26,12 @@ constexpr ui::Cadrage cadretexte{marge, 1140, 10560, 3000};
 
 }  // namespace
 
-Form2::Form2(ui::Plateforme& plateforme, common::Voisins& voisins)
+Form2::Form2(ui::Plateforme& plateforme, common::VariablesForm3& form3, ui::FaceMenu& menu,
+             ui::FaceSerie& form1)
     : Formulaire(plateforme, "Form2"),
-      voisins_(voisins),
+      form3_(form3),
+      menu_(menu),
+      form1_(form1),
       titre_(poser(Genre::Etiquette, "Label1", -1, "ORVANE - PROGRAMME D'ENTRAÎNEMENT AU SCRABBLE",
                    {marge, 300, 10560, 540})),
       image_(ajouter(Genre::Image, "Image1")),
@@ -147,7 +150,7 @@ void Form2::accepternouveau() {
 void Form2::connecter() {
     auto& disque = plateforme().disque();
     const auto nom = user_.texte();
-    voisins_.form3.util = nom;
+    form3_.util = nom;
     auto liste = user_.choix();
     liste.push_back(nom);
     user_.choix = liste;
@@ -155,8 +158,8 @@ void Form2::connecter() {
     if (!dossierexiste(disque, nom))
         creerutilisateur(disque, nom);
     plateforme().laissercourir();
-    voisins_.form1.patienter();
-    voisins_.menu.montrer();
+    form1_.patienter();
+    menu_.montrer();
     visible = false;
 }
 

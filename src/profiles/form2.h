@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "faces.h"
 #include "formulaire.h"
-#include "formulaires.h"
 
 namespace profiles {
 
@@ -11,7 +11,8 @@ namespace profiles {
 /// entry of a new name (`Command2` opens it; `Label5`, `Text2`, `Label3`, `Command3`).
 class Form2 : public ui::Formulaire {
   public:
-    Form2(ui::Plateforme& plateforme, common::Voisins& voisins);
+    Form2(ui::Plateforme& plateforme, common::VariablesForm3& form3, ui::FaceMenu& menu,
+          ui::FaceSerie& form1);
 
     /// Reads the users and wears the colour of the last one. A file that is missing or cannot be
     /// read ends the load there, silently.
@@ -28,7 +29,9 @@ class Form2 : public ui::Formulaire {
     void connecter();
     void decompter();
 
-    common::Voisins& voisins_;
+    common::VariablesForm3& form3_;
+    ui::FaceMenu& menu_;
+    ui::FaceSerie& form1_;
     ui::Controle& titre_;
     ui::Controle& image_;
     ui::Controle& utilisateur_;

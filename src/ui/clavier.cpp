@@ -15,7 +15,7 @@ bool editable(const Controle& controle) {
 }  // namespace
 
 void Formulaire::enfoncer(Touche touche, std::optional<char32_t> caractere) {
-    declencher(toucheenfoncee, touche);
+    survenir(*this, toucheenfoncee, touche);
     if (touche.avalee)
         return;
     if (touche.code == touches::tab) {
@@ -25,7 +25,7 @@ void Formulaire::enfoncer(Touche touche, std::optional<char32_t> caractere) {
     auto* controle = focus_;
     if (controle == nullptr || touchedebouton(*controle, touche))
         return;
-    declencher(controle->toucheenfoncee, touche);
+    survenir(*controle, controle->toucheenfoncee, touche);
     if (touche.avalee || focus_ != controle || !editable(*controle))
         return;
     editer(*controle, touche);
@@ -47,13 +47,13 @@ bool Formulaire::touchedebouton(Controle& controle, const Touche& touche) {
     if (cible == &controle)
         cliquer(controle);
     else
-        declencher(cible->clic);
+        survenir(*cible, cible->clic);
     return true;
 }
 
 void Formulaire::relacher(int code) {
     if (focus_ != nullptr)
-        declencher(focus_->toucherelachee, code);
+        survenir(*focus_, focus_->toucherelachee, code);
 }
 
 /// Keys that move the caret, select or erase.
@@ -88,7 +88,7 @@ void Formulaire::editer(Controle& controle, const Touche& touche) {
             if (controle.verrou())
                 break;
             int code = touches::retour;
-            declencher(controle.caractere, code);
+            survenir(controle, controle.caractere, code);
             if (code == touches::retour)
                 controle.effacer(true);
             break;
@@ -109,7 +109,7 @@ std::string Formulaire::accepter(Controle& controle, char32_t caractere) {
         return {};
     }
     int code = *numero;
-    declencher(controle.caractere, code);
+    survenir(controle, controle.caractere, code);
     constexpr int premiervisible = 32;
     if (controle.multiligne && code == touches::entree)
         return "\n";
@@ -165,7 +165,7 @@ std::string Formulaire::couper() {
         return {};
     auto coupe = controle->texteselectionne();
     controle->effacer(false);
-    declencher(controle->toucherelachee, touches::suppr);
+    survenir(*controle, controle->toucherelachee, touches::suppr);
     return coupe;
 }
 

@@ -1,6 +1,7 @@
 #include "controle.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "formulaire.h"
@@ -18,6 +19,35 @@ std::string Couleur::nom() const {
     for (int decalage = 20; decalage >= 0; decalage -= 4)
         texte += chiffres[(rvb() >> static_cast<unsigned>(decalage)) & 0xFU];
     return texte;
+}
+
+Lieu::Lieu(const Controle& controle)
+    : formulaire_(controle.formulaire()),
+      controle_(&controle),
+      erreurs_(std::uncaught_exceptions()) {}
+
+Lieu::Lieu(const Minuterie& minuterie)
+    : formulaire_(minuterie.formulaire()),
+      minuterie_(&minuterie),
+      erreurs_(std::uncaught_exceptions()) {}
+
+Lieu::Lieu(const Formulaire& formulaire)
+    : formulaire_(formulaire), erreurs_(std::uncaught_exceptions()) {}
+
+/// The name is put together only when an error passes by.
+Lieu::~Lieu() {
+    if (std::uncaught_exceptions() <= erreurs_)
+        return;
+    try {
+        auto nom = formulaire_.nom();
+        if (controle_ != nullptr)
+            nom += "." + controle_->nomcomplet();
+        if (minuterie_ != nullptr)
+            nom += "." + minuterie_->nom();
+        formulaire_.plateforme().retenirlieu(std::move(nom));
+    } catch (const std::exception&) {
+        return;  // out of memory: the report goes without the name
+    }
 }
 
 Controle::Controle(Formulaire& formulaire, Genre genre, std::string nom, int index)
@@ -55,7 +85,7 @@ void Controle::modifie(Champ champ) {
     }
     notifier(champ);
     if (champ == Champ::Fond || champ == Champ::Couleur)
-        declencher(repeint);
+        survenir(*this, repeint);
     const bool parti =
         (champ == Champ::Visible && !visible()) || (champ == Champ::Actif && !actif());
     if (parti)
@@ -71,7 +101,7 @@ void Controle::textechange() {
         ancre_ = curseur_;
     }
     notifier(Champ::Texte);
-    declencher(change);
+    survenir(*this, change);
 }
 
 std::size_t Controle::selection() const {

@@ -14,6 +14,8 @@
 namespace ui {
 
 class Formulaire;
+class Controle;
+class Minuterie;
 
 /// One handler for something that happens. Calling an event without a handler does nothing.
 template <class... Arguments>
@@ -24,6 +26,32 @@ template <class E, class... A>
 void declencher(const E& evenement, A&&... arguments) {
     if (evenement)
         evenement(std::forward<A>(arguments)...);
+}
+
+/// While it lives, an unexpected error is reported as one of this control, timer or form.
+class Lieu {
+  public:
+    explicit Lieu(const Controle& controle);
+    explicit Lieu(const Minuterie& minuterie);
+    explicit Lieu(const Formulaire& formulaire);
+    Lieu(const Lieu&) = delete;
+    Lieu& operator=(const Lieu&) = delete;
+    ~Lieu();
+
+  private:
+    const Formulaire& formulaire_;
+    const Controle* controle_ = nullptr;
+    const Minuterie* minuterie_ = nullptr;
+    int erreurs_;  ///< on their way when it was made
+};
+
+/// Calls a handler of a control, a timer or a form, if it has one, as what happens to it.
+template <class Objet, class E, class... A>
+void survenir(const Objet& objet, const E& evenement, A&&... arguments) {
+    if (!evenement)
+        return;
+    const Lieu lieu(objet);
+    evenement(std::forward<A>(arguments)...);
 }
 
 /// A key that goes down; a handler may swallow it.
@@ -205,10 +233,12 @@ class Controle : public Observe<Champ> {
 /// A timer of one second. Setting `actif` starts a fresh second.
 class Minuterie final : public Observe<bool> {
   public:
-    explicit Minuterie(std::string nom) : nom_(std::move(nom)) {}
+    Minuterie(Formulaire& formulaire, std::string nom)
+        : formulaire_(formulaire), nom_(std::move(nom)) {}
     Minuterie(const Minuterie&) = delete;
     Minuterie& operator=(const Minuterie&) = delete;
     virtual ~Minuterie() = default;
+    [[nodiscard]] Formulaire& formulaire() const { return formulaire_; }
     [[nodiscard]] const std::string& nom() const { return nom_; }
     Propriete<bool, bool> actif{*this, true, false};
     Evenement<> tic;
@@ -220,6 +250,7 @@ class Minuterie final : public Observe<bool> {
     }
 
   private:
+    Formulaire& formulaire_;
     std::string nom_;
 };
 

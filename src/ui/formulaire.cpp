@@ -37,7 +37,7 @@ Controle& Formulaire::poser(Genre genre, std::string_view nomducontrole, int ind
 
 Minuterie& Formulaire::ajouterminuterie(std::string_view nomdelaminuterie) {
     auto& minuterie =
-        *minuteries_.emplace_back(std::make_unique<Minuterie>(std::string(nomdelaminuterie)));
+        *minuteries_.emplace_back(std::make_unique<Minuterie>(*this, std::string(nomdelaminuterie)));
     if (surminuterie)
         surminuterie(minuterie);
     return minuterie;
@@ -81,10 +81,10 @@ void Formulaire::perdrefocus(Controle& controle) {
 void Formulaire::prendrefocus(Controle* controle) {
     auto* ancien = std::exchange(focus_, controle);
     if (ancien != nullptr)
-        declencher(ancien->sortie);
+        survenir(*ancien, ancien->sortie);
     modifie(ChampFormulaire::Focus);
     if (controle != nullptr && focus_ == controle)
-        declencher(controle->entree);
+        survenir(*controle, controle->entree);
 }
 
 void Formulaire::ouvrirmenu(Menu& menu) {
@@ -107,28 +107,28 @@ void Formulaire::cliquer(Controle& controle) {
         const auto bout = std::string::npos;
         controle.selectionner(bout, bout);
     }
-    declencher(controle.clic);
+    survenir(controle, controle.clic);
 }
 
 void Formulaire::doublecliquer(Controle& controle) {
     if (!accessible(controle))
         return;
     focaliser(controle);
-    declencher(controle.doubleclic);
+    survenir(controle, controle.doubleclic);
 }
 
 void Formulaire::choisir(Controle& liste, std::string_view entree) {
     liste.texte = std::string(entree);
     const auto bout = std::string::npos;
     liste.selectionner(bout, bout);
-    declencher(liste.clic);
+    survenir(liste, liste.clic);
 }
 
 void Formulaire::choisirentree(Controle& entree) {
     if (menuouvert_ == nullptr || !accessible(entree))
         return;
     fermermenu();
-    declencher(entree.clic);
+    survenir(entree, entree.clic);
 }
 
 void Formulaire::fermermenu() {
@@ -140,7 +140,7 @@ void Formulaire::fermermenu() {
 
 void Formulaire::fermer() {
     if (fermeture)
-        fermeture();
+        survenir(*this, fermeture);
     else
         visible = false;
 }

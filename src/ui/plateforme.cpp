@@ -66,9 +66,15 @@ void Plateforme::finir(int statut) {
     statut_ = statut;
 }
 
+void Plateforme::retenirlieu(std::string nom) {
+    if (lieu_.empty())
+        lieu_ = std::move(nom);
+}
+
 /// Runs an event, and turns what it throws into the end of the program.
 void Plateforme::proteger(const std::function<void()>& evenement) {
     std::string rapport;
+    lieu_.clear();
     try {
         evenement();
     } catch (const Fin& fin) {
@@ -77,7 +83,10 @@ void Plateforme::proteger(const std::function<void()>& evenement) {
         rapport = faute.what();
         finir(1);
     } catch (const std::exception& imprevu) {
-        rapport = std::string("Erreur imprévue : ") + imprevu.what();
+        rapport = "Erreur imprévue";
+        if (!lieu_.empty())
+            rapport += " dans " + lieu_;
+        rapport.append(" : ").append(imprevu.what());
         finir(1);
     }
     if (!rapport.empty())

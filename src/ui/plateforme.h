@@ -81,6 +81,9 @@ class Plateforme {
     /// Ends the program at once.
     [[noreturn]] static void terminer(int statut = 0) { throw Fin{statut}; }
 
+    /// An error passes through a handler of this control, timer or form; the innermost one counts.
+    void retenirlieu(std::string nom);
+
     [[nodiscard]] bool fini() const { return fini_; }
     /// Exit status, once the program has ended.
     [[nodiscard]] int statut() const { return statut_; }
@@ -102,6 +105,7 @@ class Plateforme {
     void verifierfin() const;
 
     std::vector<std::function<void()>> suites_;
+    std::string lieu_;  ///< where the error on its way began; empty: in no handler
     int profondeur_ = 0;
     int statut_ = 0;
     bool fini_ = false;

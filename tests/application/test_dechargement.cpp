@@ -13,7 +13,7 @@ class Dechargement : public testing::Test {
     banc::Dossier dossier;
     banc::PlateformeSimulee plateforme{dossier.chemin()};
     application::Application programme{plateforme};
-    common::FaceHistorique& historique = programme.voisins().historique;
+    ui::FaceHistorique& historique = programme.voisins().historique;
 };
 
 TEST_F(Dechargement, une_fenetre_fermee_puis_rouverte_revient_a_neuf) {

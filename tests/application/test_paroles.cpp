@@ -59,8 +59,7 @@ class Paroles : public testing::Test {
             voisins.form3.util = "Essai";
             voisins.form3.toue = "T";
             static_cast<void>(voisins.menu.fond());
-            common::FaceSerie& serie =
-                std::string_view(nom) == "Multi" ? voisins.multi : voisins.form1;
+            ui::FaceSerie& serie = std::string_view(nom) == "Multi" ? voisins.multi : voisins.form1;
             serie.coloration();
             serie.montrer();
             serie.commencer("listes\\x.txt");

@@ -81,7 +81,7 @@ void Bureau::activer(ui::Formulaire& formulaire) {
                                     [&](const auto& p) { return &p->formulaire() == &formulaire; });
     std::rotate(place, place + 1, places_.end());
     if (simulees_ && ancien != nullptr && ancien != &formulaire)
-        ui::declencher(ancien->desactivation);
+        ui::survenir(*ancien, ancien->desactivation);
 }
 
 void Bureau::seconde(const std::function<void(const std::function<void()>&)>& executer,
@@ -104,7 +104,7 @@ void Bureau::seconde(const std::function<void(const std::function<void()>&)>& ex
         });
         if (fini() || !vivante || std::ranges::count(fraiches_, minuterie) > 0)
             continue;
-        executer([minuterie] { ui::declencher(minuterie->tic); });
+        executer([minuterie] { ui::survenir(*minuterie, minuterie->tic); });
     }
 }
 

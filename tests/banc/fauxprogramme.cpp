@@ -110,7 +110,7 @@ class FauxForm1 : public ui::Formulaire {
 
 class FauxForm2 : public ui::Formulaire {
   public:
-    FauxForm2(ui::Plateforme& p, common::Voisins& voisins) : Formulaire(p, "Form2") {
+    FauxForm2(ui::Plateforme& p, ui::Voisins& voisins) : Formulaire(p, "Form2") {
         auto& user = ajouter(Genre::Liste, "user");
         user.texte = "Votre nom";
         auto& entrer = ajouter(Genre::Bouton, "Command1");
@@ -143,16 +143,16 @@ class FauxForm3 : public ui::Formulaire {
 
 /// All the faces at once, on forms made at their first touch.
 class FauxProgramme : public Programme,
-                      public common::FaceMenu,
-                      public common::FaceSerie,
-                      public common::FaceOptions,
-                      public common::FaceHistorique,
-                      public common::FaceApropos {
+                      public ui::FaceMenu,
+                      public ui::FaceSerie,
+                      public ui::FaceOptions,
+                      public ui::FaceHistorique,
+                      public ui::FaceApropos {
   public:
     explicit FauxProgramme(ui::Plateforme& p) : plateforme_(p) {}
 
     void demarrer() override { formulaire2().visible = true; }
-    common::Voisins& voisins() override { return voisins_; }
+    ui::Voisins& voisins() override { return voisins_; }
 
     void montrer() override {  // of the menu and of a series: one of them is busy
         if (attend_)
@@ -161,8 +161,8 @@ class FauxProgramme : public Programme,
             formulaire3().visible = true;
     }
     void maj() override {}
-    std::uint32_t fond() override { return formulaire3().fond().rvb(); }
-    void donnerfond(std::uint32_t /*rvb*/) override {}
+    ui::Couleur fond() override { return formulaire3().fond(); }
+    void donnerfond(ui::Couleur /*couleur*/) override {}
     bool app() override { return formulaire3().controle("app").coche(); }
     void aide(std::string_view /*texte*/) override {}
     void patienter(bool /*attente*/) override {}
@@ -207,7 +207,7 @@ class FauxProgramme : public Programme,
     ui::Plateforme& plateforme_;
     common::VariablesForm3 variables3_;
     common::VariablesDialog2 variables2_;
-    common::Voisins voisins_{variables3_, variables2_, *this, *this, *this, *this, *this, *this};
+    ui::Voisins voisins_{variables3_, variables2_, *this, *this, *this, *this, *this, *this};
     std::unique_ptr<FauxForm1> form1_;
     std::unique_ptr<FauxForm2> form2_;
     std::unique_ptr<FauxForm3> form3_;

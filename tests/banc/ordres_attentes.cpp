@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <fstream>
 
 #include "cible.h"
 #include "ordres.h"
@@ -16,8 +17,8 @@ void accorder(const std::string& desaccord, const std::string& nom) {
         throw Refus("l'écran et le modèle diffèrent : " + nom + " : " + desaccord);
 }
 
-constexpr std::array formulaires{"Form1",  "Form2",   "Form3",  "Multi",
-                                 "Dialog", "Dialog1", "Dialog2"};
+constexpr std::array formulaires{"Dialog", "Dialog1", "Dialog2", "Form1",
+                                 "Form2",  "Form3",   "Multi"};
 
 /// The form is one of the program's, not made yet or gone.
 bool dechargee(const Seance& seance, std::string_view nom) {
@@ -50,6 +51,19 @@ std::string valeur(Seance& seance, const std::string& nom) {
     if (!lu)
         throw OrdreFaux("propriété inconnue : " + nom);
     return enligne(*lu);
+}
+
+/// The forms in the order of their names.
+std::string ecriremodele(Seance& seance, const Ordre& ordre) {
+    std::ofstream flux(ordre.suite, std::ios::binary);
+    for (const auto* nom : formulaires) {
+        if (const auto* formulaire = seance.plateforme.bureau.trouver(nom))
+            flux << modele(*formulaire);
+    }
+    flux.close();
+    if (!flux)
+        throw Refus("le modèle ne peut pas être écrit : " + ordre.suite);
+    return {};
 }
 
 [[noreturn]] void ecart(std::string_view lu, std::string_view attendu) {
@@ -130,6 +144,7 @@ constexpr std::array commandes{
     Commande{"attendrebips", attendrebips},
     Commande{"attendremenu", attendremenu},
     Commande{"attendrefin", attendrefin, true},
+    Commande{"modele", ecriremodele},
 };
 
 }  // namespace

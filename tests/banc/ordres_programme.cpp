@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
+#include "catalogue.h"
 #include "cible.h"
 #include "fichier.h"
 #include "ordres.h"
@@ -15,31 +18,33 @@ namespace {
 constexpr std::string_view utilisateur = "Essai";
 constexpr std::string_view dossierdeslistes = "listes\\";
 
-/// The buttons of the menu that open a panel, in the order of the clicks.
-struct Acces {
-    std::string_view cle;
-    std::array<std::string_view, 3> boutons;
-};
+/// What `panneau` takes for the buttons of the high-value letter, which open no panel.
+constexpr std::string_view lettrechere = "lc78";
 
-constexpr std::array acces{
-    Acces{"bt", {"Command1"}},
-    Acces{"ta", {"Command2"}},
-    Acces{"conja", {"Command3", "Command7(0)"}},
-    Acces{"6", {"Command3", "Command7(1)"}},
-    Acces{"7", {"Command3", "Command7(2)"}},
-    Acces{"8", {"Command3", "Command7(3)"}},
-    Acces{"lc78", {"Command3", "Command7(4)"}},
-    Acces{"78lca", {"Command3", "Command7(4)", "Command8"}},
-    Acces{"78lcb", {"Command3", "Command7(4)", "Command9"}},
-    Acces{"duos7", {"Command4", "Command7(5)"}},
-    Acces{"duos8", {"Command4", "Command7(6)"}},
-    Acces{"trios", {"Command4", "Command7(7)"}},
-    Acces{"quatquin", {"Command4", "Command7(8)"}},
-    Acces{"conjm", {"Command4", "Command7(9)"}},
-    Acces{"formdif", {"Command5", "Command15(0)"}},
-    Acces{"rallong", {"Command5", "Command15(1)"}},
-    Acces{"autres", {"Command5", "Command15(2)"}},
-};
+/// The buttons to click, in order, to reach one of the menu and click it.
+std::vector<std::string> chemin(const menu::Bouton& bouton) {
+    std::vector<std::string> boutons;
+    for (const auto& groupe : menu::boutonsdegroupe()) {
+        if (groupe.montre == bouton.groupe)
+            boutons = chemin(groupe.bouton);
+    }
+    auto nom = "Form3." + std::string(bouton.nom);
+    if (bouton.index >= 0)
+        nom += "(" + std::to_string(bouton.index) + ")";
+    boutons.push_back(std::move(nom));
+    return boutons;
+}
+
+/// The button of a panel or group. Throws `Refus` if there is none of that name.
+const menu::Bouton& acces(std::string_view cle) {
+    if (const auto* panneau = menu::panneau(cle))
+        return panneau->bouton;
+    for (const auto& groupe : menu::boutonsdegroupe()) {
+        if (cle == lettrechere && groupe.montre == menu::Groupe::chere)
+            return groupe.bouton;
+    }
+    throw OrdreFaux("panneau inconnu : " + std::string(cle));
+}
 
 std::string demarrer(Seance& seance, const Ordre& /*ordre*/) {
     if (seance.demarree)
@@ -62,13 +67,9 @@ std::string connexion(Seance& seance, const Ordre& ordre) {
 }
 
 std::string panneau(Seance& seance, const Ordre& ordre) {
-    const auto* place = std::find_if(acces.begin(), acces.end(),
-                                     [&](const Acces& a) { return a.cle == ordre.suite; });
-    if (place == acces.end())
-        throw OrdreFaux("panneau inconnu : " + ordre.suite);
-    for (const auto bouton : place->boutons) {
-        if (!bouton.empty() && !seance.plateforme.fini())
-            seance.pilote->cliquer(atteindre(seance, "Form3." + std::string(bouton)));
+    for (const auto& bouton : chemin(acces(ordre.suite))) {
+        if (!seance.plateforme.fini())
+            seance.pilote->cliquer(atteindre(seance, bouton));
     }
     return {};
 }

@@ -14,7 +14,7 @@ void PiloteModele::cliquer(ui::Controle& controle) {
     sur(controle, [&] {
         controle.formulaire().cliquer(controle);
         if (controle.formulaire().visible() && ui::Formulaire::accessible(controle))
-            ui::declencher(controle.relache);  // a click ends with the button going up
+            ui::survenir(controle, controle.relache);  // a click ends with the button going up
     });
 }
 
@@ -23,11 +23,11 @@ void PiloteModele::doublecliquer(ui::Controle& controle) {
 }
 
 void PiloteModele::survoler(ui::Controle& controle) {
-    plateforme_.executer([&] { ui::declencher(controle.survol); });
+    plateforme_.executer([&] { ui::survenir(controle, controle.survol); });
 }
 
 void PiloteModele::relacher(ui::Controle& controle) {
-    plateforme_.executer([&] { ui::declencher(controle.relache); });
+    plateforme_.executer([&] { ui::survenir(controle, controle.relache); });
 }
 
 void PiloteModele::focaliser(ui::Controle& controle) {

@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "formulaires.h"
+#include "faces.h"
 #include "plateforme.h"
 
 namespace banc {
@@ -16,7 +16,7 @@ class Programme {
     Programme& operator=(const Programme&) = delete;
     virtual ~Programme() = default;
     virtual void demarrer() = 0;
-    [[nodiscard]] virtual common::Voisins& voisins() = 0;
+    [[nodiscard]] virtual ui::Voisins& voisins() = 0;
 };
 
 /// Makes the program on a platform.

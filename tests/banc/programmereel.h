@@ -10,7 +10,7 @@ class ProgrammeReel : public Programme {
   public:
     explicit ProgrammeReel(ui::Plateforme& plateforme) : application_(plateforme) {}
     void demarrer() override { application_.demarrer(); }
-    [[nodiscard]] common::Voisins& voisins() override { return application_.voisins(); }
+    [[nodiscard]] ui::Voisins& voisins() override { return application_.voisins(); }
 
   private:
     application::Application application_;

@@ -91,7 +91,27 @@ std::optional<std::string> chercher(const Table& table, const Objet& objet,
     return std::nullopt;
 }
 
+/// The line of an object.
+template <class Table, class Objet>
+std::string decrire(std::string nom, const Table& table, const Objet& objet) {
+    for (const auto& entree : table) {
+        const auto valeur = entree.valeur(objet);
+        if (!valeur.empty())
+            nom.append(" ").append(entree.nom).append("=").append(enligne(valeur));
+    }
+    return nom + "\n";
+}
+
 }  // namespace
+
+std::string modele(const Formulaire& formulaire) {
+    auto texte = decrire(formulaire.nom(), duformulaire, formulaire);
+    for (const auto& controle : formulaire.controles())
+        texte += decrire(nom(controle.get()), ducontrole, *controle);
+    for (const auto& minuterie : formulaire.minuteries())
+        texte += decrire(formulaire.nom() + "." + minuterie->nom(), delaminuterie, *minuterie);
+    return texte;
+}
 
 std::optional<std::string> lire(const Controle& controle, std::string_view propriete) {
     return chercher(ducontrole, controle, propriete);

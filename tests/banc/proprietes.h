@@ -19,4 +19,10 @@ namespace banc {
 [[nodiscard]] std::optional<std::string> lire(const ui::Minuterie& minuterie,
                                               std::string_view propriete);
 
+/// Everything that can be read of a form, as lines: the form, then its controls in the order of
+/// their making, then its timers. Each is its name and `property=value`, line ends in a value
+/// written `\n`; a property that is empty is left out. Two builds of the program can be compared by
+/// it.
+[[nodiscard]] std::string modele(const ui::Formulaire& formulaire);
+
 }  // namespace banc

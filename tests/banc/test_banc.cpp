@@ -12,6 +12,7 @@
 #include "formulaire.h"
 #include "pilotemodele.h"
 #include "plateformesimulee.h"
+#include "proprietes.h"
 #include "scenario.h"
 
 namespace {
@@ -194,6 +195,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Cas{"attendre_ce_qui_differe", PRET "attendre Form1.etat.visible non\n",
             "ok\nerreur: attendu « non », lu « oui » (essai:2)\n"},
+        Cas{"modele_dans_un_dossier_qui_n_existe_pas", PRET "modele absent/x.txt\n",
+            "ok\nerreur: le modèle ne peut pas être écrit : absent/x.txt (essai:2)\n"},
         Cas{"propriete_inconnue", PRET "lire Form1.etat.age\n",
             "ok\nerreur: propriété inconnue : Form1.etat.age (essai:2)\n"},
         Cas{"listes_depuis_le_dernier_ordre",
@@ -256,6 +259,37 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Destination, un_scenario_de_l_autre_pilote_est_laisse) {
     EXPECT_EQ(banc::jouerfaux("# qt seulement\nsauter\n"), "");
     EXPECT_EQ(banc::jouerfaux("# modele seulement\ndemarrer\n"), "ok\n");
+}
+
+TEST(Modele, dit_tout_ce_qui_se_lit) {
+    banc::PlateformeSimulee plateforme(".");
+    ui::Formulaire form(plateforme, "Form9");
+    auto& boite = form.ajouter(ui::Genre::Boite, "reponse", 2);
+    boite.texte = "deux\nlignes";
+    form.mettredefaut(form.ajouter(ui::Genre::Bouton, "ok"));
+    form.donnerfocus(boite);
+    form.ajouterminuterie("Timer1").actif = true;
+    EXPECT_EQ(
+        banc::modele(form),
+        "Form9 fond=#FFE0C0 visible=non pointeur=normal largeur=0 hauteur=0 "
+        "focus=Form9.reponse(2) defaut=Form9.ok\n"
+        "Form9.reponse(2) texte=deux\\nlignes fond=systeme:fenetre couleur=#000000 "
+        "visible=oui actif=oui verrou=non coche=0 pointeur=normal taille=10 barre=non gras=non "
+        "italique=non gauche=0 haut=0 largeur=0 hauteur=0 selection=0\n"
+        "Form9.ok fond=systeme:bouton couleur=#000000 visible=oui actif=oui verrou=non coche=0 "
+        "pointeur=normal taille=10 barre=non gras=non italique=non gauche=0 haut=0 largeur=0 "
+        "hauteur=0 selection=0\n"
+        "Form9.Timer1 actif=oui\n");
+}
+
+TEST(Modele, s_ecrit_pour_les_formulaires_charges) {
+    const banc::Dossier dossier;
+    const auto fichier = dossier.chemin() / "modèle un.txt";
+    EXPECT_EQ(banc::jouerfaux(PRET "modele " + fichier.string() + "\n"), "ok\nok\n");
+    std::ifstream flux(fichier);
+    std::string premiere;
+    ASSERT_TRUE(std::getline(flux, premiere));
+    EXPECT_TRUE(premiere.starts_with("Form1 ")) << premiere;
 }
 
 TEST(Graine, la_meme_graine_donne_la_meme_suite_quoi_que_dise_l_horloge) {

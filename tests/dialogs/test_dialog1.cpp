@@ -24,7 +24,7 @@ std::string bmp(int largeur, int hauteur) {
 class Dialog1 : public testing::Test {
   protected:
     essai::Voisinage v;
-    dialogs::Dialog1 form{v.plateforme, v.voisins};
+    dialogs::Dialog1 form{v.plateforme, v.form3};
 
     [[nodiscard]] ui::Controle& controle(const char* nom) const { return form.controle(nom); }
     [[nodiscard]] bool visible(const char* nom) const { return controle(nom).visible(); }

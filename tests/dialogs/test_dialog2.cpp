@@ -26,7 +26,9 @@ class Dialog2 : public testing::Test {
 
     /// A fresh form, loaded from the variables.
     void charger() {
-        form = std::make_unique<dialogs::Dialog2>(v.plateforme, v.voisins, [this] { ++decharges; });
+        form = std::make_unique<dialogs::Dialog2>(
+            v.plateforme, dialogs::Dialog2::Voisins{v.form3, v.dialog2, v.menu, v.multi},
+            [this] { ++decharges; });
         form->charger();
     }
     [[nodiscard]] ui::Controle& controle(const char* nom, int index = -1) const {
@@ -275,7 +277,7 @@ TEST_F(Dialog2, annuler_echap_et_la_case_de_fermeture_ne_rangent_rien) {
         EXPECT_EQ(v.dialog2.tempsparmot, 8);
         EXPECT_EQ(v.dialog2.nbechantillon, 5);
         EXPECT_EQ(v.form3.couleurdufond, "Par défaut");
-        EXPECT_EQ(v.menu.fond(), 0xE0E0E0U) << "the preview stays";
+        EXPECT_EQ(v.menu.fond(), ui::Couleur(0xE0E0E0U)) << "the preview stays";
         EXPECT_EQ(v.relever(), Journal{});
         EXPECT_TRUE(v.plateforme.lesfichiers.fichiers.empty());
     }

@@ -32,7 +32,8 @@ class MiseAJour : public testing::Test {
     essai::Voisinage v;
 
     Journal verifier() {
-        v.plateforme.executer([&] { dialogs::MiseAJour(v.plateforme, v.voisins).verifier(); });
+        v.plateforme.executer(
+            [&] { dialogs::MiseAJour(v.plateforme, v.form3, v.menu).verifier(); });
         return v.relever();
     }
     void publier(const std::string& contenu) { v.plateforme.reseau[version] = contenu; }

@@ -119,7 +119,7 @@ std::vector<Listefaite> fairelistes(Alea& alea) {
                              r,
                              std::string(rangee.fichier),
                              rangee.parties,
-                             rangee.ecran == menu::Ecran::multi,
+                             rangee.ecran() == menu::Ecran::multi,
                              alea.surcent(casses),
                              {}};
             liste.lignes =

@@ -64,8 +64,7 @@ void Joueur::lancer() {
     const auto partie = static_cast<std::size_t>(nom.back() - 'a');
     auto rang = index;
     if (nom.starts_with("com"))
-        rang = menu::rangeedepartie(panneau_, menu::listesdupanneau(panneau_, ""), index, partie)
-                   .value();
+        rang = menu::rangeedepartie(*panneau, index, partie).value();
     const std::string fichier(panneau->rangees[rang].fichier);
     const bool cassee = std::any_of(listes_.begin(), listes_.end(), [&](const Listefaite& liste) {
         return liste.cassee && liste.fichier == fichier;
@@ -78,7 +77,7 @@ void Joueur::lancer() {
             return;
     }
     const bool perso = partie_.seance().programme->voisins().form3.persomulti;
-    const bool multi = menu::ecran(panneau_, rang, perso) == menu::Ecran::multi;
+    const bool multi = menu::ecran(*panneau, rang, perso) == menu::Ecran::multi;
     const auto revision = util_ + "\\rev-" + fichier;
     const auto* app = partie_.formulaire("Form3")->trouver("app");
     Lancement lancement{"listes\\" + fichier, revision, fichier, multi, app->coche()};

@@ -58,7 +58,7 @@ void users(Essai& essai) {
 void resultats(Essai& essai) {
     deposer(essai, profiles::cheminhist(util));
     const auto& panneau = essai.alea.choisir(menu::panneaux());
-    const auto listes = menu::listesdupanneau(panneau.cle, "perso.txt");
+    const auto listes = menu::listesdupanneau(panneau, "perso.txt");
     menu::Derniers derniers(listes);
     std::size_t lignes = 0;
     profiles::parcourirhist(essai.disque, util, [&](std::string_view record) {

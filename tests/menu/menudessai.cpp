@@ -14,7 +14,9 @@ Menudessai::Menudessai() {
 }
 
 void Menudessai::charger() {
-    form = std::make_unique<menu::Form3>(machine.plateforme, v.voisins);
+    form = std::make_unique<menu::Form3>(
+        machine.plateforme, menu::Form3::Voisins{v.form3, v.dialog2, v.options, v.form1, v.multi,
+                                                 v.historique, v.apropos});
     machine.plateforme.accueillir(*form);
     machine.plateforme.executer([&] { form->charger(); });
     form->visible = true;

@@ -10,8 +10,8 @@ class Aides : public testing::TestWithParam<essai::Rangee> {};
 
 TEST_P(Aides, de_la_rangee) {
     const auto& rangee = GetParam();
-    EXPECT_EQ(menu::aidetout(rangee.panneau, rangee.rang), rangee.aidetout);
-    EXPECT_EQ(menu::aidelibelle(rangee.panneau, rangee.rang), rangee.aidelibelle);
+    EXPECT_EQ(menu::aidetout(menu::panneau(rangee.panneau), rangee.rang), rangee.aidetout);
+    EXPECT_EQ(menu::aidelibelle(menu::panneau(rangee.panneau), rangee.rang), rangee.aidelibelle);
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, Aides,
@@ -21,7 +21,7 @@ INSTANTIATE_TEST_SUITE_P(Catalogue, Aides,
 class Aidespanneaux : public testing::TestWithParam<essai::Panneau> {};
 
 TEST_P(Aidespanneaux, a_l_ouverture) {
-    EXPECT_EQ(menu::aidepanneau(GetParam().cle), GetParam().aide);
+    EXPECT_EQ(menu::panneau(GetParam().cle)->aide, GetParam().aide);
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, Aidespanneaux,
@@ -32,14 +32,14 @@ INSTANTIATE_TEST_SUITE_P(Catalogue, Aidespanneaux,
 TEST(Aides, n_existent_pas_hors_des_rangees) {
     for (const auto* cle : {"lc78", "", "78", "duos", "7 8"}) {
         for (std::size_t r = 0; r < 8; ++r) {
-            EXPECT_EQ(menu::aidetout(cle, r), "") << cle;
-            EXPECT_EQ(menu::aidelibelle(cle, r), "") << cle;
+            EXPECT_EQ(menu::aidetout(menu::panneau(cle), r), "") << cle;
+            EXPECT_EQ(menu::aidelibelle(menu::panneau(cle), r), "") << cle;
         }
     }
-    EXPECT_EQ(menu::aidetout("autres", 7), "");
-    EXPECT_EQ(menu::aidelibelle("autres", 7), "");
-    EXPECT_EQ(menu::aidelibelle("bt", 6), "");
-    EXPECT_EQ(menu::aidelibelle("conjm", 7), "");
+    EXPECT_EQ(menu::aidetout(menu::panneau("autres"), 7), "");
+    EXPECT_EQ(menu::aidelibelle(menu::panneau("autres"), 7), "");
+    EXPECT_EQ(menu::aidelibelle(menu::panneau("bt"), 6), "");
+    EXPECT_EQ(menu::aidelibelle(menu::panneau("conjm"), 7), "");
 }
 
 TEST(Bienvenue, nomme_l_utilisateur) {

@@ -143,7 +143,7 @@ TEST_F(Survols, le_message_couvre_l_aide_sur_tous_les_fonds) {
     const auto& fond = controle("fondmessage");
     const auto& message = controle("Label13");
     for (const auto& couleur : profiles::couleursdufond()) {
-        form->donnerfond(couleur.couleur.rvb());
+        form->donnerfond(couleur.couleur);
         EXPECT_NE(message.fond(), form->fond()) << couleur.nom;
         EXPECT_NE(fond.fond(), form->fond()) << couleur.nom;
     }

@@ -229,7 +229,7 @@ TEST_F(Demarrage, apprentissage_ouvre_et_ferme_le_seuil_au_relachement) {
 }
 
 TEST_F(Demarrage, le_fond_va_a_la_case_aussi) {
-    form->donnerfond(0xE0E0E0);
+    form->donnerfond(ui::Couleur(0xE0E0E0));
     EXPECT_EQ(form->fond().nom(), "#E0E0E0");
     EXPECT_EQ(controle("app").fond().nom(), "#E0E0E0");
 }

@@ -18,7 +18,7 @@ common::VariablesDialog2 tailles(std::int16_t series) {
 }
 
 /// The stages on one line, a word each: "refus", the form, or "-".
-std::string montrer(const std::array<menu::Etape, 5>& etapes) {
+std::string montrer(const menu::Etapes& etapes) {
     std::string texte;
     for (const auto& [refus, lancement] : etapes) {
         texte += texte.empty() ? "" : " ";
@@ -45,7 +45,8 @@ class Etapes : public testing::TestWithParam<Ligne> {};
 
 TEST_P(Etapes, font) {
     const auto& [nom, panneau, rangee, persomulti, base, attendu] = GetParam();
-    EXPECT_EQ(montrer(menu::etapes(panneau, rangee, persomulti, base, tailles(5))), attendu);
+    EXPECT_EQ(montrer(menu::etapes(*menu::panneau(panneau), rangee, persomulti, base, tailles(5))),
+              attendu);
 }
 
 // Sizes of five series: 150, 80, 50, 40, 25.
@@ -90,9 +91,11 @@ const Ligne lignes[] = {
 INSTANTIATE_TEST_SUITE_P(Table, Etapes, testing::ValuesIn(lignes), essai::nommer<Ligne>);
 
 TEST(Etapes, d_une_serie_ont_leurs_propres_tailles) {
-    EXPECT_EQ(montrer(menu::etapes("bt", 0, false, 31, tailles(1))), "Form1 - - - -");
-    EXPECT_EQ(montrer(menu::etapes("duos7", 0, false, 20, tailles(1))), "refus refus refus - -");
-    EXPECT_EQ(montrer(menu::etapes("quatquin", 6, false, 11, tailles(1))),
+    EXPECT_EQ(montrer(menu::etapes(*menu::panneau("bt"), 0, false, 31, tailles(1))),
+              "Form1 - - - -");
+    EXPECT_EQ(montrer(menu::etapes(*menu::panneau("duos7"), 0, false, 20, tailles(1))),
+              "refus refus refus - -");
+    EXPECT_EQ(montrer(menu::etapes(*menu::panneau("quatquin"), 6, false, 11, tailles(1))),
               "refus refus refus Multi -");
 }
 
@@ -101,8 +104,8 @@ class Ecrans : public testing::TestWithParam<essai::Rangee> {};
 TEST_P(Ecrans, est_celui_de_la_rangee) {
     const auto& rangee = GetParam();
     const auto attendu = rangee.ecran == "Multi" ? multi : form1;
-    EXPECT_EQ(menu::ecran(rangee.panneau, rangee.rang, false), attendu);
-    EXPECT_EQ(menu::ecran(rangee.panneau, rangee.rang, true),
+    EXPECT_EQ(menu::ecran(*menu::panneau(rangee.panneau), rangee.rang, false), attendu);
+    EXPECT_EQ(menu::ecran(*menu::panneau(rangee.panneau), rangee.rang, true),
               rangee.panneau == "autres" ? multi : attendu);
 }
 
@@ -111,8 +114,8 @@ INSTANTIATE_TEST_SUITE_P(Catalogue, Ecrans,
                          essai::nomderangee);
 
 TEST(Ecrans, de_la_liste_personnelle) {
-    EXPECT_EQ(menu::ecran("autres", 7, false), form1);
-    EXPECT_EQ(menu::ecran("autres", 7, true), multi);
+    EXPECT_EQ(menu::ecran(*menu::panneau("autres"), 7, false), form1);
+    EXPECT_EQ(menu::ecran(*menu::panneau("autres"), 7, true), multi);
 }
 
 // The row behind a part button.
@@ -131,8 +134,7 @@ class Boutons : public testing::TestWithParam<Bouton> {};
 
 TEST_P(Boutons, menent) {
     const auto& [nom, panneau, index, partie, rangee] = GetParam();
-    const auto listes = menu::listesdupanneau(panneau, "perso.txt");
-    const auto trouvee = menu::rangeedepartie(panneau, listes, index, partie);
+    const auto trouvee = menu::rangeedepartie(*menu::panneau(panneau), index, partie);
     EXPECT_EQ(trouvee ? static_cast<int>(*trouvee) : -1, rangee);
 }
 
@@ -149,7 +151,6 @@ const Bouton boutons[] = {
     {"panneau_7_rangee_3", "7", 3, 0, 3},
     {"panneau_7_rangee_0_n_est_rien", "7", 0, 0, -1},
     {"autres_sans_parties", "autres", 7, 0, -1},
-    {"panneau_inconnu", "lc78", 0, 0, -1},
 };
 INSTANTIATE_TEST_SUITE_P(Table, Boutons, testing::ValuesIn(boutons), essai::nommer<Bouton>);
 
@@ -160,7 +161,7 @@ TEST(Chemins, de_la_liste_et_de_sa_revision) {
 
 TEST(Typ, n_est_plein_que_pour_les_rallonges) {
     for (const auto& panneau : essai::lespanneaux())
-        EXPECT_EQ(menu::typdupanneau(panneau.cle), panneau.cle == "rallong" ? "rallong" : "");
+        EXPECT_EQ(menu::panneau(panneau.cle)->typ, panneau.cle == "rallong" ? "rallong" : "");
 }
 
 }  // namespace

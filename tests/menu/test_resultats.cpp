@@ -12,7 +12,9 @@ using Records = std::vector<std::string>;
 /// The rows after the records, from what they showed: "date | result" each, empty ones left out.
 Records actualiser(std::string_view cle, const Records& records, Resultats resultats,
                    std::string_view personnel = "perso.txt") {
-    const auto listes = menu::listesdupanneau(cle, personnel);
+    const auto* panneau = menu::panneau(cle);
+    const auto listes = panneau == nullptr ? std::vector<menu::Liste>()
+                                           : menu::listesdupanneau(*panneau, personnel);
     menu::Derniers derniers(listes);
     for (const auto& record : records)
         derniers.voir(common::vers1252(record));

@@ -10,9 +10,9 @@
 
 #include "application.h"
 #include "dossier.h"
+#include "faces.h"
 #include "fichier.h"
 #include "formulaire.h"
-#include "formulaires.h"
 #include "plateformesimulee.h"
 
 namespace {

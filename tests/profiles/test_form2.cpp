@@ -23,7 +23,7 @@ class Form2 : public testing::Test {
     std::unique_ptr<profiles::Form2> form;
 
     void charger() {
-        form = std::make_unique<profiles::Form2>(machine.plateforme, v.voisins);
+        form = std::make_unique<profiles::Form2>(machine.plateforme, v.form3, v.menu, v.form1);
         machine.plateforme.accueillir(*form);
         machine.plateforme.executer([&] { form->charger(); });
         form->visible = true;

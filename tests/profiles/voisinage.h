@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "dossier.h"
+#include "faces.h"
 #include "formulaire.h"
-#include "formulaires.h"
 #include "plateformesimulee.h"
 #include "texte.h"
 
@@ -22,7 +22,7 @@ namespace essai {
 
 using Journal = std::vector<std::string>;
 
-class Serie : public common::FaceSerie {
+class Serie : public ui::FaceSerie {
   public:
     Serie(Journal& journal, std::string nom) : journal_(journal), nom_(std::move(nom)) {}
     void patienter() override { noter("patienter"); }
@@ -30,7 +30,7 @@ class Serie : public common::FaceSerie {
     void montrer() override { noter("montrer"); }
     void commencer(std::string_view chemin) override { noter("commencer " + std::string(chemin)); }
     void activerseuil(bool actif) override { noter(actif ? "seuil actif" : "seuil inactif"); }
-    void donnerfond(std::uint32_t rvb) override { noter("fond " + ui::Couleur(rvb).nom()); }
+    void donnerfond(ui::Couleur couleur) override { noter("fond " + couleur.nom()); }
 
   private:
     void noter(const std::string& quoi) { journal_.push_back(nom_ + " " + quoi); }
@@ -39,14 +39,14 @@ class Serie : public common::FaceSerie {
     std::string nom_;
 };
 
-class Menu : public common::FaceMenu {
+class Menu : public ui::FaceMenu {
   public:
     explicit Menu(Journal& journal) : journal_(journal) {}
     void montrer() override { journal_.emplace_back("menu montrer"); }
     void maj() override { journal_.emplace_back("menu maj"); }
-    std::uint32_t fond() override { return 0; }
-    void donnerfond(std::uint32_t rvb) override {
-        journal_.push_back("menu fond " + ui::Couleur(rvb).nom());
+    ui::Couleur fond() override { return {}; }
+    void donnerfond(ui::Couleur couleur) override {
+        journal_.push_back("menu fond " + couleur.nom());
     }
     bool app() override { return false; }
     void aide(std::string_view texte) override { journal_.push_back("aide " + std::string(texte)); }
@@ -57,7 +57,7 @@ class Menu : public common::FaceMenu {
 };
 
 /// The options, which tell what the variables held when the colour came.
-class Options : public common::FaceOptions {
+class Options : public ui::FaceOptions {
   public:
     Options(Journal& journal, const common::VariablesDialog2& variables)
         : journal_(journal), variables_(variables) {}
@@ -74,7 +74,7 @@ class Options : public common::FaceOptions {
     const common::VariablesDialog2& variables_;
 };
 
-class Historique : public common::FaceHistorique {
+class Historique : public ui::FaceHistorique {
   public:
     explicit Historique(Journal& journal) : journal_(journal) {}
     void montrer(std::string_view titre) override {
@@ -89,7 +89,7 @@ class Historique : public common::FaceHistorique {
     Journal& journal_;
 };
 
-class Apropos : public common::FaceApropos {
+class Apropos : public ui::FaceApropos {
   public:
     explicit Apropos(Journal& journal) : journal_(journal) {}
     void apropos() override { journal_.emplace_back("apropos"); }
@@ -111,7 +111,7 @@ struct Voisinage {
     Serie multi{journal, "Multi"};
     Historique historique{journal};
     Apropos apropos{journal};
-    common::Voisins voisins{form3, dialog2, menu, options, form1, multi, historique, apropos};
+    ui::Voisins voisins{form3, dialog2, menu, options, form1, multi, historique, apropos};
 
     /// The journal, which starts anew.
     Journal relever() { return std::exchange(journal, {}); }

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "faute.h"
+#include "formulaire.h"
 #include "plateformesimulee.h"
 
 namespace {
@@ -29,6 +30,50 @@ TEST_F(Executer, une_exception_imprevue_est_une_faute) {
     plateforme.executer([] { throw std::out_of_range("index"); });
     EXPECT_EQ(plateforme.statut(), 1);
     EXPECT_THAT(plateforme.rapport().value_or(""), HasSubstr("index"));
+}
+
+/// A form whose handlers fail.
+class Imprevu : public Executer {
+  protected:
+    ui::Formulaire form{plateforme, "Form3"};
+    ui::Controle& bouton{form.ajouter(ui::Genre::Bouton, "Command14", 2)};
+    ui::Controle& boite{form.ajouter(ui::Genre::Boite, "Text2")};
+
+    static void rompre() { throw std::out_of_range("rangée 9"); }
+    [[nodiscard]] std::string rapport() const { return plateforme.rapport().value_or("aucun"); }
+};
+
+TEST_F(Imprevu, est_rapporte_avec_le_formulaire_et_le_controle) {
+    bouton.clic = rompre;
+    plateforme.executer([&] { form.cliquer(bouton); });
+    EXPECT_EQ(rapport(), "Erreur imprévue dans Form3.Command14(2) : rangée 9");
+}
+
+TEST_F(Imprevu, est_celui_du_controle_le_plus_interieur) {
+    boite.sortie = rompre;
+    plateforme.executer([&] { form.focaliser(boite); });
+    plateforme.executer([&] { form.cliquer(bouton); });
+    EXPECT_EQ(rapport(), "Erreur imprévue dans Form3.Text2 : rangée 9");
+}
+
+TEST_F(Imprevu, d_une_minuterie_porte_son_nom) {
+    auto& minuterie = form.ajouterminuterie("Timer1");
+    minuterie.tic = rompre;
+    plateforme.executer([&] { ui::survenir(minuterie, minuterie.tic); });
+    EXPECT_EQ(rapport(), "Erreur imprévue dans Form3.Timer1 : rangée 9");
+}
+
+TEST_F(Imprevu, du_formulaire_ne_nomme_que_lui) {
+    form.fermeture = rompre;
+    plateforme.executer([&] { form.fermer(); });
+    EXPECT_EQ(rapport(), "Erreur imprévue dans Form3 : rangée 9");
+}
+
+TEST_F(Imprevu, hors_de_tout_evenement_ne_nomme_rien) {
+    bouton.clic = [&] { noter("clic"); };
+    plateforme.executer([&] { form.cliquer(bouton); });
+    plateforme.executer(rompre);
+    EXPECT_EQ(rapport(), "Erreur imprévue : rangée 9");
 }
 
 TEST_F(Executer, terminer_finit_sans_rapport) {

@@ -185,7 +185,7 @@ void Boite::poser(const QMouseEvent& evenement, bool etendre) {
 
 void Boite::cliquer() {
     // The press has set the caret: what is left of a click is its event.
-    executer([this] { declencher(controle()->clic); });
+    executer([this] { survenir(*controle(), controle()->clic); });
 }
 
 void Boite::mousePressEvent(QMouseEvent* evenement) {

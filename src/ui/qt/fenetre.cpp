@@ -382,7 +382,7 @@ void Fenetre::activation(bool active) {
     }
     redessiner(focus_);
     if (!active && isVisible())
-        executer([this] { declencher(formulaire_->desactivation); });
+        executer([this] { survenir(*formulaire_, formulaire_->desactivation); });
 }
 
 }  // namespace ui::qt

@@ -77,9 +77,9 @@ bool Fenetre::touchelongue(Controle& controle, const QKeyEvent& evenement) {
             formulaire_->enfoncer(touche);
             return;
         }
-        declencher(formulaire_->toucheenfoncee, touche);
+        survenir(*formulaire_, formulaire_->toucheenfoncee, touche);
         if (!touche.avalee)
-            declencher(controle.toucheenfoncee, touche);
+            survenir(controle, controle.toucheenfoncee, touche);
     });
     return touche.avalee || touche.code == touches::tab;
 }

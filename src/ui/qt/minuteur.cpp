@@ -89,7 +89,7 @@ void Minuteur::echoir() {
         rang = static_cast<std::size_t>(suivi - suivis_.data()) + 1;
         const auto retard = std::max<std::int64_t>(0, maintenant - suivi->echeance);
         suivi->echeance += periode * (1 + retard / periode);
-        executer_([minuterie = suivi->minuterie] { declencher(minuterie->tic); });
+        executer_([minuterie = suivi->minuterie] { survenir(*minuterie, minuterie->tic); });
     }
     armer();
 }

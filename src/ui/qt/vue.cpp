@@ -122,7 +122,7 @@ void Vue::avant(const QEvent& evenement) {
         case QEvent::Enter:
         case QEvent::MouseMove:
             if (controle_->survol)
-                executer([this] { declencher(controle_->survol); });
+                executer([this] { survenir(*controle_, controle_->survol); });
             break;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
@@ -158,7 +158,7 @@ void Vue::relacher(const QMouseEvent& evenement) {
     if (clic && controle_ != nullptr && Formulaire::accessible(*controle_))
         cliquer();
     if (controle_ != nullptr && Formulaire::accessible(*controle_) && controle_->relache)
-        executer([this] { declencher(controle_->relache); });
+        executer([this] { survenir(*controle_, controle_->relache); });
 }
 
 QString Vue::texte() const {

@@ -155,7 +155,7 @@ TEST(Catalogue, chaque_rangee_a_son_libelle_son_fichier_ses_parties_et_son_insig
         EXPECT_EQ(rangee.fichier, ligne.fichier);
         EXPECT_EQ(rangee.parties, std::string_view(ligne.parties).size());
         EXPECT_EQ(insigne(rangee.insigne), ligne.insigne);
-        EXPECT_EQ(rangee.ecran, ligne.ecran);
+        EXPECT_EQ(rangee.ecran(), ligne.ecran);
     }
 }
 

@@ -102,7 +102,7 @@ class Reseau : public testing::Test {
 
     Journal verifier() { return verifier(serveur); }
     Journal verifier(const Serveur& ou) {
-        dialogs::MiseAJour verification(v.plateforme, v.voisins,
+        dialogs::MiseAJour verification(v.plateforme, v.form3, v.menu,
                                         {ou.adresse(cheminversion), ou.adresse(cheminlien), page});
         v.plateforme.executer([&] { verification.verifier(); });
         return v.relever();
@@ -346,7 +346,7 @@ TEST_F(Reseau, une_adresse_https_sur_un_serveur_qui_ne_l_est_pas) {
     publier("2.68\r\n");
     auto adresse = serveur.adresse(cheminversion);
     adresse.replace(0, 4, "https");
-    dialogs::MiseAJour verification(v.plateforme, v.voisins, {adresse, "", page});
+    dialogs::MiseAJour verification(v.plateforme, v.form3, v.menu, {adresse, "", page});
     v.plateforme.executer([&] { verification.verifier(); });
     EXPECT_EQ(v.relever(), (Journal{echecverification, ouvrirpage}));
 }

@@ -3,14 +3,14 @@
 // The small faces that forms show one another. `application` holds the real
 // ones and makes a form at the first touch of it.
 
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "partage.h"
+#include "valeurs.h"
 
-namespace common {
+namespace ui {
 
 /// What the menu sees of a series form (`Form1`, `Multi`).
 class FaceSerie {
@@ -28,8 +28,7 @@ class FaceSerie {
     virtual void commencer(std::string_view chemin) = 0;
     /// Enables or disables the box of the threshold (`seuiltxt`).
     virtual void activerseuil(bool actif) = 0;
-    /// Gives the form its background colour, 0xRRGGBB.
-    virtual void donnerfond(std::uint32_t rvb) = 0;
+    virtual void donnerfond(Couleur couleur) = 0;
 };
 
 /// What the other forms see of the menu (`Form3`).
@@ -42,9 +41,9 @@ class FaceMenu {
     virtual void montrer() = 0;
     /// Reads the results again and rewrites the table.
     virtual void maj() = 0;
-    /// The menu's background colour, 0xRRGGBB.
-    [[nodiscard]] virtual std::uint32_t fond() = 0;
-    virtual void donnerfond(std::uint32_t rvb) = 0;
+    /// The menu's background colour.
+    [[nodiscard]] virtual Couleur fond() = 0;
+    virtual void donnerfond(Couleur couleur) = 0;
     /// The check box `app` ("Apprentissage") is ticked.
     [[nodiscard]] virtual bool app() = 0;
     /// Writes the help box (`Label11`).
@@ -96,10 +95,11 @@ class FaceApropos {
     virtual void verifiermiseajour() = 0;
 };
 
-/// Everything a form may know of the others.
+/// The whole program as forms know one another, for whoever drives it from outside. A form is given
+/// only what it uses.
 struct Voisins {
-    VariablesForm3& form3;
-    VariablesDialog2& dialog2;
+    common::VariablesForm3& form3;
+    common::VariablesDialog2& dialog2;
     FaceMenu& menu;
     FaceOptions& options;
     FaceSerie& form1;
@@ -108,4 +108,4 @@ struct Voisins {
     FaceApropos& apropos;
 };
 
-}  // namespace common
+}  // namespace ui

@@ -1,13 +1,15 @@
-#include "dialog2_dessin.h"
+// The design of the options: places in twips, fixed texts.
 
 #include <array>
 #include <string>
 #include <string_view>
 
+#include "dialog2.h"
+
 namespace dialogs {
 namespace {
 
-// Twips. Three columns: what a line is about, its value, its unit.
+// Three columns: what a line is about, its value, its unit.
 constexpr int marge = 360;
 constexpr int colonnevaleur = 4860;
 constexpr int colonneunite = 5760;
@@ -21,6 +23,8 @@ constexpr int hauteurboite = 345;
 constexpr int largeurbouton = 1680;
 constexpr int hauteurbouton = 450;
 constexpr double tailletitre = 11;
+/// Warm, and readable on each of the six backgrounds.
+constexpr ui::Couleur couleurdumessage{0x8C1500};
 
 // The lines of the form, from top to bottom.
 constexpr int ligneseuils = 180;
@@ -144,29 +148,31 @@ void filet(ui::Formulaire& form, int index, int haut) {
 
 }  // namespace
 
-void dessinerdialog2(ui::Formulaire& form) {
-    form.largeur = largeurforme;
-    form.hauteur = hauteurforme;
+/// Makes the labels of fixed text, and gives every control its place.
+void Dialog2::disposer() {
+    largeur = largeurforme;
+    hauteur = hauteurforme;
+    message_.couleur = couleurdumessage;
     for (const auto& titre : titres) {
         const bool fondu = titre.index >= premiertitrefondu;
-        auto& controle =
-            etiquette(form, titre, marge, fondu ? largeurlibelle : largeurforme - 2 * marge);
-        controle.gras = true;
-        controle.taille = tailletitre;
-        controle.aspect = ui::Aspect::Titre;
-        controle.fondu = fondu;
+        auto& pose =
+            etiquette(*this, titre, marge, fondu ? largeurlibelle : largeurforme - 2 * marge);
+        pose.gras = true;
+        pose.taille = tailletitre;
+        pose.aspect = ui::Aspect::Titre;
+        pose.fondu = fondu;
     }
     for (const auto& libelle : libelles)
-        etiquette(form, libelle, marge, largeurlibelle);
+        etiquette(*this, libelle, marge, largeurlibelle);
     for (const auto& unite : unites)
-        etiquette(form, unite, colonneunite, largeurunite);
+        etiquette(*this, unite, colonneunite, largeurunite);
     int index = 0;
     for (const int haut : {lignechrono, ligneechantillons, lignecouleur, lignemessage})
-        filet(form, index++, haut - ecartsousfilet);
+        filet(*this, index++, haut - ecartsousfilet);
     for (const auto& place : places) {
-        auto& controle = form.controle(place.nom, place.index);
-        controle.placer(place.cadre);
-        controle.accessible = std::string(place.nomaccessible);
+        auto& pose = controle(place.nom, place.index);
+        pose.placer(place.cadre);
+        pose.accessible = std::string(place.nomaccessible);
     }
 }
 
