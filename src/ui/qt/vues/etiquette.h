@@ -9,7 +9,7 @@ namespace ui::qt {
 /// A label: its text breaks at blanks, and is drawn smaller rather than clipped.
 class Etiquette : public VueDe<QLabel> {
   public:
-    Etiquette(QWidget& parent, Fenetre& fenetre, Controle& controle);
+    Etiquette(QWidget& parent, Hote& hote, Controle& controle);
 
   protected:
     void montrer(Champs champs) override;

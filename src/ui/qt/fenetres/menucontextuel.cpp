@@ -3,17 +3,20 @@
 #include <QCursor>
 #include <QMenu>
 #include <QTimer>
+#include <QWidget>
 
-#include "fenetre.h"
+#include "hote.h"
 #include "texteqt.h"
 
 namespace ui::qt {
+
 QMenu* MenuContextuel::menu() const {
     return menu_;
 }
 
-void MenuContextuel::accorder() {
-    const auto* voulu = fenetre_.orpheline() ? nullptr : fenetre_.formulaire().menuouvert();
+void MenuContextuel::accorder(Formulaire* formulaire) {
+    formulaire_ = formulaire;
+    const auto* voulu = formulaire == nullptr ? nullptr : formulaire->menuouvert();
     if (voulu == montre_)
         return;
     fermer();
@@ -25,21 +28,21 @@ void MenuContextuel::accorder() {
 void MenuContextuel::ouvrir(const Menu& menu) {
     menu_ = new QMenu(&fenetre_);
     menu_->setObjectName(versqt(menu.nom));
-    menu_->setFont(fenetre_.fontedemenu());
+    menu_->setFont(hote_.fontedemenu());
     for (auto* entree : menu.entrees) {
         auto* action = menu_->addAction(versqt(entree->texte()));
         action->setObjectName(versqt(entree->nomcomplet()));
         action->setEnabled(entree->actif());
         action->setVisible(entree->visible());
         QObject::connect(action, &QAction::triggered, &fenetre_, [this, entree] {
-            fenetre_.executer([&] { fenetre_.formulaire().choisirentree(*entree); });
+            hote_.executer([&] { formulaire_->choisirentree(*entree); });
         });
     }
     // Qt hides a menu before it tells the choice: whether there was one is known afterwards.
     QObject::connect(menu_, &QMenu::aboutToHide, &fenetre_, [this, cache = menu_] {
         QTimer::singleShot(0, &fenetre_, [this, cache] {
-            if (!fenetre_.orpheline() && cache != nullptr && menu_ == cache)
-                fenetre_.executer([this] { fenetre_.formulaire().fermermenu(); });
+            if (formulaire_ != nullptr && cache != nullptr && menu_ == cache)
+                hote_.executer([this] { formulaire_->fermermenu(); });
         });
     });
     auto place = QCursor::pos();

@@ -9,7 +9,7 @@ namespace ui::qt {
 /// A check box. The model ticks it; the widget only reports the click.
 class CaseCochee : public VueDe<QCheckBox> {
   public:
-    CaseCochee(QWidget& parent, Fenetre& fenetre, Controle& controle);
+    CaseCochee(QWidget& parent, Hote& hote, Controle& controle);
 
   protected:
     [[nodiscard]] bool clicnatif() const override { return true; }

@@ -13,7 +13,7 @@
 
 #include "clavierqt.h"
 #include "dessin.h"
-#include "fenetre.h"
+#include "formulaire.h"
 #include "menuedition.h"
 #include "pressepapiers.h"
 #include "texteqt.h"
@@ -30,8 +30,7 @@ constexpr double epaisseurcurseur = 1.6;
 
 }  // namespace
 
-Boite::Boite(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : VueDe(parent, fenetre, controle) {
+Boite::Boite(QWidget& parent, Hote& hote, Controle& controle) : VueDe(parent, hote, controle) {
     setFrame(false);
     setDragEnabled(false);
     setAcceptDrops(false);

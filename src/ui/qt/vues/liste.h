@@ -7,7 +7,7 @@ namespace ui::qt {
 /// A combo box with an editable text: a text box whose arrow, or Down or F4, opens the entries.
 class Liste : public Boite {
   public:
-    Liste(QWidget& parent, Fenetre& fenetre, Controle& controle);
+    Liste(QWidget& parent, Hote& hote, Controle& controle);
 
     bool touchepropre(const QKeyEvent& evenement) override;
 

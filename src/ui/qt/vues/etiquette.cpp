@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include "dessin.h"
-#include "fenetre.h"
 #include "fonte.h"
 #include "theme.h"
 
@@ -31,8 +30,8 @@ Qt::Alignment alignementqt(Alignement alignement) {
 
 }  // namespace
 
-Etiquette::Etiquette(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : VueDe(parent, fenetre, controle) {
+Etiquette::Etiquette(QWidget& parent, Hote& hote, Controle& controle)
+    : VueDe(parent, hote, controle) {
     setTextFormat(Qt::PlainText);
 }
 

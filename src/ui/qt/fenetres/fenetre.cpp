@@ -10,12 +10,12 @@
 #include <QScreen>
 #include <QWindow>
 
-#include "fenetrier.h"
+#include "bureau.h"
 #include "fonte.h"
 #include "menucontextuel.h"
+#include "nouvellevue.h"
 #include "texteqt.h"
 #include "theme.h"
-#include "vues.h"
 
 namespace ui::qt {
 namespace {
@@ -43,10 +43,10 @@ QSize enpixels(const QSize& design, double facteur) {
 
 }  // namespace
 
-Fenetre::Fenetre(Fenetrier& fenetrier, Formulaire& formulaire)
-    : fenetrier_(fenetrier),
+Fenetre::Fenetre(Bureau& bureau, Formulaire& formulaire)
+    : bureau_(bureau),
       formulaire_(&formulaire),
-      deroulant_(std::make_unique<MenuContextuel>(*this)) {
+      deroulant_(std::make_unique<MenuContextuel>(*this, *this)) {
     setObjectName(versqt(formulaire.nom()));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
@@ -67,7 +67,7 @@ void Fenetre::completer() {
     const auto& controles = formulaire_->controles();
     for (auto i = vues_.size() + entrees_; i < controles.size(); ++i) {
         auto& controle = *controles[i];
-        auto* vue = nouvellevue(*this, controle);
+        auto* vue = nouvellevue(*this, *this, controle);
         if (vue == nullptr) {
             ++entrees_;
             continue;
@@ -122,34 +122,34 @@ QMenu* Fenetre::menu() const {
 }
 
 QString Fenetre::chemin(std::string_view image) const {
-    return fenetrier_.chemin(image);
+    return bureau_.chemin(image);
 }
 
 void Fenetre::executer(const std::function<void()>& evenement) {
     if (!orpheline())
-        fenetrier_.executer(evenement);
+        bureau_.executer(evenement);
 }
 
 void Fenetre::modifie(ChampFormulaire champ) {
     champs_ |= bit(champ);
     appelee_ = appelee_ || champ == ChampFormulaire::Montre;
-    fenetrier_.demanderrafraichissement();
+    bureau_.demanderrafraichissement();
 }
 
 void Fenetre::adieu() {
     for (auto* vue : vues_)
         vue->detacher();
     auto* partant = std::exchange(formulaire_, nullptr);
-    deroulant_->accorder();
+    deroulant_->accorder(formulaire_);
     notees_.clear();
     hide();
-    fenetrier_.oublier(*this, *partant);
+    bureau_.oublier(*this, *partant);
     deleteLater();
 }
 
 void Fenetre::noter(Vue& vue) {
     notees_.push_back(&vue);
-    fenetrier_.demanderrafraichissement();
+    bureau_.demanderrafraichissement();
 }
 
 void Fenetre::montrercontroles() {
@@ -220,7 +220,7 @@ QSize Fenetre::tailledessinee() const {
 void Fenetre::dimensionner() {
     dimensionnee_ = true;
     design_ = tailledessinee();
-    const auto* voisine = fenetrier_.enavant();
+    const auto* voisine = bureau_.enavant();
     const auto place = (voisine != nullptr ? voisine : this)->screen()->availableGeometry();
     voulue_ =
         std::min(partwip(place.size() - QSize(0, decor), design_.expandedTo(designdereference)),
@@ -256,11 +256,11 @@ void Fenetre::apparaitre() {
         return;
     if (!dimensionnee_)
         dimensionner();
-    const auto* voisine = fenetrier_.enavant();
+    const auto* voisine = bureau_.enavant();
     if (formulaire_->devant())
         ouvrirdevant();
     else
-        fenetrier_.montree(*this);
+        bureau_.montree(*this);
     // A window that follows another comes up dressed. The first one, for which somebody waits, is
     // dressed while the desktop finds it its place, and painted no earlier either.
     if (voisine != nullptr)
@@ -275,14 +275,14 @@ void Fenetre::ouvrirdevant() {
     if (windowType() != Qt::Dialog)
         setWindowFlags(Qt::Dialog);
     winId();  // makes the window of the system
-    if (const auto* dessous = fenetrier_.proprietaire(); dessous != nullptr)
+    if (const auto* dessous = bureau_.proprietaire(); dessous != nullptr)
         windowHandle()->setTransientParent(dessous->windowHandle());
 }
 
 /// Follows the window to stay in front of. Desktops ask whose a window is when it shows itself, so
 /// it does that again, without taking the keyboard.
 void Fenetre::rattacher() {
-    auto* dessous = fenetrier_.proprietaire();
+    auto* dessous = bureau_.proprietaire();
     if (!formulaire_->devant() || !isVisible() || dessous == nullptr ||
         windowHandle()->transientParent() == dessous->windowHandle())
         return;
@@ -299,7 +299,7 @@ void Fenetre::rattacher() {
 void Fenetre::revenir() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
-    fenetrier_.garderdevant(*this);
+    bureau_.garderdevant(*this);
     activateWindow();
 }
 
@@ -311,7 +311,7 @@ void Fenetre::disparaitre() {
 void Fenetre::accorder() {
     accorderfocus();
     accorderdefaut();
-    deroulant_->accorder();
+    deroulant_->accorder(formulaire_);
 }
 
 void Fenetre::accorderdefaut() {
@@ -334,7 +334,7 @@ void Fenetre::paintEvent(QPaintEvent* evenement) {
     const auto fond = orpheline() ? Couleur::bouton() : formulaire_->fond();
     peintre.fillRect(evenement->rect(), couleurqt(fond));
     if (!orpheline())
-        fenetrier_.peinte();
+        bureau_.peinte();
 }
 
 void Fenetre::resizeEvent(QResizeEvent* evenement) {
@@ -377,7 +377,7 @@ void Fenetre::activation(bool active) {
         return;
     active_ = active;
     if (active) {
-        fenetrier_.activee(*this);
+        bureau_.activee(*this);
         accorderfocus();
     }
     redessiner(focus_);

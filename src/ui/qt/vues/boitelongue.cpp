@@ -8,7 +8,6 @@
 #include <QScrollBar>
 
 #include "dessin.h"
-#include "fenetre.h"
 #include "menuedition.h"
 #include "texteqt.h"
 #include "theme.h"
@@ -26,8 +25,8 @@ QString lignesqt(std::string_view texte) {
 
 }  // namespace
 
-BoiteLongue::BoiteLongue(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : VueDe(parent, fenetre, controle) {
+BoiteLongue::BoiteLongue(QWidget& parent, Hote& hote, Controle& controle)
+    : VueDe(parent, hote, controle) {
     setFrameShape(QFrame::NoFrame);
     setUndoRedoEnabled(false);
     setAcceptDrops(false);

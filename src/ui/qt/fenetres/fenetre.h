@@ -7,8 +7,8 @@
 
 #include <QWidget>
 
-#include "echelle.h"
 #include "formulaire.h"
+#include "hote.h"
 #include "vue.h"
 
 class QKeyEvent;
@@ -16,14 +16,14 @@ class QMenu;
 
 namespace ui::qt {
 
-class Fenetrier;
+class Bureau;
 class MenuContextuel;
 
 /// The window of a form: its whole design at the scale that fits, the way from the keyboard to the
 /// model, and the focus of Qt kept where the model has it.
-class Fenetre : public QWidget, public VueFormulaire {
+class Fenetre : public QWidget, public VueFormulaire, public Hote {
   public:
-    Fenetre(Fenetrier& fenetrier, Formulaire& formulaire);
+    Fenetre(Bureau& bureau, Formulaire& formulaire);
     Fenetre(const Fenetre&) = delete;
     Fenetre& operator=(const Fenetre&) = delete;
     ~Fenetre() override;
@@ -31,25 +31,25 @@ class Fenetre : public QWidget, public VueFormulaire {
     [[nodiscard]] Formulaire& formulaire() const { return *formulaire_; }
     /// The form is gone; the window only waits for its end.
     [[nodiscard]] bool orpheline() const { return formulaire_ == nullptr; }
-    [[nodiscard]] const Echelle& echelle() const { return echelle_; }
+    [[nodiscard]] const Echelle& echelle() const override { return echelle_; }
     /// The controls have their widgets: the window was shown once.
     [[nodiscard]] bool habillee() const { return dimensionnee_; }
-    [[nodiscard]] QFont fontedemenu() const;
+    [[nodiscard]] QFont fontedemenu() const override;
     [[nodiscard]] Vue* vuede(const Controle& controle) const;
     [[nodiscard]] QMenu* menu() const;
     /// The window, or a pop-up menu of its own, is the one that the user works in.
-    [[nodiscard]] bool active() const { return active_; }
+    [[nodiscard]] bool active() const override { return active_; }
     /// The working folder of the pictures.
-    [[nodiscard]] QString chemin(std::string_view image) const;
+    [[nodiscard]] QString chemin(std::string_view image) const override;
 
     /// Runs a report of the user into the model, then shows what it has changed.
-    void executer(const std::function<void()>& evenement);
+    void executer(const std::function<void()>& evenement) override;
 
     void modifie(ChampFormulaire champ) override;
     void adieu() override;
 
     /// Told by a view that is to be brought to its control.
-    void noter(Vue& vue);
+    void noter(Vue& vue) override;
 
     // The steps of a refresh, in this order, over all windows.
     void montrercontroles();
@@ -101,7 +101,7 @@ class Fenetre : public QWidget, public VueFormulaire {
     bool pressepapiers(const Controle& controle, const QKeyEvent& evenement);
     void relacher(const QKeyEvent& evenement);
 
-    Fenetrier& fenetrier_;
+    Bureau& bureau_;
     Formulaire* formulaire_;
     Echelle echelle_;
     std::vector<Vue*> vues_;  ///< in the order of the form's controls; the widgets are owned by Qt

@@ -10,7 +10,7 @@ namespace ui::qt {
 /// A button or a letter tile. Every press and release on it is a click, however fast they come.
 class Bouton : public VueDe<QPushButton> {
   public:
-    Bouton(QWidget& parent, Fenetre& fenetre, Controle& controle);
+    Bouton(QWidget& parent, Hote& hote, Controle& controle);
 
   protected:
     [[nodiscard]] bool clicnatif() const override { return true; }

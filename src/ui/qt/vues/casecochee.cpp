@@ -5,7 +5,6 @@
 #include <QPainter>
 
 #include "dessin.h"
-#include "fenetre.h"
 #include "fonte.h"
 #include "theme.h"
 
@@ -19,8 +18,8 @@ constexpr double rayon = 5;
 
 }  // namespace
 
-CaseCochee::CaseCochee(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : VueDe(parent, fenetre, controle) {
+CaseCochee::CaseCochee(QWidget& parent, Hote& hote, Controle& controle)
+    : VueDe(parent, hote, controle) {
     QObject::connect(this, &QAbstractButton::clicked, this, [this] {
         if (this->controle() != nullptr)
             cliquer();

@@ -9,13 +9,12 @@
 #include <QWidget>
 
 #include "controle.h"
+#include "hote.h"
 
 class QKeyEvent;
 class QMouseEvent;
 
 namespace ui::qt {
-
-class Fenetre;
 
 /// A set of properties of a control.
 using Champs = std::uint32_t;
@@ -37,7 +36,7 @@ inline constexpr Champs champsfonte =
 /// model when the window asks for it, and reports the mouse.
 class Vue : public VueControle {
   public:
-    Vue(Fenetre& fenetre, Controle& controle);
+    Vue(Hote& hote, Controle& controle);
     Vue(const Vue&) = delete;
     Vue& operator=(const Vue&) = delete;
     ~Vue() override;
@@ -74,7 +73,7 @@ class Vue : public VueControle {
     void avant(const QEvent& evenement);
     void apres(const QEvent& evenement);
 
-    [[nodiscard]] Fenetre& fenetre() const { return fenetre_; }
+    [[nodiscard]] Hote& hote() const { return hote_; }
     void executer(const std::function<void()>& evenement) const;
     /// The control's text.
     [[nodiscard]] QString texte() const;
@@ -94,7 +93,7 @@ class Vue : public VueControle {
     void presser(const QMouseEvent& evenement);
     void relacher(const QMouseEvent& evenement);
 
-    Fenetre& fenetre_;
+    Hote& hote_;
     Controle* controle_;
     QFont fonte_;
     Champs champs_ = tous;
@@ -106,8 +105,7 @@ class Vue : public VueControle {
 template <class W>
 class VueDe : public W, public Vue {
   public:
-    VueDe(QWidget& parent, Fenetre& fenetre, Controle& controle)
-        : W(&parent), Vue(fenetre, controle) {}
+    VueDe(QWidget& parent, Hote& hote, Controle& controle) : W(&parent), Vue(hote, controle) {}
     [[nodiscard]] QWidget& widget() override { return *this; }
 
   protected:

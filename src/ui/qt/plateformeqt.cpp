@@ -1,4 +1,4 @@
-#include "plateforme_qt.h"
+#include "plateformeqt.h"
 
 #include <filesystem>
 

@@ -9,7 +9,7 @@ namespace ui::qt {
 /// A text box of several lines. Qt edits; the model is told the text.
 class BoiteLongue : public VueDe<QPlainTextEdit> {
   public:
-    BoiteLongue(QWidget& parent, Fenetre& fenetre, Controle& controle);
+    BoiteLongue(QWidget& parent, Hote& hote, Controle& controle);
 
   protected:
     void montrer(Champs champs) override;

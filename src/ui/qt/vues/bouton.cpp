@@ -5,8 +5,8 @@
 
 #include <QPainter>
 
-#include "fenetre.h"
 #include "fonte.h"
+#include "formulaire.h"
 #include "theme.h"
 
 namespace ui::qt {
@@ -25,8 +25,7 @@ QSizeF placetexte(const QSize& taille, double unite) {
 
 }  // namespace
 
-Bouton::Bouton(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : VueDe(parent, fenetre, controle) {
+Bouton::Bouton(QWidget& parent, Hote& hote, Controle& controle) : VueDe(parent, hote, controle) {
     QObject::connect(this, &QAbstractButton::clicked, this, [this] {
         if (this->controle() != nullptr)
             cliquer();

@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "dessin.h"
-#include "fenetre.h"
+#include "formulaire.h"
 #include "texteqt.h"
 #include "theme.h"
 
@@ -16,8 +16,7 @@ constexpr double largeurfleche = 24;  // pixels of the design
 
 }  // namespace
 
-Liste::Liste(QWidget& parent, Fenetre& fenetre, Controle& controle)
-    : Boite(parent, fenetre, controle) {}
+Liste::Liste(QWidget& parent, Hote& hote, Controle& controle) : Boite(parent, hote, controle) {}
 
 QString Liste::description() const {
     return QStringLiteral("Liste : la touche Bas l'ouvre");

@@ -6,7 +6,7 @@
 #include <QPainter>
 
 #include "dessin.h"
-#include "fenetre.h"
+#include "formulaire.h"
 #include "images.h"
 #include "theme.h"
 
@@ -20,7 +20,7 @@ constexpr double forceligne = .3;
 }  // namespace
 
 void Image::charger() {
-    const auto chemin = fenetre().chemin(controle()->image());
+    const auto chemin = hote().chemin(controle()->image());
     if (!vignette_.isNull() && chemin == chemin_ && size() == place_ &&
         vignette_.devicePixelRatio() == devicePixelRatio())
         return;

@@ -5,8 +5,8 @@
 #include <QCursor>
 #include <QMouseEvent>
 
-#include "fenetre.h"
 #include "fonte.h"
+#include "formulaire.h"
 #include "texteqt.h"
 #include "theme.h"
 
@@ -34,7 +34,7 @@ Qt::CursorShape forme(Pointeur pointeur) {
 
 }  // namespace
 
-Vue::Vue(Fenetre& fenetre, Controle& controle) : fenetre_(fenetre), controle_(&controle) {
+Vue::Vue(Hote& hote, Controle& controle) : hote_(hote), controle_(&controle) {
     controle.vue = this;
 }
 
@@ -51,7 +51,7 @@ void Vue::detacher() {
 void Vue::modifie(Champ champ) {
     champs_ |= ensemble(champ);
     if (!std::exchange(notee_, true))
-        fenetre_.noter(*this);
+        hote_.noter(*this);
 }
 
 void Vue::appliquer() {
@@ -63,7 +63,7 @@ void Vue::appliquer() {
     if ((champs & champsplace) != 0)
         cible.setGeometry(place());
     if ((champs & (champsfonte | champsplace)) != 0)
-        fonte_ = qt::fonte(*controle_, fenetre_.echelle().corps(controle_->taille()), cible);
+        fonte_ = qt::fonte(*controle_, hote_.echelle().corps(controle_->taille()), cible);
     if ((champs & ensemble(Champ::Infobulle)) != 0)
         cible.setToolTip(bulle(controle_->infobulle()));
     if ((champs & ensemble(Champ::Accessible, Champ::Texte)) != 0) {
@@ -87,13 +87,13 @@ void Vue::appliquer() {
 void Vue::montrer(Champs /*champs*/) {}
 
 QRect Vue::place() const {
-    return fenetre_.echelle().cadre(
+    return hote_.echelle().cadre(
         {controle_->gauche(), controle_->haut(), controle_->largeur(), controle_->hauteur()});
 }
 
 void Vue::montrerpointeur() {
     auto& cible = widget();
-    const bool attente = fenetre_.formulaire().pointeur() == Pointeur::Attente;
+    const bool attente = controle_->formulaire().pointeur() == Pointeur::Attente;
     const bool etiquettecliquable = controle_->clic && (controle_->genre() == Genre::Etiquette);
     if (attente)
         cible.setCursor(Qt::WaitCursor);
@@ -108,7 +108,7 @@ void Vue::montrerpointeur() {
 }
 
 void Vue::executer(const std::function<void()>& evenement) const {
-    fenetre_.executer(evenement);
+    hote_.executer(evenement);
 }
 
 void Vue::cliquer() {
@@ -170,11 +170,11 @@ QString Vue::description() const {
 }
 
 QFont Vue::fontedemenu() const {
-    return fenetre_.fontedemenu();
+    return hote_.fontedemenu();
 }
 
 double Vue::unite() const {
-    return fenetre_.echelle().unite();
+    return hote_.echelle().unite();
 }
 
 bool Vue::sansfond() const {
@@ -183,8 +183,7 @@ bool Vue::sansfond() const {
 }
 
 bool Vue::alefocus() const {
-    return controle_ != nullptr && controle_->formulaire().focus() == controle_ &&
-           fenetre_.active();
+    return controle_ != nullptr && controle_->formulaire().focus() == controle_ && hote_.active();
 }
 
 }  // namespace ui::qt

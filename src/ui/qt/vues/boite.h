@@ -13,7 +13,7 @@ namespace ui::qt {
 /// to the last two.
 class Boite : public VueDe<QLineEdit> {
   public:
-    Boite(QWidget& parent, Fenetre& fenetre, Controle& controle);
+    Boite(QWidget& parent, Hote& hote, Controle& controle);
 
     void accorder() override;
 

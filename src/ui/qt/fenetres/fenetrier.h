@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QString>
 
+#include "bureau.h"
 #include "formulaire.h"
 #include "minuteur.h"
 
@@ -17,11 +18,9 @@ class QWidget;
 
 namespace ui::qt {
 
-class Fenetre;
-
 /// Makes the windows of forms, keeps them in step with the model, and drives the forms' timers. It
 /// knows nothing of clock, disk or network: any platform may hand its forms to one.
-class Fenetrier : public QObject {
+class Fenetrier : public QObject, public Bureau {
   public:
     struct Reglages {
         bool minuteries = true;         ///< drive the forms' timers by the machine's clock
@@ -46,33 +45,26 @@ class Fenetrier : public QObject {
     /// The pop-up menu of a form, if it is on screen. Its actions bear the full names of the
     /// entries as object names.
     [[nodiscard]] QMenu* menu(const Formulaire& formulaire) const;
-    /// The window that is in front, or was last; null if none is shown.
-    [[nodiscard]] Fenetre* enavant() const;
-    /// The window that those of forms that stay in front belong to: of the others the one that was
-    /// active or shown last. Null if none is shown.
-    [[nodiscard]] Fenetre* proprietaire() const;
+    /// The windows of the forms that live, in the order of `accueillir`.
     [[nodiscard]] const std::vector<Fenetre*>& fenetres() const { return fenetres_; }
 
-    /// Runs an event in the model, then brings the windows to it.
-    void executer(const std::function<void()>& evenement);
-    /// Brings the windows to the model. Done after every event of the windows, and by itself, as
-    /// soon as events run, after a change from elsewhere.
+    /// Brings the windows up to date with the model. Done after each event of the windows; after a
+    /// change from elsewhere as soon as events run.
     void rafraichir();
 
     [[nodiscard]] Minuteur& minuteur() { return minuteur_; }
-    /// The system's path of a picture.
-    [[nodiscard]] QString chemin(std::string_view image) const;
 
-    // Told by the windows.
-    void demanderrafraichissement();
-    void activee(Fenetre& fenetre);
-    /// A window that others may belong to is about to show itself.
-    void montree(Fenetre& fenetre) { dessous_ = &fenetre; }
-    /// A window has come in front of the others, but for those of forms that stay there.
-    void garderdevant(const Fenetre& fenetre);
-    /// A window is on screen: the program's icon, whose files take their time, may follow.
-    void peinte();
-    void oublier(Fenetre& fenetre, Formulaire& formulaire);
+    [[nodiscard]] Fenetre* enavant() const override;
+    [[nodiscard]] Fenetre* proprietaire() const override;
+    [[nodiscard]] QString chemin(std::string_view image) const override;
+    void executer(const std::function<void()>& evenement) override;
+    void demanderrafraichissement() override;
+    void activee(Fenetre& fenetre) override;
+    void montree(Fenetre& fenetre) override { dessous_ = &fenetre; }
+    void garderdevant(const Fenetre& fenetre) override;
+    /// The first time loads the program's icon, which would have delayed that window.
+    void peinte() override;
+    void oublier(Fenetre& fenetre, Formulaire& formulaire) override;
 
   protected:
     bool event(QEvent* evenement) override;
