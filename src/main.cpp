@@ -1,7 +1,7 @@
 #include <QApplication>
 
 #include "application.h"
-#include "plateforme_qt.h"
+#include "plateformeqt.h"
 #include "theme.h"
 
 int main(int argc, char** argv) {

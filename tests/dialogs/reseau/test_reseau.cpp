@@ -20,7 +20,7 @@
 #include "journal.h"
 #include "lignes.h"
 #include "miseajour.h"
-#include "plateforme_qt.h"
+#include "plateformeqt.h"
 #include "serveur.h"
 #include "textesmiseajour.h"
 #include "voisinage.h"

@@ -18,7 +18,7 @@
 
 #include "faute.h"
 #include "fenetre.h"
-#include "plateforme_qt.h"
+#include "plateformeqt.h"
 #include "texteqt.h"
 
 namespace essais {

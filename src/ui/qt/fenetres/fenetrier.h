@@ -1,0 +1,88 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include "bureau.h"
+#include "formulaire.h"
+#include "minuteur.h"
+
+class QMenu;
+class QWidget;
+
+namespace ui::qt {
+
+/// Makes the windows of forms, keeps them in step with the model, and drives the forms' timers. It
+/// knows nothing of clock, disk or network: any platform may hand its forms to one.
+class Fenetrier : public QObject, public Bureau {
+  public:
+    struct Reglages {
+        bool minuteries = true;         ///< drive the forms' timers by the machine's clock
+        std::filesystem::path dossier;  ///< of the pictures; empty: the working folder
+    };
+
+    explicit Fenetrier(Plateforme& plateforme) : Fenetrier(plateforme, Reglages()) {}
+    Fenetrier(Plateforme& plateforme, Reglages reglages);
+    Fenetrier(const Fenetrier&) = delete;
+    Fenetrier& operator=(const Fenetrier&) = delete;
+    ~Fenetrier() override;
+
+    /// Gives a form its window (as the form's view) and, if asked for, its timers their beat. The
+    /// controls get their widgets (as their views) when the window is first shown.
+    void accueillir(Formulaire& formulaire);
+
+    /// The widget that shows a control, its object name the control's full name; null for an entry
+    /// of a menu, and for a control of a form that has no window here or was not shown yet.
+    [[nodiscard]] QWidget* widget(const Controle& controle) const;
+    /// The window of a form; null if it has none here.
+    [[nodiscard]] Fenetre* fenetre(const Formulaire& formulaire) const;
+    /// The pop-up menu of a form, if it is on screen. Its actions bear the full names of the
+    /// entries as object names.
+    [[nodiscard]] QMenu* menu(const Formulaire& formulaire) const;
+    /// The windows of the forms that live, in the order of `accueillir`.
+    [[nodiscard]] const std::vector<Fenetre*>& fenetres() const { return fenetres_; }
+
+    /// Brings the windows up to date with the model. Done after each event of the windows; after a
+    /// change from elsewhere as soon as events run.
+    void rafraichir();
+
+    [[nodiscard]] Minuteur& minuteur() { return minuteur_; }
+
+    [[nodiscard]] Fenetre* enavant() const override;
+    [[nodiscard]] Fenetre* proprietaire() const override;
+    [[nodiscard]] QString chemin(std::string_view image) const override;
+    void executer(const std::function<void()>& evenement) override;
+    void demanderrafraichissement() override;
+    void activee(Fenetre& fenetre) override;
+    void montree(Fenetre& fenetre) override { dessous_ = &fenetre; }
+    void garderdevant(const Fenetre& fenetre) override;
+    /// The first time loads the program's icon, which would have delayed that window.
+    void peinte() override;
+    void oublier(Fenetre& fenetre, Formulaire& formulaire) override;
+
+  protected:
+    bool event(QEvent* evenement) override;
+
+  private:
+    void tour();
+
+    Plateforme& plateforme_;
+    Reglages reglages_;
+    Minuteur minuteur_;
+    std::vector<Fenetre*> fenetres_;
+    std::vector<QPointer<Fenetre>> partantes_;  ///< windows of forms that are gone
+    Fenetre* derniere_ = nullptr;               ///< last one activated
+    Fenetre* dessous_ = nullptr;  ///< last one activated or shown, but for those in front
+    bool demande_ = false;
+    bool encours_ = false;
+    bool sale_ = false;
+    bool icone_ = false;  ///< asked for
+};
+
+}  // namespace ui::qt

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "vue.h"
+
+namespace ui::qt {
+
+/// A text box of several lines. Qt edits; the model is told the text.
+class BoiteLongue : public VueDe<QPlainTextEdit> {
+  public:
+    BoiteLongue(QWidget& parent, Hote& hote, Controle& controle);
+
+  protected:
+    void montrer(Champs champs) override;
+    bool event(QEvent* evenement) override;
+    bool viewportEvent(QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void contextMenuEvent(QContextMenuEvent* evenement) override;
+
+  private:
+    void peindrecadre();
+    void rapportertexte();
+
+    bool montre_ = false;  ///< the text is being brought to the model's
+};
+
+}  // namespace ui::qt
