@@ -126,8 +126,10 @@ class Application::Salle {
                         menu::Form3::Voisins{variablesform3, variablesdialog2, faceoptions,
                                              faceform1, facemulti, facehistorique, faceapropos});
                 }),
-          form1(plateforme, [&] { return std::make_unique<series::Form1>(plateforme, voisins); }),
-          multi(plateforme, [&] { return std::make_unique<multi::Multi>(plateforme, voisins); }),
+          form1(plateforme,
+                [&] { return std::make_unique<series::Form1>(plateforme, voisinsdeserie()); }),
+          multi(plateforme,
+                [&] { return std::make_unique<multi::Multi>(plateforme, voisinsdeserie()); }),
           dialog2(plateforme,
                   [&] {
                       return std::make_unique<dialogs::Dialog2>(
@@ -151,6 +153,10 @@ class Application::Salle {
           faceapropos(dialog1, plateforme, variablesform3, facemenu),
           voisins{variablesform3, variablesdialog2, facemenu,       faceoptions,
                   faceform1,      facemulti,        facehistorique, faceapropos} {}
+
+    [[nodiscard]] series::Formserie::Voisins voisinsdeserie() {
+        return {variablesform3, variablesdialog2, facemenu, faceoptions};
+    }
 
     common::VariablesForm3 variablesform3;
     common::VariablesDialog2 variablesdialog2;

@@ -35,7 +35,7 @@ const series::Gabarit gabaritmulti{
 
 }  // namespace
 
-Multi::Multi(ui::Plateforme& plateforme, common::Voisins& voisins)
+Multi::Multi(ui::Plateforme& plateforme, const Voisins& voisins)
     : Formserie(plateforme, voisins, gabaritmulti) {
     Command4.clic = [this] { changercritere(); };
     fermeture = [] {};  // only "Retour au sommaire" leaves

@@ -19,7 +19,7 @@ namespace multi {
 /// but for `nbftotal`, the faults out of the solutions of the run. There is no compact mode.
 class Multi : public series::Formserie {
   public:
-    Multi(ui::Plateforme& plateforme, common::Voisins& voisins);
+    Multi(ui::Plateforme& plateforme, const Voisins& voisins);
 
     void coloration() override;
     void commencer(std::string_view chemin) override;

@@ -41,7 +41,7 @@ const Gabarit gabaritform1{
 
 }  // namespace
 
-Form1::Form1(ui::Plateforme& plateforme, common::Voisins& voisins)
+Form1::Form1(ui::Plateforme& plateforme, const Voisins& voisins)
     : Formserie(plateforme, voisins, gabaritform1),
       Command6(ajouter(ui::Genre::Bouton, "Command6")) {
     Command6.texte = "Mode compact";
@@ -68,7 +68,7 @@ void Form1::ordonner() {
 }
 
 void Form1::coloration() {
-    fond = ui::Couleur(voisins_.menu.fond());
+    fond = voisins_.menu.fond();
     Formserie::coloration();
     for (auto* cadre : {Frame1[0], Frame1[2]})
         cadre->fond = fond();

@@ -37,7 +37,7 @@ inline constexpr std::size_t limitevariantes = 26;
 /// changes the font, `Command5` pauses, `Command6` goes compact; `InfoSourisText` shows notes.
 class Form1 : public Formserie {
   public:
-    Form1(ui::Plateforme& plateforme, common::Voisins& voisins);
+    Form1(ui::Plateforme& plateforme, const Voisins& voisins);
 
     void coloration() override;
     void commencer(std::string_view chemin) override;

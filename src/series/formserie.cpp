@@ -19,7 +19,7 @@ std::string numerote(std::string_view quoi, std::size_t rang) {
 
 }  // namespace
 
-Formserie::Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const Gabarit& gabarit)
+Formserie::Formserie(ui::Plateforme& plateforme, const Voisins& voisins, const Gabarit& gabarit)
     : Formulaire(plateforme, std::string(gabarit.nom)),
       voisins_(voisins),
       gabarit_(gabarit),

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "chronos.h"
+#include "faces.h"
 #include "formulaire.h"
-#include "formulaires.h"
 #include "lettres.h"
 #include "marques.h"
 #include "menumot.h"
@@ -51,6 +51,14 @@ struct Gabarit {
 
 class Formserie : public ui::Formulaire {
   public:
+    /// What a series form reads and calls of the others.
+    struct Voisins {
+        const common::VariablesForm3& form3;
+        const common::VariablesDialog2& dialog2;
+        ui::FaceMenu& menu;
+        ui::FaceOptions& options;
+    };
+
     /// The load operation, once per run of the program.
     virtual void charger();
     /// Brings the labels to the background colour of the form.
@@ -63,7 +71,7 @@ class Formserie : public ui::Formulaire {
     void activerseuil(bool actif) { seuiltxt.actif = actif; }
 
   protected:
-    Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const Gabarit& gabarit);
+    Formserie(ui::Plateforme& plateforme, const Voisins& voisins, const Gabarit& gabarit);
 
     /// A rack answered wrong in a series, and its row in list format.
     struct Ratee {
@@ -167,7 +175,7 @@ class Formserie : public ui::Formulaire {
     /// was clicked holds text.
     void ouvrirmenumot(int place, const ui::Controle& boite, std::string_view mot, bool definition);
 
-    common::Voisins& voisins_;
+    Voisins voisins_;
     Gabarit gabarit_;
     std::string fich_;
     Rangees rangees_;

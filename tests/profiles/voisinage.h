@@ -111,7 +111,6 @@ struct Voisinage {
     Serie multi{journal, "Multi"};
     Historique historique{journal};
     Apropos apropos{journal};
-    ui::Voisins voisins{form3, dialog2, menu, options, form1, multi, historique, apropos};
 
     /// The journal, which starts anew.
     Journal relever() { return std::exchange(journal, {}); }

@@ -40,7 +40,8 @@ class Form1dessai : public testing::Test {
         v.form3.util = "Léa";
         v.form3.toue = "T";
         v.form3.nombase = "Essai";
-        form = std::make_unique<series::Form1>(machine.plateforme, v.voisins);
+        form = std::make_unique<series::Form1>(
+            machine.plateforme, series::Form1::Voisins{v.form3, v.dialog2, v.menu, v.options});
         machine.plateforme.accueillir(*form);
         machine.plateforme.executer([&] { form->charger(); });
         form->visible = true;
