@@ -11,8 +11,8 @@
 
 namespace ui::qt {
 
-/// The player's machine: its disk, clock, chance, sound, network and shell, and windows of Qt. The
-/// application object of Qt must live longer.
+/// The player's machine: its disk, clock, random numbers, sound, network and shell, and windows of
+/// Qt. The application object of Qt must outlive it.
 class PlateformeQt : public Plateforme {
   public:
     explicit PlateformeQt(Telechargement::Limites limites = {});

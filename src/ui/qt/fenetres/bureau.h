@@ -13,7 +13,7 @@ namespace ui::qt {
 
 class Fenetre;
 
-/// What a window knows of the others: which stand where, and whom to tell of its own doings.
+/// The windows of the program together, as far as one of them knows them.
 class Bureau {
   public:
     Bureau() = default;
@@ -21,28 +21,28 @@ class Bureau {
     Bureau& operator=(const Bureau&) = delete;
     virtual ~Bureau() = default;
 
-    /// The window that is in front, or was last; null if none is shown.
+    /// The window activated last, or another if that one is hidden; null if none is shown.
     [[nodiscard]] virtual Fenetre* enavant() const = 0;
-    /// The window that those of forms that stay in front belong to: of the others the one that was
-    /// active or shown last. Null if none is shown.
+    /// The window that dialogs stay in front of (`Formulaire::devant`): the one that was active or
+    /// shown last and is no dialog itself. Null if none is shown.
     [[nodiscard]] virtual Fenetre* proprietaire() const = 0;
     /// The system's path of a picture.
     [[nodiscard]] virtual QString chemin(std::string_view image) const = 0;
 
     /// Runs an event in the model, then brings the windows up to date.
     virtual void executer(const std::function<void()>& evenement) = 0;
-    /// Asks for a refresh of all windows as soon as events run.
+    /// Asks for a refresh of all windows, once the present event is over.
     virtual void demanderrafraichissement() = 0;
 
-    /// The user has come to work in a window.
+    /// The window has become the active one.
     virtual void activee(Fenetre& fenetre) = 0;
-    /// A window that others may belong to is about to show itself.
+    /// The window, which is no dialog, is about to be shown.
     virtual void montree(Fenetre& fenetre) = 0;
-    /// A window has come in front of the others: those of forms that stay in front go over it.
+    /// The window has come to the front; dialogs are raised above it.
     virtual void garderdevant(const Fenetre& fenetre) = 0;
-    /// A window was painted.
+    /// A window has been painted.
     virtual void peinte() = 0;
-    /// The form is gone, and its window will delete itself.
+    /// The form is being destroyed; its window will delete itself.
     virtual void oublier(Fenetre& fenetre, Formulaire& formulaire) = 0;
 };
 

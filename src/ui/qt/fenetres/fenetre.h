@@ -19,8 +19,8 @@ namespace ui::qt {
 class Bureau;
 class MenuContextuel;
 
-/// The window of a form: its whole design at the scale that fits, the way from the keyboard to the
-/// model, and the focus of Qt kept where the model has it.
+/// The window of a form. It shows the whole design, scaled to the size of the window, passes the
+/// keyboard to the model, and keeps Qt's focus on the control that has the focus in the model.
 class Fenetre : public QWidget, public VueFormulaire, public Hote {
   public:
     Fenetre(Bureau& bureau, Formulaire& formulaire);
@@ -29,29 +29,25 @@ class Fenetre : public QWidget, public VueFormulaire, public Hote {
     ~Fenetre() override;
 
     [[nodiscard]] Formulaire& formulaire() const { return *formulaire_; }
-    /// The form is gone; the window only waits for its end.
+    /// The form was destroyed, and the window is about to be.
     [[nodiscard]] bool orpheline() const { return formulaire_ == nullptr; }
     [[nodiscard]] const Echelle& echelle() const override { return echelle_; }
-    /// The controls have their widgets: the window was shown once.
+    /// The controls have their widgets, which they get when the window is first shown.
     [[nodiscard]] bool habillee() const { return dimensionnee_; }
     [[nodiscard]] QFont fontedemenu() const override;
     [[nodiscard]] Vue* vuede(const Controle& controle) const;
     [[nodiscard]] QMenu* menu() const;
-    /// The window, or a pop-up menu of its own, is the one that the user works in.
     [[nodiscard]] bool active() const override { return active_; }
-    /// The working folder of the pictures.
     [[nodiscard]] QString chemin(std::string_view image) const override;
 
-    /// Runs a report of the user into the model, then shows what it has changed.
     void executer(const std::function<void()>& evenement) override;
 
     void modifie(ChampFormulaire champ) override;
     void adieu() override;
 
-    /// Told by a view that is to be brought to its control.
     void noter(Vue& vue) override;
 
-    // The steps of a refresh, in this order, over all windows.
+    // The steps of a refresh, in this order. Each is done for all windows before the next one.
     void montrercontroles();
     void apparaitre();
     void rattacher();
@@ -75,14 +71,14 @@ class Fenetre : public QWidget, public VueFormulaire, public Hote {
     void filtrer(QWidget& widget, Controle& controle);
     void montrerformulaire();
     void ouvrirdevant();
-    /// A window that is shown already comes back in front.
+    /// Brings a window that is already shown back to the front.
     void revenir();
     void dimensionner();
     void redimensionner();
     void prendretaille(const QRect& place);
-    /// The desktop gives the window its size.
+    /// The window is maximised or full screen, so the desktop decides its size.
     [[nodiscard]] bool agrandie() const { return isMaximized() || isFullScreen(); }
-    /// Puts a window that is not shown in the middle of a screen.
+    /// Centres a window that is not shown in `place`, the usable part of a screen.
     void centrer(const QRect& place);
     void retenirtaille();
     void remettreechelle();
@@ -104,23 +100,23 @@ class Fenetre : public QWidget, public VueFormulaire, public Hote {
     Bureau& bureau_;
     Formulaire* formulaire_;
     Echelle echelle_;
-    std::vector<Vue*> vues_;  ///< in the order of the form's controls; the widgets are owned by Qt
+    std::vector<Vue*> vues_;  ///< in the order of the form's controls; owned by Qt
     std::vector<Vue*> notees_;
     std::unordered_map<const Controle*, Vue*> parcontrole_;
     std::unordered_map<const QObject*, Controle*> parwidget_;
     std::unique_ptr<MenuContextuel> deroulant_;
-    const Controle* defaut_ = nullptr;  ///< default button, as drawn
-    const Controle* focus_ = nullptr;   ///< control with the focus, as drawn
-    int plan_ = 0;                      ///< up to which the views lie as their controls do
-    std::size_t entrees_ = 0;           ///< controls without a widget: entries of menus
-    QSize design_;                      ///< twips, at the last fitting
-    QSize demandee_;                    ///< size that the window gave itself; empty: the user's own
-    double voulue_ = 0;                 ///< pixels a twip: scale that the user wants to see
+    const Controle* defaut_ = nullptr;  ///< default button as last drawn
+    const Controle* focus_ = nullptr;   ///< control with the focus as last drawn
+    int plan_ = 0;             ///< stacking order of the controls up to which the views agree
+    std::size_t entrees_ = 0;  ///< number of controls without a widget: entries of menus
+    QSize design_;             ///< size in twips for which the window was last sized
+    QSize demandee_;           ///< size that the window asked for; empty: the user chose one
+    double voulue_ = 0;        ///< scale that the user wants, in pixels per twip
     unsigned champs_ = ~0U;
     bool dimensionnee_ = false;
-    bool appelee_ = false;   ///< the form was asked for
-    bool attendue_ = false;  ///< the window will take the size of its design when it isn't enlarged
-    bool accord_ = false;    ///< the focus of Qt is being put where the model has it
+    bool appelee_ = false;   ///< `Formulaire::montrer` was called
+    bool attendue_ = false;  ///< to be resized to its design when no longer maximised
+    bool accord_ = false;    ///< Qt's focus is being set from the model
     bool active_ = false;
 };
 

@@ -18,12 +18,12 @@ class QWidget;
 
 namespace ui::qt {
 
-/// Makes the windows of forms, keeps them in step with the model, and drives the forms' timers. It
-/// knows nothing of clock, disk or network: any platform may hand its forms to one.
+/// Makes the windows of forms, keeps them up to date with the model, and drives the forms' timers.
+/// It uses nothing of the platform but `executer`, so any platform can give its forms to one.
 class Fenetrier : public QObject, public Bureau {
   public:
     struct Reglages {
-        bool minuteries = true;         ///< drive the forms' timers by the machine's clock
+        bool minuteries = true;         ///< drive the forms' timers from the machine's clock
         std::filesystem::path dossier;  ///< of the pictures; empty: the working folder
     };
 
@@ -33,19 +33,19 @@ class Fenetrier : public QObject, public Bureau {
     Fenetrier& operator=(const Fenetrier&) = delete;
     ~Fenetrier() override;
 
-    /// Gives a form its window (as the form's view) and, if asked for, its timers their beat. The
-    /// controls get their widgets (as their views) when the window is first shown.
+    /// Makes the window of a form, which becomes the form's view, and drives its timers if the
+    /// settings say so. The controls get their views when the window is first shown.
     void accueillir(Formulaire& formulaire);
 
-    /// The widget that shows a control, its object name the control's full name; null for an entry
-    /// of a menu, and for a control of a form that has no window here or was not shown yet.
+    /// The widget of a control; its object name is the control's full name. Null for an entry of a
+    /// menu and for a control of a form that has no window here or was not yet shown.
     [[nodiscard]] QWidget* widget(const Controle& controle) const;
     /// The window of a form; null if it has none here.
     [[nodiscard]] Fenetre* fenetre(const Formulaire& formulaire) const;
-    /// The pop-up menu of a form, if it is on screen. Its actions bear the full names of the
-    /// entries as object names.
+    /// The pop-up menu of a form; null if none is open. The object names of its actions are the
+    /// full names of the entries.
     [[nodiscard]] QMenu* menu(const Formulaire& formulaire) const;
-    /// The windows of the forms that live, in the order of `accueillir`.
+    /// The windows of the forms that exist, in the order of `accueillir`.
     [[nodiscard]] const std::vector<Fenetre*>& fenetres() const { return fenetres_; }
 
     /// Brings the windows up to date with the model. Done after each event of the windows; after a
@@ -62,7 +62,7 @@ class Fenetrier : public QObject, public Bureau {
     void activee(Fenetre& fenetre) override;
     void montree(Fenetre& fenetre) override { dessous_ = &fenetre; }
     void garderdevant(const Fenetre& fenetre) override;
-    /// The first time loads the program's icon, which would have delayed that window.
+    /// Sets the program's icon at the first call: loading it earlier would delay that window.
     void peinte() override;
     void oublier(Fenetre& fenetre, Formulaire& formulaire) override;
 
@@ -76,13 +76,13 @@ class Fenetrier : public QObject, public Bureau {
     Reglages reglages_;
     Minuteur minuteur_;
     std::vector<Fenetre*> fenetres_;
-    std::vector<QPointer<Fenetre>> partantes_;  ///< windows of forms that are gone
-    Fenetre* derniere_ = nullptr;               ///< last one activated
-    Fenetre* dessous_ = nullptr;  ///< last one activated or shown, but for those in front
+    std::vector<QPointer<Fenetre>> partantes_;  ///< windows of forms that were destroyed
+    Fenetre* derniere_ = nullptr;               ///< active now or last
+    Fenetre* dessous_ = nullptr;                ///< last one activated or shown that is no dialog
     bool demande_ = false;
     bool encours_ = false;
     bool sale_ = false;
-    bool icone_ = false;  ///< asked for
+    bool icone_ = false;  ///< the icon was set, or will be
 };
 
 }  // namespace ui::qt

@@ -1,6 +1,6 @@
 #pragma once
 
-// Message boxes over the window in front.
+// Message boxes, in front of the active window.
 
 #include <string_view>
 
@@ -10,10 +10,11 @@ namespace ui::qt {
 
 class Fenetrier;
 
-/// A box with OK, or with Oui and Non; returns when it is answered.
+/// Shows a box with the button OK, or with Oui and Non if `ouinon`, and waits for the answer. Ok or
+/// Non if the window in front goes meanwhile, and the box with it.
 [[nodiscard]] Reponse demander(Fenetrier& fenetrier, std::string_view texte, Icone icone,
                                bool ouinon);
-/// The report of a fault.
+/// Shows the report of a fault, and waits until it is closed.
 void rapporter(const Fenetrier& fenetrier, std::string_view rapport);
 
 }  // namespace ui::qt

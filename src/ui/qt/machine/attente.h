@@ -6,10 +6,10 @@ namespace ui::qt {
 
 class Minuteur;
 
-/// Waits in the middle of an event, as an operation that blocks would: no key or click comes
-/// through, no timer ticks, but windows are redrawn. `lancer` starts what is waited for and gets
-/// what to call when that has come; calls after the wait do nothing. The wait ends after `limite`
-/// milliseconds in any case. False if it was ended by that limit, or by the end of the program.
+/// Waits in the middle of an event, as a blocking call would: no key or click is delivered and no
+/// timer ticks, but windows are redrawn. `lancer` starts the operation; it receives the function to
+/// call when the operation is over, which does nothing once the wait has ended. The wait lasts
+/// `limite` milliseconds at most. Returns false if that limit or the end of the program ended it.
 [[nodiscard]] bool attendre(Minuteur& minuteur, int limite,
                             const std::function<void(std::function<void()> finir)>& lancer);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Key events of Qt as the model names them.
+// Translates the key events of Qt for the model.
 
 #include <optional>
 #include <string>
@@ -19,13 +19,14 @@ struct Frappe {
     std::vector<char32_t> caracteres;
 };
 
-/// Virtual key code of a character: its capital for a letter, itself for a digit or the blank,
-/// 0 for any other.
+/// Virtual key code of a character: the code of its capital for a letter, its own for a digit or
+/// the space, 0 for any other.
 [[nodiscard]] int codede(char32_t caractere);
 /// Virtual key code of a key event; 0 if it has none.
 [[nodiscard]] int codede(const QKeyEvent& evenement);
-/// What a key means to the model: nothing for a key that neither has a code nor types (Shift, a
-/// dead key), nor for a combination with Alt or the system's key. Ctrl types nothing; AltGr does.
+/// The key and the characters that an event reports to the model. Nothing for a key that has no
+/// code and types nothing (Shift, a dead key) or is combined with Alt or the system's key. A key
+/// combined with Ctrl types no character, one combined with AltGr does.
 [[nodiscard]] std::optional<Frappe> frappe(const QKeyEvent& evenement);
 /// The characters of a text of Qt.
 [[nodiscard]] std::vector<char32_t> caracteres(const QString& texte);

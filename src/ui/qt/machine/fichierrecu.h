@@ -7,23 +7,26 @@
 
 namespace ui::qt {
 
-/// A file that is written bit by bit under a name that nobody can foresee, beside its own
-/// (`<name>.XXXXXX.tmp`, or none at all where the disk knows such files), and takes its own name in
-/// one step when it is whole. Until then the file of that name is what it was; what was written
-/// goes with this.
+/// A file that is received piece by piece. It is written beside its destination, under the random
+/// name `<name>.XXXXXX.tmp` or, where the system can, under none, and replaces the destination in
+/// one step when it is complete. Until then the destination is unchanged. An object that is
+/// destroyed earlier deletes what it has written.
 class FichierRecu {
   public:
-    /// Takes away what a program that is gone has left of earlier ones: files under such a name
-    /// that nobody has written to for longer than `age` milliseconds.
+    /// Also deletes the temporary files of `chemin` that an interrupted program has left: those
+    /// last written to more than `age` milliseconds ago.
     FichierRecu(const QString& chemin, qint64 age);
 
-    /// Opens the file for writing; false if the disk refuses.
+    /// Creates the temporary file; false if the disk refuses.
     [[nodiscard]] bool ouvrir();
+    /// Appends bytes; false if not all of them could be written.
     [[nodiscard]] bool ecrire(const QByteArray& octets);
+    /// Bytes given to `ecrire` so far.
     [[nodiscard]] qint64 taille() const { return taille_; }
-    /// SHA-256 of what was written, as 64 hexadecimal digits in lower case.
+    /// SHA-256 of those bytes, as 64 hexadecimal digits in lower case.
     [[nodiscard]] QByteArray somme() const { return somme_.result().toHex(); }
-    /// The file takes its name; false if the disk refuses.
+    /// Replaces the destination, whose bytes are then on the disk; false if the disk refuses or the
+    /// destination may not be written.
     [[nodiscard]] bool achever();
 
   private:

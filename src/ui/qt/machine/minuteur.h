@@ -11,27 +11,30 @@
 
 namespace ui::qt {
 
-/// Beats the second for the timers of forms. A timer's ticks stay on the grid that its start set,
-/// whatever came late; ticks that a long operation held up become one. Ticks due together come in
-/// the order of the form's list.
+/// Drives the timers of forms, each of which ticks once a second. Ticks fall whole seconds after
+/// the timer's start, even if an earlier one came late; ticks missed during a long operation become
+/// a single one. Timers that are due together tick in the order of the forms and of their lists.
 class Minuteur : public QObject {
   public:
-    /// Milliseconds of a clock that only goes forward.
+    /// Milliseconds, from any origin, of a clock that never goes back.
     using Horloge = std::function<std::int64_t()>;
     static constexpr std::int64_t periode = 1000;  ///< milliseconds
-    static constexpr std::int64_t ensemble = 20;   ///< ticks this near are due together
+    static constexpr std::int64_t ensemble =
+        20;  ///< milliseconds; ticks this close are due together
 
-    /// `executer` runs an event in the model.
+    /// `executer` runs a tick as an event of the model. Without `horloge` the machine's clock.
     explicit Minuteur(std::function<void(const std::function<void()>&)> executer,
                       Horloge horloge = {});
 
-    /// Drives the timers of a form, those that it makes later too.
+    /// Drives the timers of a form, those that it creates later included.
     void accueillir(Formulaire& formulaire);
+    /// To be called before the form is destroyed.
     void oublier(Formulaire& formulaire);
-    /// Runs the ticks that are due, then waits for the next.
+    /// Runs the ticks that are due, then sets the alarm for the next.
     void echoir();
 
-    /// No tick comes while one of these lives; what was held up comes once afterwards.
+    /// While an object of this class lives no timer ticks; a timer that was due then ticks once
+    /// afterwards.
     class Silence {
       public:
         explicit Silence(Minuteur& minuteur) : minuteur_(minuteur) { ++minuteur_.silences_; }
@@ -50,7 +53,7 @@ class Minuteur : public QObject {
     struct Suivi {
         Minuterie* minuterie;
         const Formulaire* formulaire;
-        std::int64_t echeance;  ///< meaningful while it runs
+        std::int64_t echeance;  ///< next tick; has a meaning only while the timer runs
     };
 
     void suivre(const Formulaire& formulaire, Minuterie& minuterie);

@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// The network module: the only user of Qt Network.
+/// The network module, which alone links Qt Network.
 class ModuleReseau : public QObject, public Reseau {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "orvane.Reseau/1")

@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// The sound module: the only user of Qt Multimedia.
+/// The sound module, which alone links Qt Multimedia.
 class ModuleSon : public QObject, public Son {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "orvane.Son/1")

@@ -1,7 +1,7 @@
 #pragma once
 
-// Parts of the program that stand in modules of their own, so that the libraries of the system that
-// only they need are loaded at their first use, and a machine that lacks one still starts.
+// Parts of the program that are loaded at their first use, with the system libraries that only they
+// need: the program starts faster, and also on a machine that lacks such a library.
 
 #include <QObject>
 
@@ -10,9 +10,9 @@ namespace ui::qt {
 inline constexpr const char* moduleson = "orvane-son";
 inline constexpr const char* modulereseau = "orvane-reseau";
 
-/// What a module has to offer, loaded at the first call: from beside the program, from
-/// `../lib/orvane`, or from a library path of Qt. Null, with a line on the error output, if it is
-/// missing or cannot be loaded.
+/// The root object of a module, to be cast to the interface that it implements. The first call
+/// loads the module: from the program's own folder, from `../lib/orvane` beside it, or from a
+/// library path of Qt. Null, with a line on the error output, if it is missing or fails to load.
 [[nodiscard]] QObject* module(const char* nom);
 
 }  // namespace ui::qt

@@ -9,20 +9,20 @@
 
 namespace ui::qt {
 
-/// A request over http or https. What is called must not end the transfer's life.
+/// A request over http or https. None of its functions may destroy the `Transfert`.
 struct Demande {
     QUrl adresse{};
-    int silence = 0;  ///< milliseconds without a byte after which it has failed
+    int silence = 0;  ///< milliseconds without a byte after which it fails
     /// Whether a redirection may be followed.
     std::function<bool(const QUrl&)> suivre{};
-    /// Takes bytes as they come, with the length of the whole as announced (-1: not); false to
-    /// give up.
+    /// Takes bytes as they arrive, with the announced length of the whole content (-1: unknown).
+    /// Returns false to abandon the transfer.
     std::function<bool(const QByteArray&, qint64 annonce)> recevoir{};
-    /// Called once, at the end: whether the whole content has come.
+    /// Called once, at the end, with whether the whole content has arrived.
     std::function<void(bool complet)> finir{};
 };
 
-/// A request under way; it is given up when this goes.
+/// A request under way. Destroying it abandons the request.
 class Transfert {
   public:
     Transfert() = default;
@@ -31,14 +31,14 @@ class Transfert {
     virtual ~Transfert() = default;
 };
 
-/// What the network module offers.
+/// The interface of the network module.
 class Reseau {
   public:
     Reseau() = default;
     Reseau(const Reseau&) = delete;
     Reseau& operator=(const Reseau&) = delete;
     virtual ~Reseau() = default;
-    /// Asks a server, never a cache. Certificates are verified.
+    /// Starts a request to the server itself, never to a cache. Certificates are verified.
     [[nodiscard]] virtual std::unique_ptr<Transfert> demander(const Demande& demande) = 0;
 };
 

@@ -9,7 +9,7 @@
 
 namespace ui::qt {
 
-/// A sound that is being played; it is cut when this goes.
+/// A sound being played. Destroying it stops the sound.
 class Lecture {
   public:
     Lecture() = default;
@@ -18,15 +18,15 @@ class Lecture {
     virtual ~Lecture() = default;
 };
 
-/// What the sound module offers.
+/// The interface of the sound module.
 class Son {
   public:
     Son() = default;
     Son(const Son&) = delete;
     Son& operator=(const Son&) = delete;
     virtual ~Son() = default;
-    /// Starts a sound; `finir` is called when it is over, or when the device has given up. Null if
-    /// the machine cannot play it.
+    /// Starts a sound; `finir` is called when it has ended or the device has failed. Null if the
+    /// machine cannot play it.
     [[nodiscard]] virtual std::unique_ptr<Lecture> jouer(const Onde& onde,
                                                          const std::function<void()>& finir) = 0;
 };

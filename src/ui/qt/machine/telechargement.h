@@ -10,20 +10,21 @@ namespace ui::qt {
 
 class Minuteur;
 
-/// Downloads over http and https, in the middle of an event.
+/// Downloads over http and https. The caller waits as in `attendre`.
 class Telechargement {
   public:
     struct Limites {
-        int silence = 30'000;     ///< milliseconds without a byte
-        int duree = 10 * 60'000;  ///< milliseconds in all
+        int silence = 30'000;     ///< milliseconds without a byte before it fails
+        int duree = 10 * 60'000;  ///< milliseconds for the whole download
     };
 
     explicit Telechargement(Minuteur& minuteur) : Telechargement(minuteur, Limites()) {}
     Telechargement(Minuteur& minuteur, Limites limites) : minuteur_(minuteur), limites_(limites) {}
 
-    /// Writes the content of an address, fresh from its server, to a file as it comes; the file
-    /// takes its name when it is whole and as wanted, and is what it was otherwise (false).
-    /// Certificates are verified; a redirection may not lead from https to http.
+    /// Downloads the content of an address from its server, never from a cache. The file `chemin`
+    /// is replaced once the content is complete and meets `exigence`; otherwise it stays as it was,
+    /// and the result is false. Certificates are verified; a redirection from https to http is
+    /// refused.
     [[nodiscard]] bool enregistrer(std::string_view adresse, const QString& chemin,
                                    const Exigence& exigence);
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// Texts of the model are UTF-8 and count characters; Qt's are UTF-16 and count code units.
+// The model's texts are UTF-8, with positions in characters; Qt's are UTF-16, with positions in
+// code units.
 
 #include <cstddef>
 #include <string>
@@ -18,7 +19,8 @@ namespace ui::qt {
     return texte.toStdString();
 }
 
-/// Where the character of a position (0 is the first) begins in a text of Qt.
+/// From a position in characters (0 is the first) to one in code units of Qt; the end of the text
+/// if it has fewer characters.
 [[nodiscard]] inline int placeqt(const QString& texte, std::size_t position) {
     int place = 0;
     const int bout = static_cast<int>(texte.size());
@@ -27,7 +29,7 @@ namespace ui::qt {
     return place;
 }
 
-/// The position of the character (0 is the first) that begins at a place of a text of Qt.
+/// From a position in code units of Qt to one in characters (0 is the first).
 [[nodiscard]] inline std::size_t positiondeqt(const QString& texte, qsizetype place) {
     std::size_t position = 0;
     for (qsizetype i = 0; i < place && i < texte.size(); ++position)

@@ -1,7 +1,7 @@
 #pragma once
 
-// How the pieces of a window are drawn. Lengths follow `unite`, the size of one pixel of the
-// design, so that a window looks the same at every size.
+// Draws the parts of a window. `unite` is the size of one pixel of the design, in pixels of the
+// window; every length is a multiple of it, so that a window looks the same at every size.
 
 #include <QColor>
 #include <QRectF>
@@ -10,46 +10,48 @@ class QPainter;
 
 namespace ui::qt::dessin {
 
-/// What a button is going through.
+/// The state of a button.
 struct Etat {
     bool actif = true;
     bool survole = false;
     bool enfonce = false;
-    bool defaut = false;  ///< Enter clicks it
+    bool defaut = false;  ///< the default button, which Enter clicks
     bool focus = false;
 };
 
+/// An ordinary button, or the one that stands out.
 enum class Bouton { Courant, Principal };
 
-/// Draws a button and returns the colour for its text, given the colour asked for.
+/// Draws a button. Returns the colour of its text: `encre`, or the one that suits its state.
 QColor bouton(QPainter& peintre, const QRectF& place, double unite, const QColor& face,
               Bouton genre, const Etat& etat, const QColor& encre);
-/// A letter tile. Returns where its letter belongs.
+/// Draws a letter tile. Returns the rectangle in which to draw its letter.
 QRectF tuile(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
              const Etat& etat);
-/// The place of a tile that holds no letter.
+/// Draws the empty place of a tile without a letter.
 void alveole(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
              const Etat& etat);
 
+/// The state and shape of a text box.
 struct Boite {
     bool actif = true;
     bool focus = false;
     bool survole = false;
-    double rayon = 4;  ///< pixels of the design
+    double rayon = 4;  ///< of the corners, in pixels of the design
 };
 
-/// The body of a text box.
+/// Draws the background and the edge of a text box.
 void boite(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
            const Boite& etat);
-/// A frame: a light card on the colour of the form.
+/// Draws a frame: a card lighter than `fond`, the colour of its form.
 void carte(QPainter& peintre, const QRectF& place, double unite, const QColor& fond);
-/// The square of a check box.
+/// Draws the square of a check box, with its tick if `cochee`.
 void coche(QPainter& peintre, const QRectF& place, double unite, bool cochee, const Etat& etat);
-/// The ring that shows where the keyboard is, inside `place`.
+/// Draws the focus ring along the inside of `place`.
 void anneau(QPainter& peintre, const QRectF& place, double unite, double rayon);
-/// An arrow that points down.
+/// Draws an arrow that points down.
 void fleche(QPainter& peintre, const QRectF& place, double unite, const QColor& encre);
-/// Width of a hairline.
+/// Width of the thinnest line, in pixels of the window.
 [[nodiscard]] double trait(double unite);
 
 }  // namespace ui::qt::dessin

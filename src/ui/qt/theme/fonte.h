@@ -1,7 +1,7 @@
 #pragma once
 
-// Fonts: the families that the program names and what stands for them where they are missing, the
-// font of a control, and the font that lets a text fit its place.
+// Fonts: the families that the program names and their substitutes on a system that lacks them, the
+// font of a control, and the font size at which a text fits its place.
 
 #include <string_view>
 
@@ -17,14 +17,15 @@ namespace ui::qt {
 
 /// The family of the program's own texts.
 [[nodiscard]] QString familledebase();
-/// Tells Qt which families stand for those that the system lacks.
+/// Registers with Qt the substitutes of the families that the system may lack.
 void inscrirefamilles();
-/// A font of a height in pixels, fractions included, for a device.
+/// A font of `corps` pixels, which may have a fraction, for a device; the family of the program's
+/// own texts if `famille` is empty.
 [[nodiscard]] QFont fonte(std::string_view famille, double corps, const QPaintDevice& support);
-/// The font of a control, at a height in pixels.
+/// The font of a control, with its style, at `corps` pixels.
 [[nodiscard]] QFont fonte(const Controle& controle, double corps, const QPaintDevice& support);
-/// `fonte`, made smaller if the text, broken at blanks, doesn't fit `place`. Never under
-/// `plancher` times its size.
+/// `fonte`, reduced if the text, wrapped at spaces, does not fit `place`. Never below `plancher`
+/// times its size, even if the text does not fit then.
 [[nodiscard]] QFont ajuster(const QFont& fonte, const QString& texte, const QSizeF& place,
                             const QPaintDevice& support, double plancher = .4);
 /// The same for a text that stays on one line.

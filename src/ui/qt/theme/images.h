@@ -10,12 +10,13 @@
 
 namespace ui::qt {
 
-/// A picture file as large as fits `taille` (pixels of the window), its proportions kept, for a
-/// screen of `densite`. Drawn from the smallest of its variants (the file, "@2x", "@4x" before the
-/// ending) that needs no enlarging. Null if there is no such file.
+/// A picture, scaled in proportion to the largest size within `taille` (pixels of the window), for
+/// a screen of `densite` physical pixels per pixel. It is made from the smallest of its variants
+/// (the file itself, or with "@2x" or "@4x" before the extension) that need not be enlarged. Null
+/// if there is no such file.
 [[nodiscard]] QPixmap image(const QString& chemin, const QSize& taille, double densite);
-/// The program's icon, of the sizes that stand in the folder of pictures; `systeme` gives the
-/// system's path of a picture.
+/// The program's icon, in the sizes found in the folder of pictures. `systeme` turns the program's
+/// path of a picture into the system's.
 [[nodiscard]] QIcon iconeprogramme(const std::function<QString(std::string_view)>& systeme);
 
 }  // namespace ui::qt

@@ -4,8 +4,8 @@
 
 namespace ui::qt {
 
-/// What the program doesn't draw by itself (message boxes, menus, lists, scroll bars): Fusion, with
-/// the theme's buttons and slim scroll bars, and without mnemonics.
+/// The Qt style of what the views do not draw (message boxes, menus, lists, scroll bars): Fusion,
+/// with the theme's buttons, slim scroll bars and no mnemonics.
 class Style : public QProxyStyle {
   public:
     Style();

@@ -8,9 +8,9 @@
 
 namespace ui::qt {
 
-/// A text box of one line. The model edits; the box shows text, caret and selection, and reports
-/// what mouse, keyboard, input methods and assistive technologies do. QLineEdit only lends its face
-/// to the last two.
+/// A text box of one line. The model edits the text; the box shows text, caret and selection, and
+/// reports what mouse, input methods and assistive technologies do. QLineEdit only serves as the
+/// interface to the last two.
 class Boite : public VueDe<QLineEdit> {
   public:
     Boite(QWidget& parent, Hote& hote, Controle& controle);
@@ -22,9 +22,9 @@ class Boite : public VueDe<QLineEdit> {
   protected:
     void montrer(Champs champs) override;
     void cliquer() override;
-    /// Room at the right end that is not for the text, in pixels of the design.
+    /// Width at the right end that is kept free of text, in pixels of the design.
     [[nodiscard]] virtual double margedroite() const { return 0; }
-    /// Draws what else the box holds.
+    /// Draws what the box holds beside its text.
     virtual void completer(QPainter& /*peintre*/) {}
 
     void paintEvent(QPaintEvent* evenement) override;
@@ -49,9 +49,9 @@ class Boite : public VueDe<QLineEdit> {
 
     LigneSaisie ligne_;
     QBasicTimer battement_;
-    bool eteint_ = false;  ///< the caret is in the dark half of its blink
-    bool glisse_ = false;  ///< the mouse is selecting
-    bool sien_ = false;    ///< QLineEdit changes by this window's doing, or by a habit of its own
+    bool eteint_ = false;  ///< the blinking caret is hidden
+    bool glisse_ = false;  ///< the user is selecting with the mouse
+    bool sien_ = false;    ///< QLineEdit is changing, but not by the user's action
 };
 
 }  // namespace ui::qt

@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// A text box of several lines. Qt edits; the model is told the text.
+/// A text box of several lines. Qt edits the text, and the box reports it to the model.
 class BoiteLongue : public VueDe<QPlainTextEdit> {
   public:
     BoiteLongue(QWidget& parent, Hote& hote, Controle& controle);
@@ -22,7 +22,7 @@ class BoiteLongue : public VueDe<QPlainTextEdit> {
     void peindrecadre();
     void rapportertexte();
 
-    bool montre_ = false;  ///< the text is being brought to the model's
+    bool montre_ = false;  ///< the text is being set from the model
 };
 
 }  // namespace ui::qt

@@ -7,7 +7,8 @@
 
 namespace ui::qt {
 
-/// A button or a letter tile. Every press and release on it is a click, however fast they come.
+/// A button or a letter tile. Each press and release is a click, the second of a double click
+/// too.
 class Bouton : public VueDe<QPushButton> {
   public:
     Bouton(QWidget& parent, Hote& hote, Controle& controle);
@@ -23,7 +24,7 @@ class Bouton : public VueDe<QPushButton> {
     void peindretuile(QPainter& peintre);
 
     QFont ajustee_;
-    bool mesuree_ = false;  ///< waits for the first painting: a hidden button needs no font
+    bool mesuree_ = false;  ///< `ajustee_` is known; it is worked out at the first painting
 };
 
 }  // namespace ui::qt

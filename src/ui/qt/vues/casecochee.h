@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// A check box. The model ticks it; the widget only reports the click.
+/// A check box. The widget only reports the click; it is the model that ticks the box.
 class CaseCochee : public VueDe<QCheckBox> {
   public:
     CaseCochee(QWidget& parent, Hote& hote, Controle& controle);

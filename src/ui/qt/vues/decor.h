@@ -11,7 +11,7 @@
 
 namespace ui::qt {
 
-/// A picture file, drawn from its sharpest variant.
+/// A picture, sharp at the size at which it is drawn.
 class Image : public VueDe<QLabel> {
   public:
     using VueDe::VueDe;
@@ -22,13 +22,13 @@ class Image : public VueDe<QLabel> {
   private:
     void charger();
 
-    // What is drawn is kept: the cache of Qt refuses the large pictures of dense screens.
+    // Kept here, as the large pictures of high-density screens do not fit Qt's cache.
     QPixmap vignette_;
-    QString chemin_;  ///< where it comes from
-    QSize place_;     ///< pixels that it was made for
+    QString chemin_;  ///< file that `vignette_` was made from
+    QSize place_;     ///< size that it was made for, in pixels
 };
 
-/// A frame: a light card, its text as a heading.
+/// A frame: a light card with the control's text as its heading.
 class Cadre : public VueDe<QFrame> {
   public:
     using VueDe::VueDe;
@@ -37,7 +37,7 @@ class Cadre : public VueDe<QFrame> {
     void paintEvent(QPaintEvent* evenement) override;
 };
 
-/// A line along the longer side of its place.
+/// A line, horizontal or vertical along the longer side of the control.
 class Ligne : public VueDe<QFrame> {
   public:
     using VueDe::VueDe;

@@ -9,19 +9,21 @@
 
 namespace ui::qt {
 
-/// How a design in twips lies in a window: one factor for both directions, fonts included.
+/// Maps a form's design, in twips, to the pixels of its window, by one factor for widths, heights
+/// and fonts.
 struct Echelle {
-    static constexpr double twipsparpixel = 15;  ///< of the design, at 96 dots an inch
+    static constexpr double twipsparpixel = 15;  ///< of the design, at 96 pixels per inch
     static constexpr double twipsparpoint = 20;
 
-    double partwip = 1 / twipsparpixel;  ///< pixels a twip
-    QPointF origine;                     ///< of the design in the window
+    double partwip = 1 / twipsparpixel;  ///< pixels of the window per twip
+    QPointF origine;                     ///< top left corner of the design in the window
 
-    /// Size in pixels of a length told in pixels of the design.
+    /// Pixels of the window for a length in pixels of the design.
     [[nodiscard]] double unite(double pixels = 1) const { return pixels * twipsparpixel * partwip; }
-    /// Height in pixels of a font of so many points.
+    /// Height of a font of so many points, in pixels of the window.
     [[nodiscard]] double corps(double points) const { return points * twipsparpoint * partwip; }
-    /// Edges are rounded each by itself, so that controls that touch in the design touch here.
+    /// The rectangle of a control. Each edge is rounded separately, so that controls that touch in
+    /// the design touch in the window.
     [[nodiscard]] QRect cadre(const Cadrage& c) const {
         const auto x = [&](int twips) {
             return static_cast<int>(std::lround(origine.x() + twips * partwip));

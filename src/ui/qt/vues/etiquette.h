@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// A label: its text breaks at blanks, and is drawn smaller rather than clipped.
+/// A label. Its text is wrapped at spaces and drawn smaller rather than cut off.
 class Etiquette : public VueDe<QLabel> {
   public:
     Etiquette(QWidget& parent, Hote& hote, Controle& controle);
@@ -21,7 +21,7 @@ class Etiquette : public VueDe<QLabel> {
 
     QFont ajustee_;
     Qt::Alignment verticale_;
-    bool mesuree_ = false;  ///< waits for the first painting: a hidden label needs no font
+    bool mesuree_ = false;  ///< `ajustee_` is known; it is worked out at the first painting
 };
 
 }  // namespace ui::qt

@@ -12,7 +12,7 @@ namespace ui::qt {
 
 class Vue;
 
-/// What a view knows of the window that it stands in.
+/// The window, as far as a view in it knows it.
 class Hote {
   public:
     Hote() = default;
@@ -22,11 +22,11 @@ class Hote {
 
     /// How the design lies in the window at its present size.
     [[nodiscard]] virtual const Echelle& echelle() const = 0;
-    /// The font of menus at the window's scale.
+    /// The font for menus, at the window's scale.
     [[nodiscard]] virtual QFont fontedemenu() const = 0;
-    /// The user works in this window, or in its pop-up menu.
+    /// Whether this window or its pop-up menu is the active one.
     [[nodiscard]] virtual bool active() const = 0;
-    /// The system's path of a picture, from the path that a control names.
+    /// The system's path of a picture, given the path that a control holds.
     [[nodiscard]] virtual QString chemin(std::string_view image) const = 0;
 
     /// Runs an event in the model, then brings all windows up to date. Does nothing once the form

@@ -4,7 +4,8 @@
 
 namespace ui::qt {
 
-/// A combo box with an editable text: a text box whose arrow, or Down or F4, opens the entries.
+/// An editable combo box: a text box with an arrow. A click on the arrow, Down or F4 opens the list
+/// of entries.
 class Liste : public Boite {
   public:
     Liste(QWidget& parent, Hote& hote, Controle& controle);
@@ -17,7 +18,7 @@ class Liste : public Boite {
     void completer(QPainter& peintre) override;
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
-    void cliquer() override {}  // the event of a list is the pick of an entry
+    void cliquer() override {}  // the event of a combo box is the choice of an entry
 
   private:
     [[nodiscard]] QRectF placefleche() const;

@@ -8,10 +8,10 @@ class QWidget;
 
 namespace ui::qt {
 
-/// The entries of a text box's own menu.
+/// The entries of a text box's context menu.
 struct MenuEdition {
     struct Entree {
-        bool possible = false;
+        bool possible = false;  ///< the entry is enabled
         std::function<void()> action;
     };
     Entree couper;
@@ -20,7 +20,7 @@ struct MenuEdition {
     Entree toutselectionner;
 };
 
-/// Opens the menu at a place of the screen, in a font; it goes by itself.
+/// Opens the menu at a point of the screen. It deletes itself when it is closed.
 void deroulermenuedition(QWidget& boite, const QPoint& place, const QFont& fonte,
                          const MenuEdition& menu);
 

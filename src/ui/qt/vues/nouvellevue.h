@@ -4,7 +4,8 @@
 
 namespace ui::qt {
 
-/// The view of a control, its widget a child of the window; null for an entry of a menu.
+/// Makes the view of a control. Its widget is a child of `parent`, which owns both. Null for an
+/// entry of a menu, which has no widget.
 [[nodiscard]] Vue* nouvellevue(QWidget& parent, Hote& hote, Controle& controle);
 
 }  // namespace ui::qt

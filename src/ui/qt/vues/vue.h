@@ -16,7 +16,7 @@ class QMouseEvent;
 
 namespace ui::qt {
 
-/// A set of properties of a control.
+/// A set of properties of a control, one bit each.
 using Champs = std::uint32_t;
 
 [[nodiscard]] constexpr Champs ensemble(Champ champ) {
@@ -32,8 +32,8 @@ inline constexpr Champs champsplace =
 inline constexpr Champs champsfonte =
     ensemble(Champ::Police, Champ::Taille, Champ::Gras, Champ::Italique, Champ::Barre);
 
-/// What all views of controls have in common: notes what has changed, brings the widget to the
-/// model when the window asks for it, and reports the mouse.
+/// What the views of all controls share: it records what has changed, updates the widget when the
+/// window asks for it, and reports the mouse to the model.
 class Vue : public VueControle {
   public:
     Vue(Hote& hote, Controle& controle);
@@ -42,50 +42,55 @@ class Vue : public VueControle {
     ~Vue() override;
 
     [[nodiscard]] virtual QWidget& widget() = 0;
-    /// The widget that takes the keys of this control.
+    /// The widget that takes the keyboard for this control.
     [[nodiscard]] virtual QWidget& widgetclavier() { return widget(); }
     /// Null once the form is gone.
     [[nodiscard]] Controle* controle() const { return controle_; }
 
     void modifie(Champ champ) final;
-    /// Brings the widget to the model, as far as it has changed.
+    /// Updates the widget for the properties that have changed since the last call.
     void appliquer();
-    /// The scale of the window, or its pointer, has changed.
+    /// Makes the next `appliquer` update everything, as after a change of the window's scale.
     void toutnoter() { champs_ = tous; }
-    /// The form is going away.
+    /// Forgets the control, which is being destroyed.
     void detacher();
-    /// The form's default button, the focus or the window's activation may have changed.
+    /// Redraws what depends on the form's default button, the focus and the active window, any of
+    /// which may have changed.
     virtual void accorder() { widget().update(); }
-    /// A key that the view deals with by itself, before the model hears of it.
+    /// Handles a key in the view. True if the model is not to get it.
     virtual bool touchepropre(const QKeyEvent& /*evenement*/) { return false; }
 
   protected:
-    /// Shows what is particular to the genre; the widget is redrawn afterwards in any case.
+    /// Updates what is particular to this kind of control. The widget is redrawn afterwards in any
+    /// case.
     virtual void montrer(Champs champs);
-    /// The widget makes clicks out of presses and releases by itself.
+    /// True if the widget itself turns presses and releases into clicks.
     [[nodiscard]] virtual bool clicnatif() const { return false; }
-    /// Where the widget lies in the window.
+    /// The rectangle of the widget in the window.
     [[nodiscard]] virtual QRect place() const;
-    /// The user has clicked the control.
+    /// Reports a click of the user on the control.
     virtual void cliquer();
 
-    /// Reports of the mouse that belong before and after what the widget does by itself.
+    /// Report the mouse before and after the widget has handled an event itself.
     void avant(const QEvent& evenement);
     void apres(const QEvent& evenement);
 
     [[nodiscard]] Hote& hote() const { return hote_; }
+    /// `Hote::executer`.
     void executer(const std::function<void()>& evenement) const;
     /// The control's text.
     [[nodiscard]] QString texte() const;
-    /// What assistive technologies are told beside the name.
+    /// What assistive technologies say besides the name.
     [[nodiscard]] virtual QString description() const;
     /// The control's font at the window's scale.
     [[nodiscard]] const QFont& fonte() const { return fonte_; }
     /// The font of menus at the window's scale.
     [[nodiscard]] QFont fontedemenu() const;
+    /// Size of one pixel of the design in the window.
     [[nodiscard]] double unite() const;
-    /// The control has no background of its own: transparent, or the colour of its form.
+    /// The control is transparent or has the colour of its form, so its background is not drawn.
     [[nodiscard]] bool sansfond() const;
+    /// The control has the focus, and its window is active.
     [[nodiscard]] bool alefocus() const;
 
   private:
@@ -97,11 +102,11 @@ class Vue : public VueControle {
     Controle* controle_;
     QFont fonte_;
     Champs champs_ = tous;
-    bool notee_ = false;   ///< the window knows that something has changed
+    bool notee_ = false;   ///< the window was told (`Hote::noter`) since the last `appliquer`
     bool presse_ = false;  ///< the left button went down on the control
 };
 
-/// A view that is a widget of Qt.
+/// A view that is also its widget, of Qt's class `W`.
 template <class W>
 class VueDe : public W, public Vue {
   public:
