@@ -6,6 +6,7 @@
 
 #include "faute.h"
 #include "fichier.h"
+#include "listes.h"
 #include "multi.h"
 #include "parcours.h"
 #include "rangeesmulti.h"
@@ -19,7 +20,7 @@ void Multi::commencer(std::string_view chemin) {
     reglerpolices(rangees_.longueurdernier());
     ouvrircritere();
     initchrono();
-    if (voisins_.form3.toue == "E")
+    if (voisins_.form3.toue == common::modes::echantillon)
         echantillonner(tailleechantillon());
     ratages_ = {};
     nbmotstotal_ = totaliser();
@@ -39,11 +40,11 @@ int Multi::tailleechantillon() const {
     constexpr std::string_view action = "Tirage de l'échantillon";
     const auto& options = voisins_.dialog2;
     const int rangees = rangees_.nbmots();
-    if (rangees > limiteaechantillonner) {
+    if (static_cast<std::size_t>(rangees) > common::rangeesmulti) {
         throw common::Faute(common::rapportligne(
-            action, fich_, std::size_t{limiteaechantillonner} + 1,
+            action, fich_, common::rangeesmulti + 1,
             "la liste est trop longue pour un échantillon ; la limite est de " +
-                std::to_string(limiteaechantillonner) + " lignes"));
+                std::to_string(common::rangeesmulti) + " lignes"));
     }
     const std::array tailles{options.nbechduo, options.nbechtri, options.nbechqua,
                              options.nbechqui};

@@ -12,8 +12,6 @@
 
 namespace series {
 
-/// Racks of a series on `Form1`.
-inline constexpr int nbboitesform1 = 30;
 /// Different wrong rows that a list can hold (`motsfaux`).
 inline constexpr std::size_t limitemotsfaux = 5001;
 /// Largest sample.
@@ -22,11 +20,10 @@ inline constexpr int limiteechantillon = 900;
 inline constexpr std::size_t limitevariantes = 26;
 
 /// Words to look up in the notes for a row: its solution, or in a list of extensions the whole
-/// word; with a joker, one word for each letter of the solution. `titre` is the list's, which says
-/// whether the letters come in front or behind; any other title of such a list gives no word.
+/// word; with a joker, one word for each letter of the solution. None where the kind of list
+/// doesn't tell on which side the letters come.
 [[nodiscard]] std::vector<std::string> motsdesnotes(std::string_view tirage,
-                                                    std::string_view solution, std::string_view typ,
-                                                    std::string_view titre);
+                                                    std::string_view solution, Nature nature);
 
 /// Form1: the series of racks with one solution.
 ///

@@ -25,20 +25,20 @@ std::vector<std::string> variantes(std::string_view mot, std::string_view lettre
 }  // namespace
 
 std::vector<std::string> motsdesnotes(std::string_view tirage, std::string_view solution,
-                                      std::string_view typ, std::string_view titre) {
-    if (typ != common::typrallonges)
-        return {std::string(solution)};
-    if (titre.starts_with("Rallonges ava")) {
+                                      Nature nature) {
+    if (nature == Nature::Rallongesavant) {
         if (tirage.starts_with('?'))
             return variantes(tirage.substr(1), solution, true);
         return {std::string(solution) + std::string(tirage)};
     }
-    if (titre.starts_with("Rallonges arr")) {
+    if (nature == Nature::Rallongesarriere) {
         if (tirage.ends_with('?'))
             return variantes(tirage.substr(0, tirage.size() - 1), solution, false);
         return {std::string(tirage) + std::string(solution)};
     }
-    return {};
+    if (nature == Nature::Rallongesautres)
+        return {};
+    return {std::string(solution)};
 }
 
 void Form1::corrigerserie() {
@@ -71,14 +71,10 @@ void Form1::marquer(int nombre) {
 }
 
 void Form1::noter(int nombre) {
-    const auto& menu = voisins_.form3;
-    const bool sansnotes = menu.nombase == benjamins ||
-                           menu.nombase == std::string(benjamins).append(common::titrerevision);
     std::vector<std::string> mots;
     std::vector<int> boites;
-    for (int i = 0; i < nombre && !sansnotes; ++i) {
-        auto motsdelarangee =
-            motsdesnotes(tiragedelarangee(i), rangees_.suite(rangee(i)), menu.typ, Label7.texte());
+    for (int i = 0; i < nombre && avecnotes(nature_); ++i) {
+        auto motsdelarangee = motsdesnotes(tiragedelarangee(i), rangees_.suite(rangee(i)), nature_);
         if (motsdelarangee.size() > limitevariantes) {
             throw common::Faute(common::rapportligne(
                 action, fich_, lignedufichier(i),
@@ -131,7 +127,7 @@ void Form1::montrerfaute(int rang) {
     reponse.fond = ui::couleurs::faux;
     if (reponse.texte().empty()) {
         reponse.texte = rack.texte();
-    } else if (voisins_.form3.typ == common::typrallonges) {
+    } else if (rallonges(nature_)) {
         reponse.infobulle = "Vous aviez saisi: " + reponse.texte();
         reponse.texte = rack.texte();
     } else {
@@ -145,7 +141,7 @@ void Form1::montrerfaute(int rang) {
 /// A definition is offered for the box that shows the right word.
 void Form1::ouvrirmenu(int rang, const ui::Controle& boite) {
     const bool juste = boite.fond() == ui::couleurs::juste;
-    ouvrirmenumot(rang, boite, boite.texte(), juste && voisins_.form3.typ != common::typrallonges);
+    ouvrirmenumot(rang, boite, boite.texte(), juste && !rallonges(nature_));
 }
 
 }  // namespace series

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "form1.h"
+#include "listes.h"
 
 namespace series {
 namespace {
@@ -115,7 +116,7 @@ void Form1::disposer() {
 
 void Form1::disposerboites() {
     const auto& grille = (modecompact_ ? compact : normal).grille;
-    for (int i = 0; i < nbboitesform1; ++i) {
+    for (int i = 0; i < common::tiragesform1; ++i) {
         const auto place = static_cast<std::size_t>(i);
         const int gauche = grille.gauche + i / rangeesdecolonne * grille.pascolonne;
         const int haut = grille.haut + i % rangeesdecolonne * grille.pasrangee;

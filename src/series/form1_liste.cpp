@@ -11,7 +11,7 @@ void Form1::commencer(std::string_view chemin) {
     motsfaux_.clear();
     reglerpolices(rangees_.longueurdernier());
     ouvrircritere();
-    if (voisins_.form3.toue == "E")
+    if (voisins_.form3.toue == common::modes::echantillon)
         echantillonner(tailleechantillon());
     nbmotsinitial_ = rangees_.nbmots();
     if (modecompact_)

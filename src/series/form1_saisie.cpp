@@ -1,12 +1,13 @@
 // Form1: focus and keys of the answer boxes, and the second line of entry.
 
 #include "form1.h"
+#include "listes.h"
 #include "texte.h"
 
 namespace series {
 
 void Form1::branchersaisie() {
-    for (int i = 0; i < nbboitesform1; ++i) {
+    for (int i = 0; i < common::tiragesform1; ++i) {
         for (auto* boites : {&tirage, &solution}) {
             auto& boite = *(*boites)[static_cast<std::size_t>(i)];
             boite.doubleclic = [this, i, &boite] { ouvrirmenu(i, boite); };
@@ -15,7 +16,7 @@ void Form1::branchersaisie() {
     recherche.change = [this] {
         const auto limite = common::longueur(tirage[static_cast<std::size_t>(boite_)]->texte());
         const auto longueur = common::longueur(recherche.texte());
-        if (voisins_.form3.typ == common::typrallonges || longueur <= limite)
+        if (rallonges(nature_) || longueur <= limite)
             return;
         // One beep a letter that is cut, in one write.
         if (voisins_.options.check1()) {
@@ -38,9 +39,9 @@ std::optional<int> Form1::boitevoisine(int rang, int code) const {
     switch (code) {
         case ui::touches::entree:
         case ui::touches::bas:
-            return (rang + 1) % nbboitesform1;
+            return (rang + 1) % common::tiragesform1;
         case ui::touches::haut:
-            return (rang + nbboitesform1 - 1) % nbboitesform1;
+            return (rang + common::tiragesform1 - 1) % common::tiragesform1;
         default:
             return std::nullopt;
     }

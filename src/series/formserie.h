@@ -17,15 +17,13 @@
 #include "lettres.h"
 #include "marques.h"
 #include "menumot.h"
+#include "nature.h"
+#include "pioche.h"
 #include "rangees.h"
 #include "reference.h"
-#include "tirage.h"
 #include "tuiles.h"
 
 namespace series {
-
-/// Title of the list in which the letters of an answer aren't those of its rack.
-inline constexpr std::string_view benjamins = "Benjamins uniques";
 
 /// What tells the two forms apart in the pieces that they share.
 struct Gabarit {
@@ -170,6 +168,7 @@ class Formserie : public ui::Formulaire {
     common::Voisins& voisins_;
     Gabarit gabarit_;
     std::string fich_;
+    Nature nature_ = Nature::Simple;  ///< of the running list
     Rangees rangees_;
     std::vector<int> rapide_;  ///< by box: -1 not judged, 0 failed, 1 passed in time
     int boitesutiles_;         ///< boxes in use by this list

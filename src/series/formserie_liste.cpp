@@ -34,6 +34,7 @@ std::string Formserie::nomenregistre() const {
 void Formserie::ouvrirliste(std::string_view chemin) {
     quitter.fond = ui::Couleur::bouton();
     Label7.texte = voisins_.form3.nombase;
+    nature_ = naturedelaliste(voisins_.form3.typ, voisins_.form3.nombase);
     fich_ = chemin;
     // The rows that the boxes showed are gone.
     std::fill(rangboite_.begin(), rangboite_.end(), -1);

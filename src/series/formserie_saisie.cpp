@@ -94,8 +94,7 @@ void Formserie::cliquerrecherche(int rang) {
 }
 
 bool Formserie::saisieassistee() const {
-    return voisins_.form3.nombase != benjamins && voisins_.form3.typ != common::typrallonges &&
-           serieouverte() && voisins_.dialog2.saisieassistee != 0;
+    return lettresdutirage(nature_) && serieouverte() && voisins_.dialog2.saisieassistee != 0;
 }
 
 void Formserie::lirelettres(std::string_view texteduntirage, int place) {

@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-#include "tirage.h"
+#include "pioche.h"
 
 namespace {
 
