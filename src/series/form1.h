@@ -2,18 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "formserie.h"
 
 namespace series {
 
-/// Different wrong rows that a list can hold (`motsfaux`).
-inline constexpr std::size_t limitemotsfaux = 5001;
 /// Largest sample.
 inline constexpr int limiteechantillon = 900;
 /// Letters of a solution that extend a rack with a joker, at most.
@@ -24,6 +20,10 @@ inline constexpr std::size_t limitevariantes = 26;
 /// doesn't tell on which side the letters come.
 [[nodiscard]] std::vector<std::string> motsdesnotes(std::string_view tirage,
                                                     std::string_view solution, Nature nature);
+
+/// Size of the sample of a list: that of the options, which is not cut down to the list. Throws
+/// `Faute` for more than the list or the largest sample holds.
+[[nodiscard]] int tailleechantillon(const Serie& serie, int demandee);
 
 /// Form1: the series of racks with one solution.
 ///
@@ -44,25 +44,18 @@ class Form1 : public Formserie {
 
     // form1_liste.cpp: the list, the criterion.
     void ouvrircritere();
-    [[nodiscard]] int tailleechantillon() const;
-    [[nodiscard]] std::string lignedelaliste(int rang) const override;
     void changercritere();
     void fixercritere(bool secondes);
 
     // form1_saisie.cpp: focus, keys, the second line of entry.
     void branchersaisie();
-    [[nodiscard]] std::optional<int> boitevoisine(int rang, int code) const override;
-    void rendreletirage(int place) override;
-    void jugerboite(int rang) override { juger(rang, "OK"); }
-    void juger(int rang, std::string_view atemps);
 
-    // form1_correction.cpp: marks, notes, judgement, wrong rows.
+    // form1_correction.cpp: marks, notes, judgement, word menu.
     void corrigerserie() override;
-    void marquer(int nombre);
-    void noter(int nombre);
-    int jugerreponses(int nombre);
-    void montrerfaute(int rang);
-    void ouvrirmenu(int rang, const ui::Controle& boite);
+    [[nodiscard]] Correction jugerdepart(int boite) override;
+    void marquer();
+    void noter();
+    void ouvrirmenu(int rang, bool surletirage);
 
     // form1_ecran.cpp: the two layouts.
     void disposer();
@@ -73,7 +66,7 @@ class Form1 : public Formserie {
 
     ui::Controle& Command6;
     std::int32_t nbmotsinitial_ = 0;
-    std::unordered_set<std::string> motsfaux_;  ///< rows answered wrong in this list
+    Motsfaux motsfaux_;  ///< of the running list
     bool modecompact_ = false;
 };
 
