@@ -44,6 +44,10 @@ inline constexpr std::array listesreference{listeods5, listeods6, listeods7,
 inline constexpr std::string_view fichierinfosouris = "infosouris.txt";
 inline constexpr std::size_t lignesinfosouris = 500001;
 
+/// Racks of a series: on the form of racks with one solution, and on that of several.
+inline constexpr int tiragesform1 = 30;
+inline constexpr int tiragesmulti = 10;
+
 /// Most rows of a list with one solution a rack.
 inline constexpr std::size_t rangeesform1 = 15000;
 /// Most rows of a list with several solutions a rack, from which a sample can be drawn.

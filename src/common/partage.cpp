@@ -1,5 +1,6 @@
 #include "partage.h"
 
+#include "listes.h"
 #include "nombre.h"
 
 namespace common {
@@ -12,7 +13,7 @@ void VariablesDialog2::affecterechantillons(std::int16_t nbser) {
         const std::int64_t produit = nbser >= 2 ? std::int64_t{parserie} * nbser : seule;
         return entier16(produit, quoi);
     };
-    nbechuni = taille(tiragesparserie, tiragesparserie);
+    nbechuni = taille(tiragesform1, tiragesform1);
     nbechduo = taille(16, 20);
     nbechtri = taille(10, 20);
     nbechqua = taille(8, 10);

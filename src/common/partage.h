@@ -25,9 +25,6 @@ inline constexpr std::string_view typrallonges = "rallong";
 /// The name of the colour that stands for every unknown name.
 inline constexpr std::string_view couleurpardefaut = "Par défaut";
 
-/// Racks of a series with one solution a rack.
-inline constexpr int tiragesparserie = 30;
-
 /// Public variables of `Form3` (the menu).
 struct VariablesForm3 {
     std::string util;                             ///< user name, and the name of the user's folder

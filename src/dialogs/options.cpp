@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "listes.h"
 #include "nombre.h"
 
 namespace dialogs::options {
@@ -101,7 +102,7 @@ std::string tempsdeserie(double secondesparmot) {
     constexpr std::string_view quoi =
         "Temps d'une série de 30 mots, à 1092 secondes par mot au plus (options, ligne 3 de "
         "« settings.dat »)";
-    return common::CalcDuree(common::entier16(secondesparmot * common::tiragesparserie, quoi));
+    return common::CalcDuree(common::entier16(secondesparmot * common::tiragesform1, quoi));
 }
 
 std::array<std::string, nbtailles> tailles(common::VariablesDialog2& variables,
@@ -115,7 +116,7 @@ std::array<std::string, nbtailles> tailles(common::VariablesDialog2& variables,
         return mots(nombre, solutions) + " (" + std::to_string(nombre) + " " + std::string(quoi) +
                ")";
     };
-    return {mots(nbser, common::tiragesparserie), groupes(variables.nbechduo, 2, "duos"),
+    return {mots(nbser, common::tiragesform1), groupes(variables.nbechduo, 2, "duos"),
             groupes(variables.nbechtri, 3, "trios"), groupes(variables.nbechqua, 4, "quatuors"),
             groupes(variables.nbechqui, 5, "quintets")};
 }

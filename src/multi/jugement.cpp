@@ -32,15 +32,15 @@ void juger(Verdict& verdict, std::span<const std::string> saisis,
         if (!mot.empty()) {
             verdict.infobulle += verdict.infobulle.empty() ? saisie : " - ";
             verdict.infobulle += mot;
-            verdict.fond = ui::couleurs::faux;
+            verdict.etat = series::Etattirage::Faux;
             boite.infobulle = std::string(saisie) + mot;
-        } else if (verdict.fond != ui::couleurs::faux) {
-            verdict.fond = blancs;
+        } else if (verdict.etat != series::Etattirage::Faux) {
+            verdict.etat = series::Etattirage::Incomplet;
         }
         if (attendue != attendues.end())
             boite.texte = *attendue++;
     }
-    if (verdict.fond == blancs && verdict.infobulle.empty())
+    if (verdict.etat == series::Etattirage::Incomplet && verdict.infobulle.empty())
         verdict.infobulle = riendefaux;
 }
 
@@ -73,7 +73,7 @@ Verdict corrigertirage(const Rack& rack, Ratages& ratages) {
     const auto solutions = std::span(rack.solutions).first(n);
     const auto saisis = std::span(rack.saisis).first(n);
     Verdict verdict;
-    verdict.fond = rack.fond;
+    verdict.etat = rack.etat;
     const auto attendues = manquees(saisis, solutions);
     juger(verdict, saisis, solutions, attendues);
     std::size_t egalites = 0;

@@ -12,12 +12,9 @@
 #include <unordered_set>
 #include <vector>
 
-#include "valeurs.h"
+#include "etats.h"
 
 namespace multi {
-
-/// A rack of which only blank boxes were wrong.
-inline constexpr ui::Couleur blancs = ui::couleurs::incomplet;
 
 /// A table of a run has no room left.
 enum class Debordement : std::uint8_t { Aucun, Motsfaux, Tiragesfaux };
@@ -58,15 +55,15 @@ struct Verdict {
     /// As many matches as solutions, a word typed twice making two.
     bool juste = false;
     std::vector<Boitejugee> boites;  ///< of the words 1 to n
-    ui::Couleur fond;                ///< of the rack
+    series::Etattirage etat{};       ///< of the rack
     std::string infobulle;           ///< of the rack
     Debordement debordement = Debordement::Aucun;
 };
 
-/// A rack to judge, as its boxes stand.
+/// A rack to judge, as its boxes stand and as it shows.
 struct Rack {
     std::string texte;
-    ui::Couleur fond;
+    series::Etattirage etat{};
     std::vector<std::string> saisis;     ///< word by word, at least as many as solutions
     std::vector<std::string> solutions;  ///< of the row
 };

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "faute.h"
-#include "fichier.h"
 #include "parcours.h"
 #include "rangeesmulti.h"
 
@@ -12,15 +10,25 @@ namespace {
 
 constexpr int nbboites = nbtirages * static_cast<int>(maxsolutions);
 
+std::string enligne(std::string_view tirage, std::string_view suite, std::size_t nbsolutions) {
+    return lignederangee(tirage, solutions(suite), nbsolutions);
+}
+
 const series::Gabarit gabaritmulti{
     .nom = "Multi",
     .titre = "ENTRAINEMENT SCRABBLE",
     .nbcadres = 2,
     .nblignes = 0,
-    .nbtirages = nbtirages,
-    .nbboites = nbboites,
-    .limiterangees = limiterangees,
-    .comblement = series::Comblement::Suivants,
+    .regles = {.nbplaces = nbtirages,
+               .nbboites = nbboites,
+               .limiterangees = limiterangees,
+               .comblement = series::Comblement::Suivants,
+               .enligne = enligne,
+               .rendlettresnues = true,
+               .jugesiaffiche = true,
+               .marquesgardees = "-"},
+    .parcours = parcours,
+    .videenfaute = true,
     .longsgardentpolice = false,
     .nomdesfautes = "nbftotal",
     .enmoinsde = "Eliminer un tirage trouvé en moins de",
@@ -29,7 +37,6 @@ const series::Gabarit gabaritmulti{
     .limitenotes = 20001,
     .lignesdemots = series::Lignesdemots::Toutes,
     .notessurletirage = false,
-    .marquesgardees = "-",
     .limitetotal = std::nullopt,
 };
 
@@ -68,7 +75,7 @@ void Multi::branchersaisie() {
     recherche.clic = [this] { cliquerrecherche(boite_); };
     valider.clic = [this] {
         validerrecherche();
-        if (!serieouverte())
+        if (!serie_.ouverte)
             mettredefaut(Command2);
     };
 }
@@ -79,37 +86,8 @@ void Multi::coloration() {
         cadre->fond = fond();
 }
 
-std::size_t Multi::nbsolutions() const {
-    return static_cast<std::size_t>(boitesutiles_ / nbtirages);
-}
-
 ui::Controle& Multi::boite(int place, std::size_t mot) const {
     return *solution[mot * nbtirages + static_cast<std::size_t>(place)];
-}
-
-std::optional<int> Multi::boitevoisine(int rang, int code) const {
-    return parcours(rang, code, static_cast<int>(nbsolutions()));
-}
-
-std::string Multi::tirageasaisir(int place) const {
-    if (rangee(place) < 0) {
-        throw common::Faute(common::rapportfichier(
-            "Saisie d'une réponse", fich_,
-            "le tirage n° " + std::to_string(place + 1) +
-                " est vide et n'admet aucune lettre ; la série s'arrête au tirage n° " +
-                std::to_string(nombredelaserie())));
-    }
-    return tiragedelarangee(place);
-}
-
-/// The letters without mark-up, which is gone from the box from now on.
-void Multi::rendreletirage(int place) {
-    if (!lettres_.tiragenet().empty())
-        tirage[static_cast<std::size_t>(place)]->texte = lettres_.tiragenet();
-}
-
-bool Multi::occupee(int place) const {
-    return Formserie::occupee(place) && !tirage[static_cast<std::size_t>(place)]->texte().empty();
 }
 
 }  // namespace multi

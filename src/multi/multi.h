@@ -2,15 +2,20 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "correctionmulti.h"
 #include "formserie.h"
-#include "jugement.h"
 
 namespace multi {
+
+/// Size of the sample of a list: what the options ask for its number of solutions, cut down to the
+/// list. Throws `Faute` for a list, or a sample, that is too large.
+[[nodiscard]] int tailleechantillon(const series::Serie& serie, int demandee);
+
+/// Solutions of the run, each rack counted as a full one. Throws `Faute` past 16 bits.
+[[nodiscard]] std::int16_t totaldessolutions(const series::Serie& serie);
 
 /// Multi: the series of racks with several solutions.
 ///
@@ -31,25 +36,11 @@ class Multi : public series::Formserie {
     // multi_liste.cpp: the list, the criterion.
     void ouvrircritere();
     void changercritere();
-    [[nodiscard]] int tailleechantillon() const;
-    [[nodiscard]] std::int16_t totaliser() const;
-    [[nodiscard]] std::vector<std::string> solutionsdelarangee(int rang) const;
-    [[nodiscard]] std::string lignedelaliste(int rang) const override;
-
-    // Entry of answers.
-    [[nodiscard]] std::optional<int> boitevoisine(int rang, int code) const override;
-    [[nodiscard]] std::string tirageasaisir(int place) const override;
-    void rendreletirage(int place) override;
-    [[nodiscard]] bool occupee(int place) const override;
+    [[nodiscard]] int taillevoulue() const;
 
     // multi_correction.cpp: judgement, marks and notes, word menu.
     void corrigerserie() override;
-    int jugertirages(int nombre);
-    bool corrigertirage(int place, std::vector<Ratee>& ratees);
-    void montrer(int place, const Verdict& verdict);
-    void juger(int place, int rang, std::vector<Ratee>& ratees);
-    void jugerboite(int rang) override;
-    [[noreturn]] void deborder(int place, Debordement debordement) const;
+    [[nodiscard]] series::Correction jugerdepart(int boite) override;
     void annoterboites();
     void ouvrirmenudesolution(int rang);
     void ouvrirmenudetirage(int place);
@@ -59,7 +50,6 @@ class Multi : public series::Formserie {
     void disposercolonne();
     void rangernotes(bool listefinie) override;
 
-    [[nodiscard]] std::size_t nbsolutions() const;
     /// The answer box of a word (from 0) of a rack place.
     [[nodiscard]] ui::Controle& boite(int place, std::size_t mot) const;
 

@@ -94,7 +94,7 @@ void Multi::disposer() {
 
 /// Puts the column, and the window's right edge, where the number of answers a rack wants them.
 void Multi::disposercolonne() {
-    const int colonne = gauchedecolonne(static_cast<int>(nbsolutions()));
+    const int colonne = gauchedecolonne(static_cast<int>(serie_.nbsolutions()));
     largeur = colonne + largeurcolonne + marge;
     for (const auto& place : decolonne) {
         auto cadre = place.cadre;

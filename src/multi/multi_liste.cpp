@@ -6,23 +6,57 @@
 
 #include "faute.h"
 #include "fichier.h"
+#include "listes.h"
 #include "multi.h"
 #include "parcours.h"
 #include "rangeesmulti.h"
 
 namespace multi {
 
+int tailleechantillon(const series::Serie& serie, int demandee) {
+    constexpr std::string_view action = "Tirage de l'échantillon";
+    const int rangees = serie.rangees.nbmots();
+    if (static_cast<std::size_t>(rangees) > common::rangeesmulti) {
+        throw common::Faute(common::rapportligne(
+            action, serie.fich, common::rangeesmulti + 1,
+            "la liste est trop longue pour un échantillon ; la limite est de " +
+                std::to_string(common::rangeesmulti) + " lignes"));
+    }
+    const int taille = std::min(demandee, rangees);
+    if (taille > limiteechantillon) {
+        throw common::Faute(common::rapportfichier(
+            action, serie.fich,
+            "l'échantillon demandé est de " + std::to_string(taille) +
+                " tirages ; la limite est de " + std::to_string(limiteechantillon)));
+    }
+    return taille;
+}
+
+std::int16_t totaldessolutions(const series::Serie& serie) {
+    constexpr auto limite = std::numeric_limits<std::int16_t>::max();
+    const auto rangees = static_cast<std::size_t>(serie.rangees.nbmots());
+    const auto total = rangees * serie.nbsolutions();
+    if (total > limite) {
+        throw common::Faute(common::rapportligne(
+            "Lecture de la liste", serie.fich, limite / serie.nbsolutions() + 1,
+            "trop de solutions à trouver, à raison de " + std::to_string(serie.nbsolutions()) +
+                " par tirage ; la limite est de " + std::to_string(limite)));
+    }
+    return static_cast<std::int16_t>(total);
+}
+
 void Multi::commencer(std::string_view chemin) {
     ouvrirliste(chemin);
-    boitesutiles_ = nbtirages * static_cast<int>(nbsolutionsdelaliste(rangees_, fich_));
+    serie_.boitesutiles =
+        nbtirages * static_cast<int>(nbsolutionsdelaliste(serie_.rangees, serie_.fich));
     disposercolonne();
-    reglerpolices(rangees_.longueurdernier());
+    reglerpolices(serie_.rangees.longueurdernier());
     ouvrircritere();
     initchrono();
-    if (voisins_.form3.toue == "E")
-        echantillonner(tailleechantillon());
+    if (voisins_.form3.toue == common::modes::echantillon)
+        garderechantillon(tailleechantillon(serie_, taillevoulue()));
     ratages_ = {};
-    nbmotstotal_ = totaliser();
+    nbmotstotal_ = totaldessolutions(serie_);
     nouvelleserie();
 }
 
@@ -34,48 +68,12 @@ void Multi::ouvrircritere() {
     seuiltxt.actif = libre;
 }
 
-/// The size told for this number of solutions, cut down to the list.
-int Multi::tailleechantillon() const {
-    constexpr std::string_view action = "Tirage de l'échantillon";
+/// The size that the options tell for this number of solutions.
+int Multi::taillevoulue() const {
     const auto& options = voisins_.dialog2;
-    const int rangees = rangees_.nbmots();
-    if (rangees > limiteaechantillonner) {
-        throw common::Faute(common::rapportligne(
-            action, fich_, std::size_t{limiteaechantillonner} + 1,
-            "la liste est trop longue pour un échantillon ; la limite est de " +
-                std::to_string(limiteaechantillonner) + " lignes"));
-    }
     const std::array tailles{options.nbechduo, options.nbechtri, options.nbechqua,
                              options.nbechqui};
-    const int taille = std::min<int>(tailles.at(nbsolutions() - minsolutions), rangees);
-    if (taille > limiteechantillon) {
-        throw common::Faute(common::rapportfichier(
-            action, fich_,
-            "l'échantillon demandé est de " + std::to_string(taille) +
-                " tirages ; la limite est de " + std::to_string(limiteechantillon)));
-    }
-    return taille;
-}
-
-/// Solutions of the run, in 16 bits.
-std::int16_t Multi::totaliser() const {
-    constexpr auto limite = std::numeric_limits<std::int16_t>::max();
-    const auto rangees = static_cast<std::size_t>(rangees_.nbmots());
-    if (rangees * nbsolutions() > limite) {
-        throw common::Faute(common::rapportligne(
-            "Lecture de la liste", fich_, limite / nbsolutions() + 1,
-            "trop de solutions à trouver, à raison de " + std::to_string(nbsolutions()) +
-                " par tirage ; la limite est de " + std::to_string(limite)));
-    }
-    return static_cast<std::int16_t>(rangees * nbsolutions());
-}
-
-std::vector<std::string> Multi::solutionsdelarangee(int rang) const {
-    return solutions(rangees_.suite(rang));
-}
-
-std::string Multi::lignedelaliste(int rang) const {
-    return lignederangee(rangees_.tirage(rang), solutionsdelarangee(rang), nbsolutions());
+    return tailles.at(serie_.nbsolutions() - minsolutions);
 }
 
 /// The limit stays as it stands; only the words change, and the place of what follows them.
@@ -83,8 +81,9 @@ void Multi::changercritere() {
     constexpr int deplacement = 950;
     constexpr int gaucheseuil = 1800;
     constexpr int gauchelabel6 = 2160;
-    const bool secondes = !criteresecondes();
-    libellercritere(secondes);
+    const bool secondes = !serie_.critere.secondes;
+    serie_.critere.secondes = secondes;
+    libellercritere();
     seuiltxt.gauche = secondes ? seuiltxt.gauche() + deplacement : gaucheseuil;
     Label6.gauche = secondes ? Label6.gauche() + deplacement : gauchelabel6;
     Label5.largeur = seuiltxt.gauche() - Label5.gauche();

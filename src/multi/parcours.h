@@ -2,10 +2,12 @@
 
 #include <optional>
 
+#include "listes.h"
+
 namespace multi {
 
 /// Racks of a series. Box i holds an answer to the rack i modulo this.
-inline constexpr int nbtirages = 10;
+inline constexpr int nbtirages = common::tiragesmulti;
 
 /// The box to which a key leads from box `rang`, with `nbsolutions` boxes a rack; none for a key
 /// that does not move. Enter and Right go through the boxes of a rack and on to the next rack, Left

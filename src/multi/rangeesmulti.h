@@ -9,17 +9,17 @@
 #include <string_view>
 #include <vector>
 
+#include "listes.h"
 #include "rangees.h"
 
 namespace multi {
 
-/// Most rows of a list.
+/// Most rows of a list; a sample is drawn of `common::rangeesmulti` at most.
 inline constexpr std::size_t limiterangees = 10000;
 /// Solutions of a rack: fewest boxes that a list shows for them, and most that a row may hold.
 inline constexpr std::size_t minsolutions = 2;
-inline constexpr std::size_t maxsolutions = 5;
-/// Largest list of which a sample can be taken, and largest sample.
-inline constexpr int limiteaechantillonner = 8001;
+inline constexpr std::size_t maxsolutions = common::solutionsmulti;
+/// Largest sample.
 inline constexpr int limiteechantillon = 901;
 
 /// Solutions per rack of the list `chemin`, whose rows are in the store: the largest count of a

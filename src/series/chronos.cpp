@@ -1,5 +1,6 @@
 #include "chronos.h"
 
+#include "etats.h"
 #include "nombre.h"
 #include "texte.h"
 
@@ -45,7 +46,7 @@ Chronos::Chronos(ui::Formulaire& formulaire, std::optional<std::int32_t> limitet
     Label3.gras = true;
     Label1.texte = "Série";
     Label2.texte = "Total";
-    temps.texte = "4:00";
+    temps.texte = texteserie(tempsaffiche_);
     temps.accessible = "Temps restant de la série";
     tempstot.texte = "0:00:00";
     tempstot.accessible = "Temps total de la liste";
@@ -64,7 +65,7 @@ Chronos::Chronos(ui::Formulaire& formulaire, std::optional<std::int32_t> limitet
         for (auto* controle : {&temps, &tempstot, &Label1, &Label2})
             controle->visible = Check1.coche();
     };
-    Command5.clic = [this] { basculerpause(); };
+    Command5.clic = [this] { surpause(); };
     Timer1.tic = [this] { battreserie(); };
     Timer2.tic = [this] { battretotal(); };
     Timer3.tic = [this] {
@@ -87,21 +88,22 @@ void Chronos::entrerboite() {
     Timer3.actif = true;
 }
 
-bool Chronos::enpause() const {
-    return Command5.texte() == reprise;
+void Chronos::tenir(bool enpause, bool serieouverte) {
+    Timer1.actif = !enpause && serieouverte;
+    Timer2.actif = !enpause;
+    Command5.texte = std::string(enpause ? reprise : pause);
 }
 
-void Chronos::basculerpause() {
-    const bool debut = !enpause();
-    Timer1.actif = !debut && serieouverte();
-    Timer2.actif = !debut;
-    Command5.texte = std::string(debut ? reprise : pause);
-    surpause(debut);
+void Chronos::peindre(ui::Controle& horloge, bool arretee) {
+    const auto rendu = apparencedelhorloge(arretee);
+    horloge.fond = rendu.fond;
+    horloge.description = std::string(rendu.paroles);
 }
 
 void Chronos::battreserie() {
     --tempsrestant_;
-    temps.texte = texteserie(tempsrestant_);
+    tempsaffiche_ = tempsrestant_;
+    temps.texte = texteserie(tempsaffiche_);
     if (tempsrestant_ < 1)
         auterme();
 }

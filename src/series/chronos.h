@@ -29,10 +29,8 @@ class Chronos {
     /// Runs at the tick that brings the list to the limit of the total clock, which stays as it
     /// was.
     std::function<void()> alalimite;
-    /// Runs when a pause begins (true) or ends (false), to lock or unlock the boxes.
-    std::function<void(bool)> surpause;
-    /// The series is open, so that the end of a pause starts its clock again.
-    std::function<bool()> serieouverte;
+    /// Runs at a click of the pause button, which begins a pause or ends it.
+    std::function<void()> surpause;
 
     /// Gives a series its time; the display waits for the next tick.
     void donner(std::int32_t secondes);
@@ -48,9 +46,14 @@ class Chronos {
     void quitterboite() { Timer3.actif = false; }
     [[nodiscard]] std::int16_t tempsmot() const { return tempsmot_; }
 
-    void basculerpause();
-    [[nodiscard]] bool enpause() const;
-    [[nodiscard]] std::string utilise() const { return dureeutilisee(tempsserie_, temps.texte()); }
+    /// Holds the clocks during a pause. Its end starts that of the series again if it is open.
+    void tenir(bool enpause, bool serieouverte);
+    /// Shows whether the series, or the list, is over.
+    void peindreserie(bool finie) { peindre(temps, finie); }
+    void peindretotal(bool fini) { peindre(tempstot, fini); }
+    [[nodiscard]] std::string utilise() const {
+        return dureeutilisee(tempsserie_, texteserie(tempsaffiche_));
+    }
 
     ui::Controle& Label3;
     ui::Controle& Label1;
@@ -66,10 +69,12 @@ class Chronos {
   private:
     void battreserie();
     void battretotal();
+    static void peindre(ui::Controle& horloge, bool arretee);
 
     std::optional<std::int32_t> limitetotal_;
     std::int32_t tempsrestant_ = 0;
     std::int32_t tempsserie_ = 0;
+    std::int32_t tempsaffiche_ = 240;  ///< what `temps` shows, by design four minutes
     std::int32_t tempstotal_ = 0;
     std::int16_t tempsmot_ = 0;
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "listes.h"
+#include "saisie.h"
 
 namespace series {
 namespace {
@@ -18,15 +19,26 @@ Limites placesdeslistes() {
     return limites;
 }
 
+std::string enligne(std::string_view tirage, std::string_view suite, std::size_t /*nbsolutions*/) {
+    return std::string(tirage).append(";").append(suite);
+}
+
 const Gabarit gabaritform1{
     .nom = "Form1",
     .titre = "ENTRAINEMENT AU SCRABBLE - Orvane",
     .nbcadres = 3,
     .nblignes = 5,
-    .nbtirages = nbboitesform1,
-    .nbboites = nbboitesform1,
-    .limiterangees = common::rangeesform1,
-    .comblement = Comblement::Dernier,
+    .regles = {.nbplaces = common::tiragesform1,
+               .nbboites = common::tiragesform1,
+               .limiterangees = common::rangeesform1,
+               .comblement = Comblement::Dernier,
+               .enligne = enligne,
+               .rendlettresnues = false,
+               .jugesiaffiche = false,
+               .marquesgardees = "-+("},
+    .parcours = [](int boite, int code,
+                   int /*nbsolutions*/) { return parcours(boite, code, common::tiragesform1); },
+    .videenfaute = false,
     .longsgardentpolice = true,
     .nomdesfautes = "nbftot",
     .enmoinsde = "Eliminer un mot trouvé en moins de",
@@ -35,7 +47,6 @@ const Gabarit gabaritform1{
     .limitenotes = common::lignesinfosouris,
     .lignesdemots = Lignesdemots::Paires,
     .notessurletirage = true,
-    .marquesgardees = "-+(",
     .limitetotal = dixheures,
 };
 

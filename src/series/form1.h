@@ -2,31 +2,28 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "formserie.h"
 
 namespace series {
 
-/// Racks of a series on `Form1`.
-inline constexpr int nbboitesform1 = 30;
-/// Different wrong rows that a list can hold (`motsfaux`).
-inline constexpr std::size_t limitemotsfaux = 5001;
 /// Largest sample.
 inline constexpr int limiteechantillon = 900;
 /// Letters of a solution that extend a rack with a joker, at most.
 inline constexpr std::size_t limitevariantes = 26;
 
 /// Words to look up in the notes for a row: its solution, or in a list of extensions the whole
-/// word; with a joker, one word for each letter of the solution. `titre` is the list's, which says
-/// whether the letters come in front or behind; any other title of such a list gives no word.
+/// word; with a joker, one word for each letter of the solution. None where the kind of list
+/// doesn't tell on which side the letters come.
 [[nodiscard]] std::vector<std::string> motsdesnotes(std::string_view tirage,
-                                                    std::string_view solution, std::string_view typ,
-                                                    std::string_view titre);
+                                                    std::string_view solution, Nature nature);
+
+/// Size of the sample of a list: that of the options, which is not cut down to the list. Throws
+/// `Faute` for more than the list or the largest sample holds.
+[[nodiscard]] int tailleechantillon(const Serie& serie, int demandee);
 
 /// Form1: the series of racks with one solution.
 ///
@@ -47,25 +44,18 @@ class Form1 : public Formserie {
 
     // form1_liste.cpp: the list, the criterion.
     void ouvrircritere();
-    [[nodiscard]] int tailleechantillon() const;
-    [[nodiscard]] std::string lignedelaliste(int rang) const override;
     void changercritere();
     void fixercritere(bool secondes);
 
     // form1_saisie.cpp: focus, keys, the second line of entry.
     void branchersaisie();
-    [[nodiscard]] std::optional<int> boitevoisine(int rang, int code) const override;
-    void rendreletirage(int place) override;
-    void jugerboite(int rang) override { juger(rang, "OK"); }
-    void juger(int rang, std::string_view atemps);
 
-    // form1_correction.cpp: marks, notes, judgement, wrong rows.
+    // form1_correction.cpp: marks, notes, judgement, word menu.
     void corrigerserie() override;
-    void marquer(int nombre);
-    void noter(int nombre);
-    int jugerreponses(int nombre);
-    void montrerfaute(int rang);
-    void ouvrirmenu(int rang, const ui::Controle& boite);
+    [[nodiscard]] Correction jugerdepart(int boite) override;
+    void marquer();
+    void noter();
+    void ouvrirmenu(int rang, bool surletirage);
 
     // form1_ecran.cpp: the two layouts.
     void disposer();
@@ -76,7 +66,7 @@ class Form1 : public Formserie {
 
     ui::Controle& Command6;
     std::int32_t nbmotsinitial_ = 0;
-    std::unordered_set<std::string> motsfaux_;  ///< rows answered wrong in this list
+    Motsfaux motsfaux_;  ///< of the running list
     bool modecompact_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "form1.h"
+#include "listes.h"
 
 namespace series {
 namespace {
@@ -115,7 +116,7 @@ void Form1::disposer() {
 
 void Form1::disposerboites() {
     const auto& grille = (modecompact_ ? compact : normal).grille;
-    for (int i = 0; i < nbboitesform1; ++i) {
+    for (int i = 0; i < common::tiragesform1; ++i) {
         const auto place = static_cast<std::size_t>(i);
         const int gauche = grille.gauche + i / rangeesdecolonne * grille.pascolonne;
         const int haut = grille.haut + i % rangeesdecolonne * grille.pasrangee;
@@ -132,7 +133,7 @@ void Form1::passercompact() {
     Command6.visible = false;
     disposer();
     tuiles.relever();
-    if (rangees_.nbmots() == 0)
+    if (serie_.rangees.nbmots() == 0)
         rangernotes(true);
 }
 
@@ -144,7 +145,7 @@ void Form1::rangernotes(bool listefinie) {
 /// `seuiltxt` stands behind `Label5`, and `Label6` behind `seuiltxt`.
 void Form1::placercritere() {
     constexpr int ecart = 60;
-    Label5.largeur = criteresecondes() ? largeurlabel5secondes : largeurlabel5succes;
+    Label5.largeur = serie_.critere.secondes ? largeurlabel5secondes : largeurlabel5succes;
     seuiltxt.gauche = Label5.gauche() + Label5.largeur() + ecart;
     Label6.gauche = seuiltxt.gauche() + seuiltxt.largeur() + ecart;
 }

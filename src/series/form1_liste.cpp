@@ -6,14 +6,27 @@
 
 namespace series {
 
+int tailleechantillon(const Serie& serie, int demandee) {
+    const auto refuser = [&](const std::string& ennui) {
+        throw common::Faute(common::rapportfichier(
+            "Tirage de l'échantillon", serie.fich,
+            "l'échantillon demandé est de " + std::to_string(demandee) + " mots ; " + ennui));
+    };
+    if (demandee > limiteechantillon)
+        refuser("la limite est de " + std::to_string(limiteechantillon));
+    if (demandee > serie.rangees.nbmots())
+        refuser("la liste n'en compte que " + std::to_string(serie.rangees.nbmots()));
+    return demandee;
+}
+
 void Form1::commencer(std::string_view chemin) {
     ouvrirliste(chemin);
-    motsfaux_.clear();
-    reglerpolices(rangees_.longueurdernier());
+    motsfaux_ = {};
+    reglerpolices(serie_.rangees.longueurdernier());
     ouvrircritere();
-    if (voisins_.form3.toue == "E")
-        echantillonner(tailleechantillon());
-    nbmotsinitial_ = rangees_.nbmots();
+    if (voisins_.form3.toue == common::modes::echantillon)
+        garderechantillon(tailleechantillon(serie_, voisins_.dialog2.nbechuni));
+    nbmotsinitial_ = serie_.rangees.nbmots();
     if (modecompact_)
         rangernotes(false);
     nouvelleserie();
@@ -33,33 +46,15 @@ void Form1::ouvrircritere() {
 }
 
 void Form1::fixercritere(bool secondes) {
-    libellercritere(secondes);
+    serie_.critere.secondes = secondes;
+    libellercritere();
     seuiltxt.texte = secondes ? "5" : "1";
     placercritere();
 }
 
 void Form1::changercritere() {
-    fixercritere(!criteresecondes());
-    voyant.visible = criteresecondes();
-}
-
-/// `nbechuni`, which is not cut down to the list.
-int Form1::tailleechantillon() const {
-    const int taille = voisins_.dialog2.nbechuni;
-    const auto refuser = [&](const std::string& ennui) {
-        throw common::Faute(common::rapportfichier(
-            "Tirage de l'échantillon", fich_,
-            "l'échantillon demandé est de " + std::to_string(taille) + " mots ; " + ennui));
-    };
-    if (taille > limiteechantillon)
-        refuser("la limite est de " + std::to_string(limiteechantillon));
-    if (taille > rangees_.nbmots())
-        refuser("la liste n'en compte que " + std::to_string(rangees_.nbmots()));
-    return taille;
-}
-
-std::string Form1::lignedelaliste(int rang) const {
-    return rangees_.tirage(rang) + ";" + rangees_.suite(rang);
+    fixercritere(!serie_.critere.secondes);
+    voyant.visible = serie_.critere.secondes;
 }
 
 }  // namespace series

@@ -1,21 +1,21 @@
 // Form1: focus and keys of the answer boxes, and the second line of entry.
 
 #include "form1.h"
+#include "listes.h"
 #include "texte.h"
 
 namespace series {
 
 void Form1::branchersaisie() {
-    for (int i = 0; i < nbboitesform1; ++i) {
-        for (auto* boites : {&tirage, &solution}) {
-            auto& boite = *(*boites)[static_cast<std::size_t>(i)];
-            boite.doubleclic = [this, i, &boite] { ouvrirmenu(i, boite); };
-        }
+    for (int i = 0; i < common::tiragesform1; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        tirage[place]->doubleclic = [this, i] { ouvrirmenu(i, true); };
+        solution[place]->doubleclic = [this, i] { ouvrirmenu(i, false); };
     }
     recherche.change = [this] {
-        const auto limite = common::longueur(tirage[static_cast<std::size_t>(boite_)]->texte());
+        const auto limite = common::longueur(serie_.place(boite_).affiche);
         const auto longueur = common::longueur(recherche.texte());
-        if (voisins_.form3.typ == common::typrallonges || longueur <= limite)
+        if (rallonges(serie_.nature) || longueur <= limite)
             return;
         // One beep a letter that is cut, in one write.
         if (voisins_.options.check1()) {
@@ -26,39 +26,12 @@ void Form1::branchersaisie() {
     };
     recherche.entree = [this] {
         mettredefaut(valider);
-        if (!serieouverte())
+        if (!serie_.ouverte)
             return;
         peindreautres(boite_);
         peindrecourante(boite_);
     };
     recherche.clic = [this] { cliquerrecherche(0); };
-}
-
-std::optional<int> Form1::boitevoisine(int rang, int code) const {
-    switch (code) {
-        case ui::touches::entree:
-        case ui::touches::bas:
-            return (rang + 1) % nbboitesform1;
-        case ui::touches::haut:
-            return (rang + nbboitesform1 - 1) % nbboitesform1;
-        default:
-            return std::nullopt;
-    }
-}
-
-void Form1::rendreletirage(int place) {
-    auto& rack = *tirage[static_cast<std::size_t>(place)];
-    if (rangee(place) >= 0)
-        rack.texte = tiragedelarangee(place);
-    else if (!lettres_.tiragenet().empty())
-        rack.texte = lettres_.tiragenet();
-}
-
-/// A box passes if it is right and was left in time.
-void Form1::juger(int rang, std::string_view atemps) {
-    const bool juste =
-        solution[static_cast<std::size_t>(rang)]->texte() == rangees_.suite(rangee(rang));
-    retenirrapide(rang, juste && seuil() > chronos.tempsmot(), atemps);
 }
 
 }  // namespace series

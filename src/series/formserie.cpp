@@ -5,7 +5,7 @@
 
 #include "faute.h"
 #include "fichier.h"
-#include "paroles.h"
+#include "nombre.h"
 #include "polices.h"
 
 namespace series {
@@ -23,13 +23,11 @@ Formserie::Formserie(ui::Plateforme& plateforme, const Voisins& voisins, const G
     : Formulaire(plateforme, std::string(gabarit.nom)),
       voisins_(voisins),
       gabarit_(gabarit),
-      rangees_(gabarit.limiterangees),
-      rapide_(static_cast<std::size_t>(gabarit.nbboites), -1),
-      boitesutiles_(gabarit.nbboites),
+      serie_(gabarit.regles),
       Frame1(rangerde(ui::Genre::Cadre, "Frame1", gabarit.nbcadres)),
       lignes(rangerde(ui::Genre::Ligne, "Line", gabarit.nblignes, 1)),
-      tirage(rangerde(ui::Genre::Boite, "tirage", gabarit.nbtirages)),
-      solution(rangerde(ui::Genre::Boite, "solution", gabarit.nbboites)),
+      tirage(rangerde(ui::Genre::Boite, "tirage", gabarit.regles.nbplaces)),
+      solution(rangerde(ui::Genre::Boite, "solution", gabarit.regles.nbboites)),
       Label7(ajouter(ui::Genre::Etiquette, "Label7")),
       Label5(ajouter(ui::Genre::Etiquette, "Label5")),
       seuiltxt(ajouter(ui::Genre::Boite, "seuiltxt")),
@@ -56,14 +54,8 @@ Formserie::Formserie(ui::Plateforme& plateforme, const Voisins& voisins, const G
       police(ajouter(ui::Genre::Etiquette, "police")),
       marques(*this, solution.size(), gabarit.limites),
       InfoSourisText(ajouter(ui::Genre::Boite, "InfoSourisText")),
-      menumot(*this),
-      rangboite_(tirage.size(), -1),
-      lignesdufichier_(tirage.size()),
-      ligneboite_(tirage.size()),
-      enrevision_(tirage.size(), false),
-      entame_(tirage.size(), false) {
+      menumot(*this) {
     texte = std::string(gabarit.titre);
-    traduirecouleurs();
     habillerboites();
     habillerpanneaux();
     brancher();
@@ -106,11 +98,11 @@ void Formserie::coloration() {
 void Formserie::habillerboites() {
     for (std::size_t i = 0; i < tirage.size(); ++i) {
         tirage[i]->verrou = true;
-        tirage[i]->fond = ui::couleurs::tirageaurepos;
+        peindretirage(static_cast<int>(i), Etattirage::Repos);
         tirage[i]->accessible = numerote("Tirage", i);
     }
     for (std::size_t i = 0; i < solution.size(); ++i) {
-        solution[i]->fond = ui::couleurs::solutionaurepos;
+        peindrereponse(static_cast<int>(i), Etatreponse::Repos);
         solution[i]->taille = tailleinitiale;
         solution[i]->police = std::string(policedessolutions);
         solution[i]->accessible = numerote("Réponse", i);
@@ -121,22 +113,6 @@ void Formserie::habillerboites() {
             boite->aspect = ui::Aspect::Case;
         }
     }
-}
-
-/// Keeps what is heard in step with what is seen, whatever paints.
-void Formserie::traduirecouleurs() {
-    for (auto* boite : tirage)
-        boite->repeint = [this, boite] {
-            boite->description = std::string(parolesdutirage(boite->fond(), serieouverte()));
-        };
-    for (auto* boite : solution)
-        boite->repeint = [boite] {
-            boite->description = std::string(parolesdelareponse(boite->fond()));
-        };
-    for (auto* horloge : {&chronos.temps, &chronos.tempstot})
-        horloge->repeint = [horloge] {
-            horloge->description = std::string(parolesdelhorloge(horloge->fond()));
-        };
 }
 
 void Formserie::ecriretextes() {
@@ -216,22 +192,18 @@ void Formserie::brancher() {
     chronos.auterme = [this] { corrigerserie(); };
     chronos.alalimite = [this] {
         throw common::Faute(common::rapportfichier(
-            "Chronomètre total de la liste", fich_,
+            "Chronomètre total de la liste", serie_.fich,
             "il ne peut pas atteindre 10 heures ; la limite est de 9:59:59. Les révisions des "
             "séries corrigées sont enregistrées ; la liste en cours n'a pas de résultat"));
     };
-    chronos.serieouverte = [this] { return serieouverte(); };
-    chronos.surpause = [this](bool pause) {
-        recherche.actif = !pause;
-        for (int i = 0; i < gabarit_.nbboites; ++i)
-            solution[static_cast<std::size_t>(i)]->verrou = pause && i < boitesutiles_;
-    };
+    chronos.surpause = [this] { basculerpause(); };
+    seuiltxt.change = [this] { serie_.critere.seuil = common::valeur(seuiltxt.texte()); };
     menumot.fichier = [this] { return getnomfichierderev(); };
 }
 
 std::vector<ui::Controle*> Formserie::boitesvisibles() const {
     auto boites = tirage;
-    boites.insert(boites.end(), solution.begin(), solution.begin() + boitesutiles_);
+    boites.insert(boites.end(), solution.begin(), solution.begin() + serie_.boitesutiles);
     return boites;
 }
 
@@ -261,6 +233,39 @@ void Formserie::quitterserie() {
     visible = false;
     voisins_.menu.montrer();
     voisins_.menu.maj();
+}
+
+/// Begins a pause, or ends it.
+void Formserie::basculerpause() {
+    serie_.enpause = !serie_.enpause;
+    chronos.tenir(serie_.enpause, serie_.ouverte);
+    recherche.actif = !serie_.enpause;
+    for (std::size_t i = 0; i < solution.size(); ++i)
+        solution[i]->verrou = serie_.enpause && i < static_cast<std::size_t>(serie_.boitesutiles);
+}
+
+void Formserie::peindretirage(int place, Etattirage etat) {
+    const auto rendu = apparence(etat);
+    auto& boite = *tirage[static_cast<std::size_t>(place)];
+    boite.fond = rendu.fond;
+    boite.description = std::string(rendu.paroles);
+}
+
+void Formserie::peindrereponse(int rang, Etatreponse etat) {
+    const auto rendu = apparence(etat);
+    auto& boite = *solution[static_cast<std::size_t>(rang)];
+    boite.fond = rendu.fond;
+    boite.description = std::string(rendu.paroles);
+}
+
+void Formserie::montrertirage(int place) {
+    const auto i = static_cast<std::size_t>(place);
+    tirage[i]->texte = serie_.places[i].affiche;
+}
+
+void Formserie::montrertirages() {
+    for (int place = 0; place < gabarit_.regles.nbplaces; ++place)
+        montrertirage(place);
 }
 
 void Formserie::reglerpolices(std::size_t longueur) {

@@ -1,8 +1,10 @@
-// The correction, as both series forms have it: what closes a series, notes, missed rows, the word
-// menu. Which answer is right is each form's own rule.
+// The correction, as both series forms have it: what closes a series, what was judged on screen,
+// notes, missed rows, the word menu. What is right is told by the rules of each form's series.
 
 #include <algorithm>
 
+#include "faute.h"
+#include "fichier.h"
 #include "formserie.h"
 #include "nombre.h"
 #include "revision.h"
@@ -20,24 +22,58 @@ void annoter(ui::Controle& boite, const std::string& note) {
 void Formserie::arreterserie() {
     chronos.arreterserie();
     chronos.quitterboite();
-    chronos.temps.fond = ui::couleurs::juste;
+    chronos.peindreserie(true);
     restart.actif = true;
+    rendretirages(serie_, derniereboite_);
+    montrertirages();
+}
+
+std::vector<std::string> Formserie::reponses() const {
+    std::vector<std::string> textes;
+    textes.reserve(solution.size());
+    for (const auto* boite : solution)
+        textes.push_back(boite->texte());
+    return textes;
 }
 
 void Formserie::fermersaisie() {
-    corriger.actif = false;
-    for (auto* boite : tirage)
-        boite->fond = ui::couleurs::tirageaurepos;
+    corriger.actif = serie_.ouverte;
+    for (int place = 0; place < gabarit_.regles.nbplaces; ++place)
+        peindretirage(place, Etattirage::Repos);
     for (auto* boite : solution)
         boite->pressepapiers = false;
 }
 
-void Formserie::retenirrapide(int rang, bool bon, std::string_view atemps) {
-    auto& etat = rapide_[static_cast<std::size_t>(rang)];
-    if (bon && etat == 0)
-        return;
-    etat = bon ? 1 : 0;
-    voyant.texte = std::string(bon ? atemps : gabarit_.troptard);
+void Formserie::appliquer(const Correction& correction, std::string_view atemps) {
+    for (const auto& corrigee : correction.boites) {
+        auto& boite = *solution[static_cast<std::size_t>(corrigee.boite)];
+        peindrereponse(corrigee.boite, corrigee.etat);
+        boite.texte = corrigee.texte;
+        if (corrigee.infobulle)
+            boite.infobulle = *corrigee.infobulle;
+        if (corrigee.barree)
+            boite.barre = true;
+    }
+    for (const auto& corrige : correction.tirages) {
+        const auto i = static_cast<std::size_t>(corrige.place);
+        if (corrige.etat)
+            peindretirage(corrige.place, *corrige.etat);
+        if (corrige.infobulle)
+            tirage[i]->infobulle = *corrige.infobulle;
+        if (corrige.texte)
+            serie_.places[i].affiche = *corrige.texte;
+        montrertirage(corrige.place);
+    }
+    if (correction.atemps)
+        voyant.texte = std::string(*correction.atemps ? atemps : gabarit_.troptard);
+    if (erreursaurevision())
+        garderenrevision(correction.ratees);
+    if (const auto& pleine = correction.pleine) {
+        throw common::Faute(common::rapportligne(
+            "Correction de la série", serie_.fich, serie_.place(pleine->place).ligne,
+            "trop de " + std::string(pleine->quoi) + " dans cette liste ; la limite est de " +
+                std::to_string(pleine->limite)));
+    }
 }
 
 bool Formserie::erreursaurevision() const {
@@ -52,19 +88,11 @@ void Formserie::garderenrevision(std::span<const Ratee> ratees) {
     for (const auto& ratee : ratees)
         lignesratees.push_back(ratee.ligne);
     const auto presentes = ajoutsdejapresents(plateforme().disque(), chemin, lignesratees);
-    std::vector<std::string> nouvelles;
-    for (std::size_t i = 0; i < ratees.size(); ++i) {
-        const auto& ligne = lignesratees[i];
-        if (presentes[i] || std::find(nouvelles.begin(), nouvelles.end(), ligne) != nouvelles.end())
-            continue;
-        nouvelles.push_back(ligne);
-        enrevision_[static_cast<std::size_t>(ratees[i].place)] = true;
-    }
-    ajouterenrevision(plateforme().disque(), chemin, nouvelles);
+    ajouterenrevision(plateforme().disque(), chemin, nouvellesrevisions(serie_, ratees, presentes));
 }
 
-void Formserie::afficherscore(int justes, int tirages) {
-    score.texte = std::to_string(justes) + "/" + std::to_string(tirages);
+void Formserie::afficherscore(const Correction& correction) {
+    score.texte = std::to_string(correction.justes) + "/" + std::to_string(correction.nombre);
     score.visible = true;
     nbseriesfaites_ =
         common::entier16(std::int64_t{nbseriesfaites_} + 1, "Nombre de séries réalisées");
@@ -86,7 +114,7 @@ void Formserie::montrernotes(std::span<const std::string> mots, std::span<const 
         const int rang = boite(note);
         annoter(*solution[static_cast<std::size_t>(rang)], note.texte);
         if (gabarit_.notessurletirage)
-            annoter(*tirage[static_cast<std::size_t>(placede(rang))], note.texte);
+            annoter(*tirage[static_cast<std::size_t>(serie_.placede(rang))], note.texte);
         textedesnotes += mots[note.mot] + " " + note.texte + "\n";
     }
     InfoSourisText.texte = textedesnotes;
@@ -97,11 +125,12 @@ void Formserie::montrernotes(std::span<const std::string> mots, std::span<const 
 void Formserie::ouvrirmenumot(int place, const ui::Controle& boite, std::string_view mot,
                               bool definition) {
     derniereboite_ = place;
-    if (serieouverte() || boite.texte().empty() || rangee(place) < 0)
-        return;
     const auto i = static_cast<std::size_t>(place);
-    menumot.surrevision = [this, i](bool dedans) { enrevision_[i] = dedans; };
-    menumot.ouvrir({std::string(mot), ligneboite_[i], definition, enrevision_[i]});
+    const auto& objet = serie_.places[i];
+    if (serie_.ouverte || boite.texte().empty() || objet.rang < 0)
+        return;
+    menumot.surrevision = [this, i](bool dedans) { serie_.places[i].enrevision = dedans; };
+    menumot.ouvrir({std::string(mot), objet.texte, definition, objet.enrevision});
 }
 
 }  // namespace series

@@ -1,7 +1,5 @@
 // The list, as both series forms have it: its rows, the draw of a series, the criterion, the end.
 
-#include <algorithm>
-
 #include "fichier.h"
 #include "formserie.h"
 #include "hist.h"
@@ -19,7 +17,7 @@ constexpr std::string_view apressucces = "Eliminer un mot après";
 }  // namespace
 
 std::string Formserie::getnomfichierderev() const {
-    return nomfichierderevision(fich_, voisins_.form3.toue, voisins_.form3.util);
+    return nomfichierderevision(serie_.fich, voisins_.form3.toue, voisins_.form3.util);
 }
 
 /// The name that the record of this run bears. Lists that share a revision file each keep their
@@ -27,52 +25,39 @@ std::string Formserie::getnomfichierderev() const {
 std::string Formserie::nomenregistre() const {
     const auto& menu = voisins_.form3;
     const bool connue = menu.toue == common::modes::revision &&
-                        common::cheminrevision(menu.util, menu.listerevisee) == fich_;
-    return connue ? menu.listerevisee : profiles::nomcourt(fich_, menu.toue, menu.util);
+                        common::cheminrevision(menu.util, menu.listerevisee) == serie_.fich;
+    return connue ? menu.listerevisee : profiles::nomcourt(serie_.fich, menu.toue, menu.util);
 }
 
 void Formserie::ouvrirliste(std::string_view chemin) {
+    const auto& menu = voisins_.form3;
     quitter.fond = ui::Couleur::bouton();
-    Label7.texte = voisins_.form3.nombase;
-    fich_ = chemin;
-    // The rows that the boxes showed are gone.
-    std::fill(rangboite_.begin(), rangboite_.end(), -1);
-    rangees_.lire(plateforme().disque(), fich_);
-    chronos.tempstot.fond = ui::Couleur::fenetre();
+    Label7.texte = menu.nombase;
+    series::ouvrirliste(serie_, plateforme().disque(), chemin,
+                        naturedelaliste(menu.typ, menu.nombase));
+    chronos.peindretotal(false);
 }
 
-void Formserie::echantillonner(int taille) {
+void Formserie::garderechantillon(int taille) {
     auto& hasard = plateforme().hasard();
     hasard.amorcer(plateforme().maintenant().secondesdepuisminuit());
-    rangees_.garder(tirersansremise(hasard, rangees_.nbmots(), taille, Comblement::Dernier));
-}
-
-int Formserie::nombredelaserie() const {
-    return std::min(rangees_.nbmots(), gabarit_.nbtirages);
-}
-
-std::string Formserie::tiragedelarangee(int place) const {
-    const int rang = rangee(place);
-    return rang < 0 ? std::string() : rangees_.tirage(rang);
+    echantillonner(serie_, hasard, taille);
 }
 
 std::int32_t Formserie::tempsdeserie() const {
-    return std::int32_t{voisins_.dialog2.tempsparmot} * boitesutiles_;
+    return std::int32_t{voisins_.dialog2.tempsparmot} * serie_.boitesutiles;
 }
 
 void Formserie::initchrono() {
     chronos.donner(tempsdeserie());
-    for (int i = 0; i < gabarit_.nbboites; ++i)
-        solution[static_cast<std::size_t>(i)]->visible = i < boitesutiles_;
+    for (std::size_t i = 0; i < solution.size(); ++i)
+        solution[i]->visible = i < static_cast<std::size_t>(serie_.boitesutiles);
 }
 
-void Formserie::libellercritere(bool secondes) {
+void Formserie::libellercritere() {
+    const bool secondes = serie_.critere.secondes;
     Label5.texte = std::string(secondes ? gabarit_.enmoinsde : apressucces);
     Label6.texte = secondes ? "secondes." : "réussites.";
-}
-
-double Formserie::seuil() const {
-    return common::valeur(seuiltxt.texte());
 }
 
 bool Formserie::criterelibre() const {
@@ -80,20 +65,19 @@ bool Formserie::criterelibre() const {
 }
 
 void Formserie::nouvelleserie() {
-    for (int i = 0; i < boitesutiles_; ++i)
+    for (int i = 0; i < serie_.boitesutiles; ++i)
         peindreaurepos(i);
     effacerserie();
-    tirerrangees();
+    auto& hasard = plateforme().hasard();
+    hasard.amorcer(plateforme().maintenant().secondesdepuisminuit());
+    tirer(serie_, hasard);
     tuiles.oublier();
-    std::fill(rapide_.begin(), rapide_.end(), -1);
-    for (int i = 0; i < boitesutiles_; ++i) {
+    for (int i = 0; i < serie_.boitesutiles; ++i) {
         auto& boite = *solution[static_cast<std::size_t>(i)];
         boite.texte = "";
         boite.barre = false;
     }
-    for (int place = 0; place < gabarit_.nbtirages; ++place)
-        tirage[static_cast<std::size_t>(place)]->texte = tiragedelarangee(place);
-    std::fill(entame_.begin(), entame_.end(), false);
+    montrertirages();
     prendrerevisions();
     ouvrirserie();
 }
@@ -107,37 +91,25 @@ void Formserie::effacerserie() {
             boite->pointeur = ui::Pointeur::Fleche;
         }
     }
-    motsleft.texte = std::to_string(rangees_.nbmots());
+    motsleft.texte = std::to_string(serie_.rangees.nbmots());
     for (auto* resultat : {&score, &tps, &InfoSourisText})
         resultat->visible = false;
     InfoSourisText.texte = "";
-    if (chronos.enpause())
-        chronos.basculerpause();
-}
-
-void Formserie::tirerrangees() {
-    auto& hasard = plateforme().hasard();
-    hasard.amorcer(plateforme().maintenant().secondesdepuisminuit());
-    const auto tires =
-        tirersansremise(hasard, rangees_.nbmots(), nombredelaserie(), gabarit_.comblement);
-    std::fill(rangboite_.begin(), rangboite_.end(), -1);
-    std::copy(tires.begin(), tires.end(), rangboite_.begin());
-    std::transform(rangboite_.begin(), rangboite_.end(), lignesdufichier_.begin(),
-                   [this](int rang) { return rang < 0 ? 0 : rangees_.ligne(rang); });
+    if (serie_.enpause)
+        basculerpause();
 }
 
 /// Looks the rows of the series up in the revision file.
 void Formserie::prendrerevisions() {
-    const int nombre = nombredelaserie();
+    const auto nombre = static_cast<std::size_t>(serie_.nombre());
     std::vector<std::string> lignesdelaserie;
-    lignesdelaserie.reserve(static_cast<std::size_t>(nombre));
-    for (int place = 0; place < nombre; ++place)
-        lignesdelaserie.push_back(lignedelaliste(rangee(place)));
-    std::fill(enrevision_.begin(), enrevision_.end(), false);
+    lignesdelaserie.reserve(nombre);
+    for (std::size_t i = 0; i < nombre; ++i)
+        lignesdelaserie.push_back(serie_.places[i].texte);
     const auto presents =
         presentsenrevision(plateforme().disque(), getnomfichierderev(), lignesdelaserie);
-    std::copy(presents.begin(), presents.end(), enrevision_.begin());
-    std::move(lignesdelaserie.begin(), lignesdelaserie.end(), ligneboite_.begin());
+    for (std::size_t i = 0; i < nombre; ++i)
+        serie_.places[i].enrevision = presents[i];
 }
 
 /// Opens the series that has been drawn: entry, focus and clocks.
@@ -146,30 +118,31 @@ void Formserie::ouvrirserie() {
     seuiltxt.fond = ui::Couleur::fenetre();
     for (auto* boite : solution)
         boite->pressepapiers = true;
-    corriger.actif = true;
+    serie_.ouverte = true;
+    corriger.actif = serie_.ouverte;
     restart.actif = false;
     lettres_.annoncer("");
     // By way of the clock, so that box 0 is entered even if it has the focus.
     donnerfocus(chronos.temps);
     focaliserboite(0);
-    chronos.temps.fond = ui::Couleur::fenetre();
+    chronos.peindreserie(false);
     initchrono();
     chronos.lancer();
 }
 
-void Formserie::finserie(std::int64_t base, std::int64_t fautes) {
-    rangees_.compacter();
-    if (rangees_.nbmots() == 0)
-        finirliste(base, fautes);
+void Formserie::finserie(std::int64_t base, std::int64_t fautes,
+                         const std::string& textedesfautes) {
+    if (const auto fin = finir(serie_, base, fautes))
+        finirliste(*fin, textedesfautes);
 }
 
-void Formserie::finirliste(std::int64_t base, std::int64_t fautes) {
+void Formserie::finirliste(const Findeliste& fin, const std::string& textedesfautes) {
     chronos.arretertotal();
-    chronos.tempstot.fond = ui::couleurs::juste;
+    chronos.peindretotal(true);
     const auto& menu = voisins_.form3;
-    if (base != 0) {
-        const auto pourc = profiles::pourcentage(base, fautes);
-        fautesaffichees.texte = fautesaffichees.texte() + " - " + common::textenombre(pourc) + " %";
+    if (fin.pourc) {
+        const double pourc = *fin.pourc;
+        fautesaffichees.texte = textedesfautes + " - " + common::textenombre(pourc) + " %";
         profiles::ajouterhist(
             plateforme().disque(), menu.util,
             profiles::enregistrement(plateforme().maintenant(), pourc, menu.toue, nomenregistre()));

@@ -31,8 +31,9 @@ std::size_t separateur(std::string_view ligne, std::string_view chemin, std::siz
 
 void Rangees::lire(common::Disque& disque, std::string_view chemin) {
     rangees_.clear();
-    octets_ = common::liretexte(disque, chemin, action, common::limiterangee);
-    const std::string_view tout = octets_;
+    octets_ = std::make_shared<const std::string>(
+        common::liretexte(disque, chemin, action, common::limiterangee));
+    const std::string_view tout = *octets_;
     for (std::size_t i = 0; i < tout.size();) {
         const auto numero = rangees_.size() + 1;
         const auto saut = std::min(tout.find('\n', i), tout.size());

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,9 +24,6 @@ class Rangees {
 
     /// `limite`: most rows of a list.
     explicit Rangees(std::size_t limite) : limite_(limite) {}
-    Rangees(const Rangees&) = delete;  // the rows point into the bytes
-    Rangees& operator=(const Rangees&) = delete;
-    ~Rangees() = default;
 
     /// Reads a list file, replacing all rows. Throws `Faute`, naming the line, on a row without
     /// ";" (an empty line too) and on a row over the limit.
@@ -53,7 +51,7 @@ class Rangees {
 
   private:
     struct Rangee {
-        std::string_view tirage;  ///< bytes of `octets_`
+        std::string_view tirage;  ///< bytes of `*octets_`
         std::string_view suite;
         std::uint32_t ligne = 0;
         int reussites = 0;
@@ -64,7 +62,7 @@ class Rangees {
     [[nodiscard]] Rangee& rangee(int rang) { return rangees_.at(static_cast<std::size_t>(rang)); }
 
     std::size_t limite_;
-    std::string octets_;  ///< the file as it stands
+    std::shared_ptr<const std::string> octets_;  ///< the file as it stands, shared by copies
     std::vector<Rangee> rangees_;
     std::size_t longueurdernier_ = 0;
 };

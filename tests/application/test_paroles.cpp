@@ -7,18 +7,22 @@
 
 #include "application.h"
 #include "dossier.h"
-#include "paroles.h"
+#include "etats.h"
 #include "plateformesimulee.h"
 
 namespace {
-
-namespace c = ui::couleurs;
 
 struct Sens {
     const char* nom;
     std::string_view paroles;
     const char* attendu;
 };
+
+template <class Etat>
+std::string_view dites(Etat etat) {
+    return series::apparence(etat).paroles;
+}
+
 class Table : public testing::TestWithParam<Sens> {};
 
 TEST_P(Table, dit) {
@@ -28,19 +32,18 @@ TEST_P(Table, dit) {
 INSTANTIATE_TEST_SUITE_P(
     Paroles, Table,
     testing::Values(
-        Sens{"tirage_courant", series::parolesdutirage(c::juste, true), "Tirage en cours"},
-        Sens{"tirage_au_repos", series::parolesdutirage(c::tirageaurepos, true), ""},
-        Sens{"tirage_qui_montre_la_solution", series::parolesdutirage(c::juste, false), "Solution"},
-        Sens{"tirage_faux", series::parolesdutirage(c::faux, false), "Faux"},
-        Sens{"tirage_incomplet", series::parolesdutirage(c::incomplet, false), "Incomplet"},
-        Sens{"tirage_juste", series::parolesdutirage(c::tirageaurepos, false), ""},
-        Sens{"reponse_courante", series::parolesdelareponse(c::courante), "Réponse en cours"},
-        Sens{"reponse_au_repos", series::parolesdelareponse(c::solutionaurepos), ""},
-        Sens{"reponse_juste", series::parolesdelareponse(c::juste), "Juste"},
-        Sens{"reponse_fausse", series::parolesdelareponse(c::faux), "Faux"},
-        Sens{"reponse_attendue", series::parolesdelareponse(c::tirageaurepos), "Mot attendu"},
-        Sens{"horloge_arretee", series::parolesdelhorloge(c::juste), "Arrêté"},
-        Sens{"horloge_qui_court", series::parolesdelhorloge(ui::Couleur::fenetre()), ""}),
+        Sens{"tirage_courant", dites(series::Etattirage::Courant), "Tirage en cours"},
+        Sens{"tirage_au_repos", dites(series::Etattirage::Repos), ""},
+        Sens{"tirage_qui_montre_la_solution", dites(series::Etattirage::Solution), "Solution"},
+        Sens{"tirage_faux", dites(series::Etattirage::Faux), "Faux"},
+        Sens{"tirage_incomplet", dites(series::Etattirage::Incomplet), "Incomplet"},
+        Sens{"reponse_courante", dites(series::Etatreponse::Courante), "Réponse en cours"},
+        Sens{"reponse_au_repos", dites(series::Etatreponse::Repos), ""},
+        Sens{"reponse_juste", dites(series::Etatreponse::Juste), "Juste"},
+        Sens{"reponse_fausse", dites(series::Etatreponse::Fausse), "Faux"},
+        Sens{"reponse_attendue", dites(series::Etatreponse::Attendue), "Mot attendu"},
+        Sens{"horloge_arretee", series::apparencedelhorloge(true).paroles, "Arrêté"},
+        Sens{"horloge_qui_court", series::apparencedelhorloge(false).paroles, ""}),
     [](const auto& cas) { return cas.param.nom; });
 
 /// Two rows in the order of the list, on one of the two series forms.

@@ -129,10 +129,11 @@ void notesdesrallonges(Essai& essai) {
         const auto tirage = texte.substr(0, coupe);
         const auto solution = texte.substr(std::min(coupe + 1, texte.size()));
         for (const auto* titre : {"Rallonges avant 7-8", "Rallonges arrière 7-8", "Autre"}) {
-            const auto mots = series::motsdesnotes(tirage, solution, "rallong", titre);
+            const auto nature = series::naturedelaliste("rallong", titre);
+            const auto mots = series::motsdesnotes(tirage, solution, nature);
             EXPECT_LE(mots.size(), std::max<std::size_t>(1, common::longueur(solution)));
         }
-        EXPECT_EQ(series::motsdesnotes(tirage, solution, "", "").size(), 1U);
+        EXPECT_EQ(series::motsdesnotes(tirage, solution, series::Nature::Simple).size(), 1U);
     }
 }
 

@@ -13,11 +13,10 @@ const auto regle = [](const auto& cas) { return cas.param.regle; };
 using multi::Boitejugee;
 using multi::Rack;
 using multi::Ratages;
+using series::Etattirage;
 using testing::ElementsAreArray;
-using ui::Couleur;
 
 using Mots = std::vector<std::string>;
-namespace couleurs = ui::couleurs;
 
 constexpr const char* riendefaux = "Vous n'aviez pas saisi de mot faux.";
 
@@ -40,7 +39,7 @@ struct Cas {
     Mots saisis;
     bool juste;
     std::vector<Boitejugee> boites;
-    Couleur fond;
+    Etattirage etat;
     std::string infobulle;
     int fautes;
 };
@@ -50,11 +49,11 @@ class Jugement : public testing::TestWithParam<Cas> {};
 TEST_P(Jugement, rend) {
     const auto& cas = GetParam();
     Ratages ratages;
-    const auto verdict = multi::corrigertirage(
-        {"TIRAGE", couleurs::tirageaurepos, cas.saisis, cas.solutions}, ratages);
+    const auto verdict =
+        multi::corrigertirage({"TIRAGE", Etattirage::Repos, cas.saisis, cas.solutions}, ratages);
     EXPECT_EQ(verdict.juste, cas.juste);
     EXPECT_THAT(verdict.boites, ElementsAreArray(cas.boites));
-    EXPECT_EQ(verdict.fond.nom(), cas.fond.nom());
+    EXPECT_EQ(verdict.etat, cas.etat);
     EXPECT_EQ(verdict.infobulle, cas.infobulle);
     EXPECT_EQ(ratages.nbfautes(), cas.fautes);
     EXPECT_EQ(ratages.tiragedejarate("TIRAGE"), !cas.juste);
@@ -68,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", "B"},
                         true,
                         {bonne("A"), bonne("B")},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         0},
                     Cas{"l_ordre_des_mots_ne_compte_pas",
@@ -76,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"B", "A"},
                         true,
                         {bonne("B"), bonne("A")},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         0},
                     Cas{"une_boite_vide_prend_la_solution_manquee_et_rosit_le_tirage",
@@ -84,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", ""},
                         false,
                         {bonne("A"), blanche("B")},
-                        multi::blancs,
+                        Etattirage::Incomplet,
                         riendefaux,
                         1},
                     Cas{"un_mot_faux_rougit_le_tirage_qui_le_dit",
@@ -92,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"X", "A"},
                         false,
                         {fausse("X", "B"), bonne("A")},
-                        couleurs::faux,
+                        Etattirage::Faux,
                         "Vous aviez saisi : X",
                         1},
                     Cas{"deux_mots_faux_se_suivent_dans_la_bulle_du_tirage",
@@ -100,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"X", "Y", "C"},
                         false,
                         {fausse("X", "A"), fausse("Y", "B"), bonne("C")},
-                        couleurs::faux,
+                        Etattirage::Faux,
                         "Vous aviez saisi : X - Y",
                         2},
                     Cas{"un_blanc_apres_un_mot_faux_garde_le_rouge",
@@ -108,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"X", ""},
                         false,
                         {fausse("X", "A"), blanche("B")},
-                        couleurs::faux,
+                        Etattirage::Faux,
                         "Vous aviez saisi : X",
                         2},
                     Cas{"un_mot_faux_apres_un_blanc_rougit_le_rose",
@@ -116,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"", "X"},
                         false,
                         {blanche("A"), fausse("X", "B")},
-                        couleurs::faux,
+                        Etattirage::Faux,
                         "Vous aviez saisi : X",
                         2},
                     Cas{"rien_de_saisi",
@@ -124,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"", "", ""},
                         false,
                         {blanche("A"), blanche("B"), blanche("C")},
-                        multi::blancs,
+                        Etattirage::Incomplet,
                         riendefaux,
                         3},
                     Cas{"une_solution_saisie_deux_fois_fait_deux_egalites",
@@ -132,7 +131,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", "A"},
                         true,
                         {bonne("A"), bonne("A")},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         1},
                     Cas{"trois_fois_la_meme_dans_un_trio_fait_trois_egalites",
@@ -140,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"B", "B", "B"},
                         true,
                         {bonne("B"), bonne("B"), bonne("B")},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         2},
                     Cas{"une_double_et_un_blanc_ne_montrent_que_la_premiere_manquee",
@@ -148,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", "A", ""},
                         false,
                         {bonne("A"), bonne("A"), blanche("B")},
-                        multi::blancs,
+                        Etattirage::Incomplet,
                         riendefaux,
                         2},
                     Cas{"les_solutions_attendues_viennent_dans_l_ordre_de_la_rangee",
@@ -156,7 +155,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"", "D", "X", "", "B"},
                         false,
                         {blanche("A"), bonne("D"), fausse("X", "C"), blanche("E"), bonne("B")},
-                        couleurs::faux,
+                        Etattirage::Faux,
                         "Vous aviez saisi : X",
                         3},
                     Cas{"les_boites_en_trop_d_une_rangee_courte_ne_sont_pas_lues",
@@ -164,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", "B", "X"},
                         true,
                         {bonne("A"), bonne("B")},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         0},
                     Cas{"une_solution_vide_arrete_le_compte",
@@ -172,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", "X", "C"},
                         true,
                         {bonne("A")},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         0},
                     Cas{"sans_solution_le_tirage_est_juste",
@@ -180,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"X", "Y"},
                         true,
                         {},
-                        couleurs::tirageaurepos,
+                        Etattirage::Repos,
                         "",
                         0},
                     Cas{"les_mots_se_comparent_lettre_pour_lettre",
@@ -188,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A ", "b"},
                         false,
                         {fausse("A ", "A"), fausse("b", "B")},
-                        couleurs::faux,
+                        Etattirage::Faux,
                         "Vous aviez saisi : A  - b",
                         2},
                     Cas{"une_solution_deux_fois_dans_la_rangee_fait_deux_egalites_d_une_saisie",
@@ -196,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"A", ""},
                         true,
                         {bonne("A"), blanche("")},
-                        multi::blancs,
+                        Etattirage::Incomplet,
                         riendefaux,
                         0},
                     Cas{"une_solution_deux_fois_dans_la_rangee_manquee_fait_une_faute",
@@ -204,14 +203,14 @@ INSTANTIATE_TEST_SUITE_P(
                         {"", ""},
                         false,
                         {blanche("A"), blanche("A")},
-                        multi::blancs,
+                        Etattirage::Incomplet,
                         riendefaux,
                         1}),
     regle);
 
 /// What a first judgement shows, to judge again.
 Rack rejuger(const Rack& rack, const multi::Verdict& verdict) {
-    Rack suite{rack.texte, verdict.fond, {}, rack.solutions};
+    Rack suite{rack.texte, verdict.etat, {}, rack.solutions};
     for (const auto& boite : verdict.boites)
         suite.saisis.push_back(boite.texte);
     return suite;
@@ -219,32 +218,32 @@ Rack rejuger(const Rack& rack, const multi::Verdict& verdict) {
 
 TEST(Rejugement, un_second_jugement_trouve_les_mots_attendus_et_rend_juste) {
     Ratages ratages;
-    const Rack rack{"AB", couleurs::tirageaurepos, {"X", ""}, {"A", "B"}};
+    const Rack rack{"AB", Etattirage::Repos, {"X", ""}, {"A", "B"}};
     const auto premier = multi::corrigertirage(rack, ratages);
     ASSERT_FALSE(premier.juste);
     const auto second = multi::corrigertirage(rejuger(rack, premier), ratages);
     EXPECT_TRUE(second.juste);
     EXPECT_THAT(second.boites, ElementsAreArray({bonne("A"), bonne("B")}));
-    EXPECT_EQ(second.fond, couleurs::faux);
+    EXPECT_EQ(second.etat, Etattirage::Faux);
     EXPECT_EQ(second.infobulle, "");
     EXPECT_EQ(ratages.nbfautes(), 2);
 }
 
 TEST(Rejugement, un_second_jugement_d_un_tirage_rose_redit_qu_il_n_y_avait_rien_de_faux) {
     Ratages ratages;
-    const Rack rack{"AB", couleurs::tirageaurepos, {"A", ""}, {"A", "B"}};
+    const Rack rack{"AB", Etattirage::Repos, {"A", ""}, {"A", "B"}};
     const auto second =
         multi::corrigertirage(rejuger(rack, multi::corrigertirage(rack, ratages)), ratages);
     EXPECT_TRUE(second.juste);
-    EXPECT_EQ(second.fond, multi::blancs);
+    EXPECT_EQ(second.etat, Etattirage::Incomplet);
     EXPECT_EQ(second.infobulle, riendefaux);
 }
 
 TEST(Rejugement, un_tirage_juste_garde_sa_couleur) {
     Ratages ratages;
     const auto verdict =
-        multi::corrigertirage({"AB", couleurs::juste, {"A", "B"}, {"A", "B"}}, ratages);
-    EXPECT_EQ(verdict.fond, couleurs::juste);
+        multi::corrigertirage({"AB", Etattirage::Courant, {"A", "B"}, {"A", "B"}}, ratages);
+    EXPECT_EQ(verdict.etat, Etattirage::Courant);
 }
 
 struct Compte {

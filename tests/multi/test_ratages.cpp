@@ -8,10 +8,11 @@ namespace {
 
 using multi::Debordement;
 using multi::Ratages;
+using series::Etattirage;
 
 /// A rack of two solutions that is missed whole.
 multi::Rack manque(const std::string& tirage, const std::string& a, const std::string& b) {
-    return {tirage, ui::couleurs::tirageaurepos, {"", ""}, {a, b}};
+    return {tirage, Etattirage::Repos, {"", ""}, {a, b}};
 }
 
 TEST(Ratages, un_mot_manque_deux_fois_fait_une_faute_et_deux_entrees) {

@@ -87,8 +87,10 @@ class Chronos : public testing::Test {
     Chronos() {
         chronos.auterme = [this] { ++termes; };
         chronos.alalimite = [this] { ++limites; };
-        chronos.surpause = [this](bool pause) { pauses.push_back(pause); };
-        chronos.serieouverte = [this] { return ouverte; };
+        chronos.surpause = [this] {
+            pauses.push_back(pauses.empty() || !pauses.back());
+            chronos.tenir(pauses.back(), ouverte);
+        };
     }
     static void seconde(const ui::Minuterie& minuterie) { ui::declencher(minuterie.tic); }
 
@@ -167,12 +169,12 @@ TEST_F(Chronos, le_temps_d_une_boite_au_dela_de_16_bits_est_une_faute) {
 TEST_F(Chronos, la_pause_arrete_deux_chronometres_et_laisse_le_troisieme) {
     chronos.lancer();
     chronos.entrerboite();
-    chronos.basculerpause();
+    form.cliquer(chronos.Command5);
     EXPECT_FALSE(chronos.Timer1.actif());
     EXPECT_FALSE(chronos.Timer2.actif());
     EXPECT_TRUE(chronos.Timer3.actif());
     EXPECT_EQ(chronos.Command5.texte(), "Reprendre");
-    chronos.basculerpause();
+    form.cliquer(chronos.Command5);
     EXPECT_TRUE(chronos.Timer1.actif());
     EXPECT_TRUE(chronos.Timer2.actif());
     EXPECT_EQ(chronos.Command5.texte(), "Pause");
@@ -181,9 +183,9 @@ TEST_F(Chronos, la_pause_arrete_deux_chronometres_et_laisse_le_troisieme) {
 
 TEST_F(Chronos, la_reprise_d_une_serie_corrigee_ne_relance_que_le_total) {
     chronos.lancer();
-    chronos.basculerpause();
+    form.cliquer(chronos.Command5);
     ouverte = false;
-    chronos.basculerpause();
+    form.cliquer(chronos.Command5);
     EXPECT_FALSE(chronos.Timer1.actif());
     EXPECT_TRUE(chronos.Timer2.actif());
 }

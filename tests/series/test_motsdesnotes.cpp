@@ -22,8 +22,9 @@ class Motsdesnotes : public testing::TestWithParam<Cas> {};
 
 TEST_P(Motsdesnotes, sont) {
     const auto& cas = GetParam();
-    EXPECT_THAT(series::motsdesnotes(cas.tirage, cas.solution, cas.typ, cas.titre),
-                ElementsAreArray(cas.mots));
+    EXPECT_THAT(
+        series::motsdesnotes(cas.tirage, cas.solution, series::naturedelaliste(cas.typ, cas.titre)),
+        ElementsAreArray(cas.mots));
 }
 
 constexpr const char* avant = "Rallonges avant de 4 lettres";
@@ -59,8 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Limitedesnotes, un_mot_de_plus_que_la_limite_dit_qu_il_y_en_a_trop) {
     const std::string tirage = "?" + std::string(30000, 'A');
-    const auto mots = series::motsdesnotes(tirage, std::string(900000, 'B'), common::typrallonges,
-                                           "Rallonges avant");
+    const auto mots =
+        series::motsdesnotes(tirage, std::string(900000, 'B'), series::Nature::Rallongesavant);
     EXPECT_EQ(mots.size(), series::limitevariantes + 1);
 }
 

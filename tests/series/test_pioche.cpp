@@ -1,11 +1,10 @@
 #include <deque>
-#include <string>
-#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
 
-#include "tirage.h"
+#include "pioche.h"
+#include "serieessai.h"
 
 namespace {
 
@@ -13,22 +12,6 @@ using series::Comblement;
 using testing::ElementsAreArray;
 
 const auto regle = [](const auto& cas) { return cas.param.regle; };
-
-/// Chance that gives the numbers of a list, the last one again and again.
-class Suite : public common::Hasard {
-  public:
-    explicit Suite(std::deque<double> nombres) : nombres_(std::move(nombres)) {}
-    void amorcer(std::int32_t /*secondes*/) override {}
-    [[nodiscard]] double tirer() override {
-        const double nombre = nombres_.front();
-        if (nombres_.size() > 1)
-            nombres_.pop_front();
-        return nombre;
-    }
-
-  private:
-    std::deque<double> nombres_;
-};
 
 constexpr double presqueun = 1.0 - 1.0 / 9007199254740992.0;
 
@@ -45,7 +28,7 @@ class Tirage : public testing::TestWithParam<Cas> {};
 
 TEST_P(Tirage, sans_remise) {
     const auto& cas = GetParam();
-    Suite hasard(cas.nombres);
+    essai::Suite hasard(cas.nombres);
     EXPECT_THAT(series::tirersansremise(hasard, cas.total, cas.nombre, cas.comblement),
                 ElementsAreArray(cas.tires));
 }

@@ -1,4 +1,4 @@
-#include "tirage.h"
+#include "pioche.h"
 
 #include <numeric>
 
