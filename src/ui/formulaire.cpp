@@ -36,8 +36,8 @@ Controle& Formulaire::poser(Genre genre, std::string_view nomducontrole, int ind
 }
 
 Minuterie& Formulaire::ajouterminuterie(std::string_view nomdelaminuterie) {
-    auto& minuterie =
-        *minuteries_.emplace_back(std::make_unique<Minuterie>(*this, std::string(nomdelaminuterie)));
+    auto& minuterie = *minuteries_.emplace_back(
+        std::make_unique<Minuterie>(*this, std::string(nomdelaminuterie)));
     if (surminuterie)
         surminuterie(minuterie);
     return minuterie;

@@ -56,7 +56,8 @@ std::map<std::string, Fourniture> fournitures(const fs::path& jeu) {
         toutes[dossierlistes + nom] = {};
     for (const auto& panneau : menu::panneaux()) {
         for (const auto& rangee : panneau.rangees) {
-            const auto octets = rangee.ecran() == menu::Ecran::multi ? rangeemultiple : rangeesimple;
+            const auto octets =
+                rangee.ecran() == menu::Ecran::multi ? rangeemultiple : rangeesimple;
             toutes[dossierlistes + std::string(rangee.fichier)] = {octets, {}};
             for (std::size_t partie = 0; partie < rangee.parties; ++partie)
                 toutes[dossierlistes + menu::fichierdepartie(rangee.fichier, partie)] = {octets,
