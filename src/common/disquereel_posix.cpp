@@ -18,6 +18,7 @@ namespace {
 constexpr mode_t modeneuf = 0666;
 constexpr mode_t modedossier = 0777;
 constexpr mode_t bitsdemode = 07777;
+constexpr auto meme = static_cast<uid_t>(-1);  // no change of owner
 
 std::error_code derniere() {
     return {errno, std::generic_category()};
@@ -139,8 +140,10 @@ class AppelsPosix : public Appels {
         struct stat lu {};
         if (::stat(modele.c_str(), &lu) != 0)
             return derniere();
-        // Only the system's administrator may give a file away; another keeps what it has made.
-        [[maybe_unused]] const int donne = ::fchown(numero(neuf), lu.st_uid, lu.st_gid);
+        // Only the system's administrator may give a file away; another can leave it to a group of
+        // his own, and otherwise keeps what he has made.
+        if (::fchown(numero(neuf), lu.st_uid, lu.st_gid) != 0) [[maybe_unused]]
+            const int laisse = ::fchown(numero(neuf), meme, lu.st_gid);
         return issue(::fchmod(numero(neuf), lu.st_mode & bitsdemode));
     }
 

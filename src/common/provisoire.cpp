@@ -44,6 +44,21 @@ void balayer(Appels& appels, const fs::path& cible) {
     }
 }
 
+/// Opens once no program has a lease on the file: a file server takes one, and gives it back when
+/// another program asks for the file.
+std::error_code ouvrirlibre(Appels& appels, const fs::path& chemin, Ouverture mode,
+                            Poignee& poignee) {
+    const auto limite = appels.maintenant() + attentelimite;
+    auto erreur = appels.ouvrir(chemin, mode, poignee);
+    while (erreur == std::errc::operation_would_block) {
+        if (appels.maintenant() >= limite)
+            return Ennui::Retenu;
+        appels.attendre(pas);
+        erreur = appels.ouvrir(chemin, mode, poignee);
+    }
+    return erreur;
+}
+
 /// A file that waits to take the place of another; gone unless it does.
 class Provisoire {
   public:
@@ -115,8 +130,11 @@ class Provisoire {
 
 std::error_code Descripteur::ouvrir(const fs::path& chemin, Ouverture mode) {
     fermer();
-    if (const auto erreur = appels_.ouvrir(chemin, mode, poignee_))
-        return erreur;
+    if (const auto erreur = ouvrirlibre(appels_, chemin, mode, poignee_)) {
+        // A socket cannot even be opened.
+        return erreur == std::errc::no_such_device_or_address ? make_error_code(Ennui::PasUnFichier)
+                                                              : erreur;
+    }
     Etat etat;
     if (const auto erreur = appels_.etat(poignee_, etat)) {
         fermer();

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
+#include <grp.h>
 #include <string>
 #include <sys/file.h>
 #include <sys/resource.h>
@@ -221,13 +222,15 @@ TEST_F(DisqueReel, deux_programmes_qui_ajoutent_ensemble_ne_se_coupent_pas) {
         ASSERT_EQ(octets.substr(i, taille), ligne(octets[i] - 'a'));
 }
 
-/// A FIFO or a device in the place of a file.
+/// A FIFO, a socket or a device in the place of a file.
 class Faux : public DisqueReel, public testing::WithParamInterface<const char*> {
   protected:
     Faux() {
         const auto chemin = dossier.chemin() / "f.txt";
         if (std::string(GetParam()) == "tube")
             EXPECT_EQ(::mkfifo(chemin.c_str(), 0666), 0);
+        else if (std::string(GetParam()) == "prise")
+            EXPECT_EQ(::mknod(chemin.c_str(), S_IFSOCK | 0666, 0), 0);
         else
             std::filesystem::create_symlink("/dev/zero", chemin);
     }
@@ -244,7 +247,7 @@ TEST_P(Faux, fichier_se_dit_aussitot) {
     EXPECT_EQ(common::raison(common::Ennui::PasUnFichier), "ce n'est pas un fichier ordinaire");
     EXPECT_EQ(noms(), std::vector<std::string>{"f.txt"});
 }
-INSTANTIATE_TEST_SUITE_P(Table, Faux, testing::Values("tube", "peripherique"),
+INSTANTIATE_TEST_SUITE_P(Table, Faux, testing::Values("tube", "prise", "peripherique"),
                          [](const auto& cas) { return std::string(cas.param); });
 
 /// Another program's lock, a reader's or a writer's.
@@ -292,6 +295,44 @@ INSTANTIATE_TEST_SUITE_P(Table, Retenu, testing::Values(LOCK_SH, LOCK_EX), [](co
     return cas.param == LOCK_SH ? "en_lecture" : "en_ecriture";
 });
 
+/// Another program's lease, which a file server takes: opening is refused until it is given back.
+class Bail : public essais::AppelsDessai {
+  public:
+    explicit Bail(std::int64_t duree) : duree_(duree) {}
+    std::error_code ouvrir(const Chemin& chemin, common::Ouverture mode,
+                           common::Poignee& poignee) override {
+        if (attendu < duree_)
+            return std::make_error_code(std::errc::operation_would_block);
+        return AppelsDessai::ouvrir(chemin, mode, poignee);
+    }
+
+  private:
+    std::int64_t duree_;
+};
+
+TEST_F(DisqueReel, un_bail_qui_se_rend_est_attendu) {
+    dossier.ecrire("f.txt", "A\r\n");
+    Bail bail(100);
+    common::DisqueReel loue(dossier.chemin(), bail);
+    std::unique_ptr<common::Flux> flux;
+    EXPECT_FALSE(loue.ouvrir("f.txt", flux));
+    EXPECT_EQ(bail.attendu, 100);
+    EXPECT_FALSE(loue.ajouter("f.txt", "B\r\n"));
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
+}
+
+TEST_F(DisqueReel, un_bail_qui_ne_se_rend_pas_se_dit_au_bout_de_cinq_secondes) {
+    dossier.ecrire("f.txt", "A\r\n");
+    Bail bail(1'000'000);
+    common::DisqueReel loue(dossier.chemin(), bail);
+    std::unique_ptr<common::Flux> flux;
+    EXPECT_EQ(loue.ouvrir("f.txt", flux), common::Ennui::Retenu);
+    EXPECT_EQ(bail.attendu, 5000);
+    EXPECT_EQ(loue.ajouter("f.txt", "B\r\n"), common::Ennui::Retenu);
+    EXPECT_EQ(bail.attendu, 10000);
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
+}
+
 TEST_F(DisqueReel, une_ecriture_courte_se_poursuit) {
     const auto octets = std::string(10'000, 'x') + "\r\n";
     appels.bouchee = 7;
@@ -325,6 +366,32 @@ TEST_F(DisqueReel, un_fichier_remplace_garde_son_mode) {
     EXPECT_FALSE(disque.ajouter("f.txt", "C\r\n"));
     EXPECT_EQ(mode(), prive);
     EXPECT_EQ(dossier.lire("f.txt"), "B\r\nC\r\n");
+}
+
+TEST_F(DisqueReel, le_fichier_d_un_autre_garde_son_groupe) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the administrator can make a file of another";
+    constexpr uid_t autre = 12345;
+    constexpr uid_t joueur = 12346;
+    constexpr gid_t commun = 12347;
+    dossier.ecrire("f.txt", "A\r\n");
+    const auto chemin = dossier.chemin() / "f.txt";
+    ASSERT_EQ(::chown(chemin.c_str(), autre, commun), 0);
+    ASSERT_EQ(::chmod(chemin.c_str(), 0660), 0);
+    ASSERT_EQ(::chmod(dossier.chemin().c_str(), 0777), 0);
+    EXPECT_EQ(essais::enfant([&] {
+                  // From inside: the folders around may be closed to the player.
+                  if (::chdir(dossier.chemin().c_str()) != 0 || ::setgroups(1, &commun) != 0 ||
+                      ::setgid(joueur) != 0 || ::setuid(joueur) != 0)
+                      return 2;
+                  return common::DisqueReel().ajouter("f.txt", "B\r\n") ? 1 : 0;
+              }),
+              0);
+    struct stat lu {};
+    ASSERT_EQ(::stat(chemin.c_str(), &lu), 0);
+    EXPECT_EQ(lu.st_gid, commun);
+    EXPECT_EQ(lu.st_mode & 0777U, 0660U);
+    EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
 }
 
 TEST_F(DisqueReel, un_lien_reste_et_ce_qu_il_designe_change) {
