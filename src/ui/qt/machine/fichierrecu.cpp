@@ -14,6 +14,8 @@
 #include <unistd.h>
 #endif
 
+#include "appels.h"
+
 namespace ui::qt {
 namespace {
 
@@ -72,9 +74,14 @@ bool FichierRecu::achever() {
         return false;
     const auto provisoire = QFileInfo(fichier_.fileName()).filesystemFilePath();
     fichier_.close();
+    const auto cible = ancien.filesystemFilePath();
     std::error_code refus;
-    std::filesystem::rename(provisoire, ancien.filesystemFilePath(), refus);
-    return !refus;
+    std::filesystem::rename(provisoire, cible, refus);
+    if (refus)
+        return false;
+    // The file is there: a folder that cannot be synchronised takes nothing back.
+    static_cast<void>(common::appelsdusysteme().synchroniserdossier(cible.parent_path()));
+    return true;
 }
 
 }  // namespace ui::qt
