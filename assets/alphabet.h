@@ -1,6 +1,6 @@
 #pragma once
 
-// The letters of the pictures: a small alphabet of pen strokes.
+// The letters in the pictures, drawn with pen strokes.
 
 #include <string_view>
 
@@ -8,8 +8,8 @@
 
 namespace assets {
 
-/// `texte` in capitals `hauteur` high, with a pen `plume` wide, as a drawing of its own size.
-/// Knows A to Z, 0 to 9, "b" and the blank; throws std::out_of_range for any other character.
+/// A drawing of `texte`, just large enough for it: capitals of height `hauteur`, strokes of width
+/// `plume`. Knows A to Z, 0 to 9, "b" and the blank; throws `std::out_of_range` for anything else.
 [[nodiscard]] Dessin mot(std::string_view texte, double hauteur, double plume,
                          const Couleur& couleur);
 

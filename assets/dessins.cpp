@@ -175,7 +175,7 @@ void ajouterfinesses(std::vector<Tableau>& liste, const std::string& nom, const 
     }
 }
 
-// A tile on a round-cornered ground.
+// A tile on a round-cornered background.
 Dessin icone() {
     constexpr double cote = 64;
     Dessin dessin{cote, cote, {}};

@@ -1,6 +1,6 @@
 #pragma once
 
-// Every picture of the program: what it shows, its file and its size.
+// The pictures of the program: drawing, file and size.
 
 #include <string>
 #include <vector>
@@ -9,9 +9,9 @@
 
 namespace assets {
 
-/// One file of the folder `images`. A name that ends in .png is written as PNG, any other as
-/// bitmap. The marks and badges come in their nominal size, told by their name in pixels, and in
-/// twins twice and four times as fine, with "@2x" and "@4x" before the ending.
+/// A file of the folder `images`: PNG if its name ends in .png, otherwise a bitmap. Marks and
+/// badges come in three variants: nominal size, and with twice and four times as many pixels each
+/// way, marked by "@2x" and "@4x" before the extension.
 struct Tableau {
     std::string nom;
     Dessin dessin;
@@ -24,10 +24,10 @@ struct Tableau {
 /// The bytes of the picture's file.
 [[nodiscard]] std::string fichier(const Tableau& tableau);
 
-/// A letter tile of side 1 with its value in the corner.
+/// A letter tile with side 1 and its points in the corner.
 [[nodiscard]] Dessin jeton(char lettre, int valeur);
 
-/// The picture of the login form: tiles on a rack that spell the program's name.
+/// The picture of the login form: a rack whose tiles spell the name of the program.
 [[nodiscard]] Dessin naturemorte();
 
 }  // namespace assets

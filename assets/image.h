@@ -1,6 +1,6 @@
 #pragma once
 
-// Pictures in memory, and their two forms on disk.
+// Pictures in memory, and as bitmap and PNG files.
 
 #include <cstdint>
 #include <string>
@@ -17,13 +17,13 @@ struct Image {
     std::vector<std::uint8_t> pixels;
 };
 
-/// The drawing stretched to `largeur` by `hauteur` pixels, smooth at its edges.
+/// Paints a drawing, stretched to `largeur` by `hauteur` pixels, with smooth edges.
 [[nodiscard]] Image peindre(const Dessin& dessin, int largeur, int hauteur);
 
-/// A bitmap file of 32 bits a pixel with opacity (version 4 header, rows from the foot).
+/// A bitmap file with 32 bits a pixel, opacity included (version 4 header, rows from the bottom).
 [[nodiscard]] std::string bmp(const Image& image);
 
-/// A PNG file of 32 bits a pixel.
+/// A PNG file with 32 bits a pixel.
 [[nodiscard]] std::string png(const Image& image);
 
 /// A picture in 16 greys, row by row from the top: 0 is black, 15 white.
@@ -33,7 +33,7 @@ struct Gris {
     std::vector<std::uint8_t> niveaux;
 };
 
-/// A PNG file of 4 bits a pixel.
+/// A PNG file with 4 bits a pixel.
 [[nodiscard]] std::string png(const Gris& image);
 
 }  // namespace assets

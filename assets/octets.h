@@ -5,13 +5,13 @@
 
 namespace assets {
 
-/// Adds the `nombre` low bytes of `valeur`, the lowest first.
+/// Appends the `nombre` lowest bytes of `valeur`, lowest first.
 inline void petitboutien(std::string& octets, std::uint32_t valeur, int nombre) {
     for (int i = 0; i < nombre; ++i)
         octets += static_cast<char>(valeur >> (8 * i) & 0xFFU);
 }
 
-/// Adds the four bytes of `valeur`, the highest first.
+/// Appends the four bytes of `valeur`, highest first.
 inline void grosboutien(std::string& octets, std::uint32_t valeur) {
     for (int i = 3; i >= 0; --i)
         octets += static_cast<char>(valeur >> (8 * i) & 0xFFU);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The phrase that is played at the end of a list.
+// The tune that is played at the end of a list.
 
 #include <cstdint>
 #include <string>
@@ -11,10 +11,10 @@ namespace assets {
 constexpr int cadence = 44100;  // samples a second
 constexpr const char* nomson = "APP05.WAV";
 
-/// The phrase, one channel, under two seconds.
+/// The samples of the tune: one channel, under two seconds.
 [[nodiscard]] std::vector<std::int16_t> phrase();
 
-/// A wave file of one channel, 16 bits a sample.
+/// A wave file with one channel, 16 bits a sample.
 [[nodiscard]] std::string wav(const std::vector<std::int16_t>& echantillons);
 
 }  // namespace assets

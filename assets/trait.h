@@ -1,7 +1,7 @@
 #pragma once
 
-// Strokes: everything that is drawn is a thick line, open or filled.
-// Lengths are in the drawing's own units, x to the right, y downwards.
+// Strokes: every drawing consists of thick lines, open or filled. Lengths are in units of the
+// drawing; x runs to the right, y down.
 
 #include <cstdint>
 #include <vector>
@@ -13,8 +13,8 @@ struct Point {
     double y = 0;
 };
 
-/// A piece of an ellipse from one angle to another, in degrees, 0 to the right and 90 downwards.
-/// With radii of 0 it is a corner.
+/// An arc of an ellipse between two angles in degrees, 0 to the right and 90 down. With radii of 0
+/// it is a corner.
 struct Arc {
     Point centre;
     double rayonx = 0;
@@ -37,8 +37,8 @@ struct Couleur {
             opacite};
 }
 
-/// A line through `points`, widened by `rayon` on each side; a filled one is closed and covers what
-/// it surrounds as well. Its colour runs from `haut` at its top to `bas` at its foot.
+/// A line through `points`, widened by `rayon` on each side. A filled one is closed, and covers
+/// what it encloses too. Its colour runs from `haut` at the top to `bas` at the bottom.
 struct Trait {
     std::vector<Point> points;
     bool plein = false;
@@ -54,20 +54,20 @@ struct Dessin {
     std::vector<Trait> traits;
 };
 
-/// How a drawing is laid into another: turned about its own middle, scaled, its middle at `milieu`.
+/// How a drawing is placed in another: rotated about its centre, scaled, its centre at `milieu`.
 struct Pose {
     Point milieu;
     double echelle = 1;
     double angle = 0;  // degrees, clockwise
 };
 
-/// The points of a line that follows the arcs one after the other.
+/// The points of a line that follows the arcs in turn.
 [[nodiscard]] std::vector<Point> courbe(const std::vector<Arc>& arcs);
 
-/// From `point` to the edge of the stroke: negative inside it.
+/// Distance from `point` to the edge of the stroke; negative inside.
 [[nodiscard]] double distance(const Trait& trait, Point point);
 
-/// Lays `partie` over what `dessin` holds.
+/// Draws `partie` over `dessin`.
 void ajouter(Dessin& dessin, const Dessin& partie, const Pose& pose);
 
 }  // namespace assets

@@ -9,6 +9,7 @@
 #include "disquereel.h"
 #include "fabrication.h"
 #include "faute.h"
+#include "fichier.h"
 #include "options.h"
 #include "sortie.h"
 #include "verification.h"

@@ -15,7 +15,7 @@ namespace atelier {
 
 enum class Commande { fabriquer, verifier, decrire, aide, version };
 
-/// Two editions to compare.
+/// Two editions of a dictionary to compare: their files.
 struct Comparaison {
     std::string ancienne;
     std::string nouvelle;
@@ -27,21 +27,21 @@ struct Options {
     std::string lexique;
     std::string affixes;
     std::string thesaurus;
-    bool ajouts = true;               ///< the lexicon gets the words that it lacks
+    bool ajouts = true;               ///< add the words that the lexicon lacks
     std::optional<std::string> mots;  ///< a player's own dictionary
     std::array<std::optional<Comparaison>, editions.size()> comparaisons;
 };
 
-/// A wrong use of the command line, said in French.
+/// A wrong use of the command line, explained in French.
 class MauvaisUsage : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the arguments behind the program's name. Throws `MauvaisUsage`.
+/// Reads the arguments after the program's name. Throws `MauvaisUsage`.
 [[nodiscard]] Options lireoptions(std::span<const std::string> arguments);
 
-/// What the program tells of its use.
+/// The help text of the program, in French.
 [[nodiscard]] std::string aide();
 
 }  // namespace atelier

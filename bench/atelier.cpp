@@ -7,6 +7,7 @@
 
 #include "disquereel.h"
 #include "fabrication.h"
+#include "fichier.h"
 
 namespace {
 

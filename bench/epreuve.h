@@ -19,7 +19,7 @@ inline constexpr std::array referencesdescorrections{
     "listes/ods5.txt",    "listes/ods6.txt", "listes/ods7.txt", "listes/vbi.txt",
     "listes/vbt4-10.txt", "listes/inv.txt",  "infosouris.txt"};
 
-/// Lines of these files, in the same order.
+/// The number of lines of each of these files, in the same order.
 using Tailles = std::array<std::size_t, referencesdescorrections.size()>;
 
 /// The program on the simulated machine and a real disk, in a temporary folder.
@@ -28,26 +28,26 @@ class Epreuve {
     Epreuve();
 
     void ecrire(const std::string& fichier, const std::string& octets) const;
-    /// Fills the reference files with words that no list has, and the notes with notes.
+    /// Fills the reference files with words that are in no list, and the notes file with notes.
     void garnirreferences(const Tailles& tailles) const;
     /// Paths of the files that a correction reads, the revision file included.
     [[nodiscard]] std::vector<std::string> fichierslus() const;
     [[nodiscard]] std::string chemin(const std::string& fichier) const {
         return (dossier_.chemin() / fichier).string();
     }
-    /// Launches `listes\x.txt` as the menu does.
+    /// Starts a series from `listes\x.txt`, as the menu does.
     void lancer(bool multi);
-    /// Shows the menu of a user who has logged in.
+    /// Logs a user in and shows the menu.
     void montrermenu();
     /// Clicks a control of the form.
     void cliquer(std::string_view controle, int index = -1);
     [[nodiscard]] ui::Voisins& voisins() { return programme_.voisins(); }
     /// Runs an event, and stops the program if it faults.
     void executer(const std::function<void()>& evenement);
-    /// A second goes by.
+    /// Lets a second pass.
     void seconde();
     void touche(int code);
-    /// A key that types a letter, from its going down to its release.
+    /// Presses and releases the key of a letter.
     void taper(char lettre);
     [[nodiscard]] ui::Formulaire& form() { return *form_; }
 
@@ -58,7 +58,7 @@ class Epreuve {
     ui::Formulaire* form_ = nullptr;
 };
 
-/// A word of `longueur` capitals, for each number another one as a rule.
+/// A word of `longueur` capitals; different numbers give different words, with few exceptions.
 [[nodiscard]] std::string mot(std::size_t numero, std::size_t longueur);
 
 }  // namespace bench

@@ -1,7 +1,7 @@
 #pragma once
 
-// Ratios in one run: something is timed in turn with what it is compared to, so that both meet the
-// same machine.
+// Ratios: a subject and what it is compared to are timed alternately in one run, so that both see
+// the same state of the machine.
 
 #include <functional>
 #include <string>
@@ -11,29 +11,30 @@
 
 namespace bench {
 
-/// Bounds of a measure; 0 is no bound.
+/// Bounds of a measurement; 0 means no bound.
 struct Bornes {
-    double rapport = 0;  ///< times the reference
+    double rapport = 0;  ///< as a multiple of the reference
     double millisecondes = 0;
 };
 
 /// Prepares nothing.
 inline void rien() {}
 
-/// Times the plain reading of `fichiers` (their bytes, in blocks, and a count of the line ends) and
-/// `sujet` in turn, after `preparer`, which is not timed; shows the medians and their ratio, and
-/// reports an error where one is over its bound.
+/// Times alternately `sujet` and a plain reading of `fichiers`, which reads their bytes in blocks
+/// and counts the line ends. `preparer` runs before, untimed. Shows the medians and their ratio,
+/// and reports an error if one is over its bound.
 void comparer(benchmark::State& state, const std::function<void()>& preparer,
               const std::function<void()>& sujet, const std::vector<std::string>& fichiers,
               const Bornes& bornes);
 
-/// Times `sujet` alone.
+/// Times `sujet` alone, after `preparer`, untimed; reports an error if the median is over its
+/// bound.
 void chronometrer(benchmark::State& state, const std::function<void()>& preparer,
                   const std::function<void()>& sujet, const Bornes& bornes);
 
 }  // namespace bench
 
-/// main() that fails if a measure is over its bound.
+/// main() that fails if a measurement is over its bound.
 #define ORVANE_BENCH_MAIN()               \
     int main(int argc, char** argv) {     \
         return bench::lancer(argc, argv); \

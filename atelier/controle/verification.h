@@ -1,6 +1,6 @@
 #pragma once
 
-// Checks of lists, made or written by hand.
+// Checks of lists, whether generated or written by hand.
 
 #include <cstddef>
 #include <string>
@@ -8,9 +8,9 @@
 
 namespace atelier {
 
-/// How much a finding matters.
+/// How serious a finding is.
 enum class Gravite {
-    remarque,  ///< the program reads the list all the same
+    remarque,  ///< the program can still read the list
     faute,
 };
 
@@ -23,12 +23,12 @@ struct Constat {
     [[nodiscard]] std::string texte() const;
 };
 
-/// Checks one list file (`chemin` is a path of the system). Its name, if the catalogue knows it,
-/// tells what its rows hold; a file of another name is checked as a personal list.
+/// Checks one list file (`chemin` is a path of the system). A name in the catalogue tells what its
+/// rows must be; a file with any other name is checked as a personal list.
 [[nodiscard]] std::vector<Constat> verifierfichier(const std::string& chemin);
 
-/// Checks a folder as a player's: the lists in it or in its folder `listes`, which have to be there
-/// all, the parts against the wholes, the reference lists and the notes.
+/// Checks the folder of an installed program: the lists in it or in its subfolder `listes`, none of
+/// which may be missing; that the parts make up their whole lists; the reference lists; the notes.
 [[nodiscard]] std::vector<Constat> verifierdossier(const std::string& chemin);
 
 }  // namespace atelier

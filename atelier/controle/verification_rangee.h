@@ -1,6 +1,6 @@
 #pragma once
 
-// What is wrong in a row of a list.
+// Checks of the rows of a list.
 
 #include <cstddef>
 #include <string>
@@ -10,32 +10,33 @@
 
 namespace atelier {
 
-/// What the rows of a list are.
+/// The kind of the rows of a list.
 enum class Sorte {
-    simple,    ///< a rack and one word on its letters
-    multi,     ///< a rack and two to five words on its letters
-    rallonge,  ///< a word, with "?" at an end or not, and letters that make it longer
-    benjamin,  ///< a word and the letters in front that make it longer
-    perso,     ///< a rack and one to five words on its letters
+    simple,    ///< a rack and one word made of its letters
+    multi,     ///< a rack and two to five words made of its letters
+    rallonge,  ///< a word, perhaps with "?" at one end, and letters that extend it
+    benjamin,  ///< a word and the letters that extend it in front
+    perso,     ///< a rack and one to five words made of its letters
 };
 
-/// What the rows of a row of the catalogue are.
+/// The kind of rows in the lists of a row of the catalogue.
 [[nodiscard]] Sorte sorte(std::string_view panneau, std::size_t rangee);
 
-/// Capitals A to Z, 2 to 15 of them.
+/// The text consists of 2 to 15 capitals A to Z.
 [[nodiscard]] bool motjouable(std::string_view texte);
 
-/// Reads the rows of a file one after the other.
+/// Checks the rows of a file, given in order.
 class Rangees {
   public:
     explicit Rangees(Sorte sorte) : sorte_(sorte) {}
 
-    /// What is wrong with the next row; nothing, mostly.
+    /// What is wrong with the next row, in French; usually nothing.
     [[nodiscard]] std::vector<std::string> lire(std::string_view ligne);
 
-    /// The most solutions of a row so far.
+    /// The highest number of solutions in a row so far.
     [[nodiscard]] std::size_t solutionsmax() const { return solutionsmax_; }
-    /// The last rack is shorter than another in a way that shows.
+    /// The last rack, by which the screen chooses the size of letters, is short although another is
+    /// long.
     [[nodiscard]] bool dernierpluscourt() const;
 
   private:

@@ -1,6 +1,6 @@
 #pragma once
 
-// From the recipes to the files.
+// Makes the files from the recipes.
 
 #include <cstddef>
 #include <functional>
@@ -13,38 +13,39 @@
 
 namespace atelier {
 
-/// A file of the output: its path from the output folder, with "/", and its bytes.
+/// An output file: its path in the output folder, with "/", and its bytes.
 struct Fichier {
     std::string chemin;
     std::string octets;
 };
 
-/// Says what is being made.
+/// Told what is being made, in French.
 using Progression = std::function<void(std::string_view)>;
 
-/// The rows of a part of a list cut in `parties` slices of one size, give or take a row.
+/// The rows of part `rang`, from 0, of a list cut into `parties` parts, whose sizes differ by one
+/// row at most.
 [[nodiscard]] std::span<const Rangee> partie(std::span<const Rangee> rangees, std::size_t parties,
                                              std::size_t rang);
 
 struct Production {
     std::vector<Fichier> fichiers;
-    std::vector<std::string> avertissements;  ///< French: lists that were cut to fit their form
+    std::vector<std::string> avertissements;  ///< in French: lists cut to what their form can hold
 };
 
-/// Every file that the program needs: the lists of the catalogue and their parts, the reference
-/// lists, the notes, the tables and their pictures, and the licences of the sources.
+/// Makes every file that the program needs: the lists of the catalogue and their parts, the
+/// reference lists, the notes, the tables with their pictures, and the licences of the sources.
 [[nodiscard]] Production fabriquer(const Matiere& matiere, const Thesaurus& thesaurus,
                                    const Progression& progression);
 
-/// What a list holds, for a player.
+/// A description of a list, for a player.
 struct Description {
     std::string fichier;
-    std::string libelle;  ///< caption in the menu, empty for the lists that it does not show
+    std::string libelle;  ///< caption in the menu; empty for a list that is not in the menu
     std::string regle;    ///< one French sentence
     std::size_t rangees = 0;
 };
 
-/// The lists named `nom` (with or without its extension), or all of them for the empty name.
+/// The lists named `nom`, with or without extension; all lists if `nom` is empty.
 [[nodiscard]] std::vector<Description> decrire(const Matiere& matiere, std::string_view nom);
 
 }  // namespace atelier

@@ -1,6 +1,6 @@
 #pragma once
 
-// The licences under which the sources of the lists come, written beside the lists.
+// The licences of the sources of the lists. They are written beside the lists.
 
 #include <array>
 #include <string_view>
@@ -9,7 +9,7 @@ namespace atelier {
 
 struct Licence {
     std::string_view fichier;  ///< in the output folder
-    std::string_view texte;    ///< UTF-8, lines that end in LF
+    std::string_view texte;    ///< UTF-8, each line ended by LF
 };
 
 [[nodiscard]] std::array<Licence, 2> licences();

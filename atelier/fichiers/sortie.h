@@ -1,6 +1,6 @@
 #pragma once
 
-// Putting a whole set of files in the place of the old one.
+// Replaces a whole set of files by a new one.
 
 #include <filesystem>
 #include <functional>
@@ -12,17 +12,17 @@
 
 namespace atelier {
 
-/// Makes a file of these bytes.
+/// Writes a file with this content.
 using Ecrire = std::function<std::error_code(const std::filesystem::path&, std::string_view)>;
 
-/// The real one.
+/// The `Ecrire` that writes to the disk.
 [[nodiscard]] std::error_code ecrirefichier(const std::filesystem::path& chemin,
                                             std::string_view octets);
 
-/// Writes the files beside their place, then puts them there: the folder of the lists as a whole in
-/// one step, with the files of the old folder that the new one lacks (a player's own lists); every
-/// other file by itself. Makes `dossier` if it is missing. Throws `common::Faute`; what was in
-/// `dossier` is untouched unless all files could be written.
+/// Writes all files under temporary names in `dossier`, then puts them in place. The folder of the
+/// lists is replaced in one step, and keeps the files that the new one lacks (a player's own
+/// lists); the other files are replaced one by one. Creates `dossier` if it is missing. Throws
+/// `common::Faute`; nothing in `dossier` is changed unless all files could be written.
 void installer(const std::vector<Fichier>& fichiers, const std::filesystem::path& dossier,
                const Ecrire& ecrire = ecrirefichier);
 

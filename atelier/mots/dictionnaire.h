@@ -1,6 +1,6 @@
 #pragma once
 
-// A player's own dictionary: a plain text of words.
+// A player's own dictionary: a text file of words.
 
 #include <string_view>
 
@@ -8,9 +8,9 @@
 
 namespace atelier {
 
-/// Reads a text of words, one a line: UTF-8 or Windows-1252, any line end, any case, accents or
-/// none. Words of a length that no board holds are left out. `chemin` names the text in reports.
-/// Throws `common::Faute`, with the line, for anything but words.
+/// Reads words, one a line: UTF-8 or Windows-1252, any line end, any case, with or without accents.
+/// Words too short or too long for the game are skipped. Reports call the file `chemin`. Throws
+/// `common::Faute`, with the line, for anything that is not a word.
 [[nodiscard]] Dictionnaire liredictionnaire(std::string_view octets, std::string_view chemin);
 
 }  // namespace atelier

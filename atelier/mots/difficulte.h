@@ -10,18 +10,18 @@
 
 namespace atelier {
 
-/// The habits of the language, counted over the words of 5 to 10 letters that are not conjugated:
-/// beginnings and endings of three letters, and neighbours.
+/// How often the words of 5 to 10 letters that are not conjugated have each beginning and each
+/// ending of three letters, and each pair of neighbouring letters.
 class Difficulte {
   public:
     explicit Difficulte(const Vocabulaire& vocabulaire);
 
-    /// High when the letters of the word suggest other beginnings, endings and neighbours than its
-    /// own. Compares words of one length.
+    /// The difficulty of a word: high if its letters could make commoner beginnings, endings and
+    /// pairs than the word has. Comparable among words of the same length.
     [[nodiscard]] int de(const Mot& mot) const;
 
   private:
-    /// Four times the binary logarithm of a count, as an integer; 0 for a count of 0.
+    /// For each count four times its binary logarithm, as an integer; 0 for a count of 0.
     using Mesures = std::vector<std::uint8_t>;
 
     Mesures debuts_;   // by three letters

@@ -1,13 +1,13 @@
 #pragma once
 
-// Words that never change.
+// Invariable words.
 
 #include "vocabulaire.h"
 
 namespace atelier {
 
-/// A word that is the same everywhere and that no S nor X makes longer; not one that ends in S, X
-/// or Z, which tell nothing.
+/// The word has one form only, and makes no other word with S or X behind it. Never true for a word
+/// that ends in S, X or Z: its plural would look the same.
 [[nodiscard]] bool invariable(const Vocabulaire& v, const Mot& mot);
 
 }  // namespace atelier

@@ -1,7 +1,7 @@
 #pragma once
 
-// Words that came in with an edition of a dictionary: known only by comparing two editions that the
-// player owns.
+// New words: those that an edition of a dictionary added. They are found by comparing two editions
+// that the player owns.
 
 #include <array>
 #include <string_view>
@@ -13,24 +13,24 @@ namespace atelier {
 
 struct Edition {
     std::string_view annee;
-    common::ListeReference liste;  ///< of its new words
+    common::ListeReference liste;  ///< the list of its new words
 };
 
-/// The editions whose words the program marks, oldest first.
+/// The editions whose new words the program marks, oldest first.
 inline constexpr std::array editions{
     Edition{"2008", common::listeods5},
     Edition{"2012", common::listeods6},
     Edition{"2016", common::listeods7},
 };
 
-/// New words by edition, by length and alphabet; an edition that was not compared has none.
+/// The new words of each edition, by length, then alphabet; empty for an edition not compared.
 using Nouveautes = std::array<Dictionnaire, editions.size()>;
 
-/// Longest word that the lists of new words hold.
+/// Letters of the longest words in the lists of new words.
 inline constexpr std::size_t longueurnouveautes = 9;
 
-/// Words of the new edition, of 2 to 9 letters, that the old one lacks: the shortest first, at most
-/// as many as a reference list may hold.
+/// The words of 2 to 9 letters that `nouvelle` has and `ancienne` lacks, the shortest first, at
+/// most `placesmax` of them.
 [[nodiscard]] Dictionnaire comparer(const Dictionnaire& ancienne, const Dictionnaire& nouvelle,
                                     std::size_t placesmax);
 

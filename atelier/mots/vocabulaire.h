@@ -1,6 +1,6 @@
 #pragma once
 
-// The words of the game with what the lists ask of them, computed once, and the racks they make.
+// The words of the game and their racks, with the properties by which lists choose them.
 
 #include <cstdint>
 #include <optional>
@@ -13,31 +13,31 @@
 
 namespace atelier {
 
-/// What a word is first of all, from what a player would rather put down to a mere conjugation.
+/// The best that can be said of a word, best first: players value a mere conjugation least.
 enum class Rang : std::uint8_t { nonconjugue, infinitif, plurielevident, participe, conjugue };
 
 struct Mot {
     Capitales lettres;
-    std::uint32_t tirage = 0;     ///< place in the racks
-    std::uint32_t lecture = 0;    ///< place of the first reading
+    std::uint32_t tirage = 0;     ///< index in `tirages()`
+    std::uint32_t lecture = 0;    ///< index of its first reading
     std::uint32_t lectures = 0;   ///< number of readings
-    std::uint32_t frequence = 0;  ///< of its commonest lemma
-    std::uint8_t poids = 0;       ///< points of its letters, less one each
+    std::uint32_t frequence = 0;  ///< that of its commonest lemma
+    std::uint8_t poids = 0;       ///< sum of its letters' points less one each
     Rang rang = Rang::nonconjugue;
-    bool chere = false;           ///< holds one of J K Q W X Y Z
-    bool conjugue = false;        ///< nothing but finite forms of verbs
-    bool plurielevident = false;  ///< of a noun or adjective: the singular and S or X
-    bool entree = false;          ///< heads an article of a dictionary
+    bool chere = false;           ///< has a high-value letter: J K Q W X Y Z
+    bool conjugue = false;        ///< all readings are finite forms of verbs
+    bool plurielevident = false;  ///< of a noun or adjective: its singular with S or X
+    bool entree = false;          ///< a dictionary lists it by itself
     bool infinitif = false;
-    bool injurieux = false;  ///< nothing but offending lemmas: a word like others, never asked
-    bool unique = false;     ///< the only word of its rack
+    bool injurieux = false;  ///< all lemmas are offensive: valid, but no list asks for it
+    bool unique = false;     ///< the only word on its rack
 
     [[nodiscard]] std::size_t taille() const { return lettres.taille(); }
     [[nodiscard]] std::string_view texte() const { return lettres.texte(); }
     [[nodiscard]] bool finiten(std::string_view fin) const { return texte().ends_with(fin); }
 };
 
-/// The words on the same letters.
+/// The words made of the same letters.
 struct Tirage {
     Capitales lettres;  ///< in alphabetical order
     std::uint32_t premier = 0;
@@ -45,23 +45,23 @@ struct Tirage {
     std::uint32_t nonconjugues = 0;
 };
 
-/// The words of a player's own dictionary, sorted.
+/// A set of words, sorted: a player's own dictionary.
 using Dictionnaire = std::vector<Capitales>;
 
 class Vocabulaire {
   public:
-    /// With a dictionary, only its words count; those that the lexicon lacks are taken as nouns, or
-    /// as plurals when they end in S or X behind a word.
+    /// With a dictionary, only its words are kept. Those that the lexicon lacks count as nouns, or
+    /// as plurals if they are another word with S or X.
     Vocabulaire(Lexique lexique, const std::optional<Dictionnaire>& dictionnaire);
 
-    /// By length, then by alphabet.
+    /// All words, by length, then alphabet.
     [[nodiscard]] std::span<const Mot> mots() const { return mots_; }
     [[nodiscard]] std::span<const Mot> mots(std::size_t min, std::size_t max) const;
-    /// By length, then by letters.
+    /// All racks, by length, then letters.
     [[nodiscard]] std::span<const Tirage> tirages() const { return tirages_; }
     [[nodiscard]] std::span<const Tirage> tirages(std::size_t min, std::size_t max) const;
 
-    /// The words of a rack, by alphabet: places in `mots()`.
+    /// The words of a rack, in alphabetical order, as indices in `mots()`.
     [[nodiscard]] std::span<const std::uint32_t> places(const Tirage& tirage) const {
         return std::span(places_).subspan(tirage.premier, tirage.mots);
     }
@@ -76,13 +76,13 @@ class Vocabulaire {
     }
     [[nodiscard]] std::span<const Lemme> lemmes() const { return lemmes_; }
 
-    /// The word of these capitals, or nothing.
+    /// The word with these capitals; null if there is none.
     [[nodiscard]] const Mot* chercher(std::string_view capitales) const;
     [[nodiscard]] bool existe(std::string_view capitales) const {
         return chercher(capitales) != nullptr;
     }
 
-    /// One of the readings, or every reading, of a word is such.
+    /// `predicat` is true of one reading of a word (`une`), or of all (`toutes`).
     template <class Predicat>
     [[nodiscard]] bool une(const Mot& mot, Predicat predicat) const {
         const auto l = lectures(mot);
@@ -109,10 +109,10 @@ class Vocabulaire {
     std::vector<std::uint32_t> index_;  // open addressing; 0 is free, else place + 1
 };
 
-/// A letter of this many points or more is dear.
+/// A letter with this many points or more is a high-value letter.
 constexpr int pointschere = 8;
 
-/// Points of a letter on the French tiles.
+/// The points of a letter on French tiles.
 [[nodiscard]] int points(char lettre);
 
 }  // namespace atelier

@@ -1,6 +1,7 @@
 #pragma once
 
-// From words to the rows of a list: choosing, cutting to a size, hinting, ordering.
+// Makes the rows of a list from words: choosing words, reducing their number, adding hints,
+// ordering.
 
 #include <cstdint>
 #include <functional>
@@ -14,22 +15,23 @@ namespace atelier {
 
 /// A row of a list file (format: docs/formats.md).
 struct Rangee {
-    std::string lettres;    ///< of the rack, without a sign: what rows are ordered by
-    std::string tirage;     ///< as the player sees it
-    std::string solutions;  ///< with ";" between them
+    std::string lettres;    ///< the letters of the rack alone, which rows are ordered by
+    std::string tirage;     ///< the rack as the player sees it
+    std::string solutions;  ///< separated by ";"
 
     [[nodiscard]] std::string texte() const { return tirage + ';' + solutions; }
 };
 
-/// The rows of a list, in its order, and every word that a player has to find there.
+/// The rows of a list, in order, and all words that a player has to find in it.
 struct Contenu {
     std::vector<Rangee> rangees;
-    std::vector<std::uint32_t> mots;  ///< places in the vocabulary
+    std::vector<std::uint32_t> mots;  ///< indices in the vocabulary
 };
 
 using Selection = std::vector<const Mot*>;
 
-/// The words of these lengths that are such and that a list may ask, by length and alphabet.
+/// The words of `min` to `max` letters for which `predicat` is true and which are not offensive, by
+/// length, then alphabet.
 template <class Predicat>
 Selection choisir(const Vocabulaire& v, std::size_t min, std::size_t max, Predicat predicat) {
     Selection choisis;
@@ -40,10 +42,10 @@ Selection choisir(const Vocabulaire& v, std::size_t min, std::size_t max, Predic
     return choisis;
 }
 
-/// One of the words offends.
+/// One of the words is offensive.
 [[nodiscard]] bool injurieuse(const Selection& mots);
 
-/// The words of a rack that are such, by alphabet.
+/// The words of a rack for which `predicat` is true, in alphabetical order.
 template <class Predicat>
 Selection choisir(const Vocabulaire& v, const Tirage& tirage, Predicat predicat) {
     Selection choisis;
@@ -67,42 +69,42 @@ Selection choisir(const Vocabulaire& v, const Tirage& tirage, Predicat predicat)
     return mot.infinitif;
 }
 
-/// How common a word is; verbs that everybody uses come before all others.
+/// How common a word is. `frequencedeverbe` ranks the verbs that everybody uses above all others.
 [[nodiscard]] std::uint32_t frequencedeverbe(const Vocabulaire& v, const Mot& mot);
 [[nodiscard]] std::uint32_t frequence(const Vocabulaire& v, const Mot& mot);
 
-/// The infinitive of a verb that lacks a good part of its conjugation.
+/// The word is the infinitive of a defective verb.
 [[nodiscard]] bool defectif(const Vocabulaire& v, const Mot& mot);
 
-/// Takes the commonest words out of a selection until `total` are left; takes only words that are
-/// `otables`. Ties go by alphabet.
+/// Removes the commonest words, by `mesure`, until `total` are left. Removes only words for which
+/// `otable` is true. Ties are broken by alphabet.
 [[nodiscard]] Selection couper(const Vocabulaire& v, Selection selection, std::size_t total,
                                std::uint32_t (*mesure)(const Vocabulaire&, const Mot&),
                                bool (*otable)(const Mot&) = tous);
 
-/// The `nombre` words that measure highest; ties go by alphabet.
+/// The `nombre` words with the highest measure. Ties are broken by alphabet.
 [[nodiscard]] Selection plushauts(Selection selection, std::size_t nombre,
                                   const std::function<int(const Mot&)>& mesure);
 
-/// A rack with a hint: in brackets, the shortest beginning of the word that no rival on the same
-/// letters shares. Without rivals, the plain rack.
+/// The rack of a word with a hint in brackets: the shortest beginning of the word that none of the
+/// `rivaux` on the same letters shares. Without rivals, the plain rack.
 [[nodiscard]] std::string tirageavecindice(const Mot& mot, const Selection& rivaux);
 
-/// One row a word: its letters in alphabetical order and the word.
+/// One row for each word: its letters in alphabetical order, and the word.
 [[nodiscard]] Contenu simples(const Vocabulaire& v, const Selection& selection);
 
-/// The same with a hint where other words of `rivaux` stand on the letters.
+/// The same, with a hint where other words of `rivaux` have the same letters.
 [[nodiscard]] Contenu indiques(const Vocabulaire& v, const Selection& selection,
                                const Selection& rivaux);
 
-/// Adds a rack and its several solutions; not one that asks an offending word.
+/// Adds a rack with several solutions, unless one of them is offensive.
 void ajoutermultiple(Contenu& contenu, const Vocabulaire& v, const Tirage& tirage,
                      const Selection& solutions);
 
-/// Puts rows in the order of the files: by number of letters, letters, solutions.
+/// Sorts the rows as in the files: by number of letters, then letters, then solutions.
 void ordonner(Contenu& contenu);
 
-/// The place of a word in the vocabulary.
+/// The index of a word in the vocabulary.
 [[nodiscard]] std::uint32_t place(const Vocabulaire& v, const Mot& mot);
 
 }  // namespace atelier

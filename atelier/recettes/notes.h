@@ -1,6 +1,6 @@
 #pragma once
 
-// Notes on words, shown when the mouse passes over a word after the correction.
+// Notes on words. They appear when the mouse is over a word after the correction.
 
 #include <cstdint>
 #include <set>
@@ -12,16 +12,17 @@
 
 namespace atelier {
 
-/// Most notes that the file holds: a correction reads it whole.
+/// Most notes in the file, since each correction reads all of it.
 constexpr std::size_t notesmax = 10000;
 
 struct Note {
     std::string mot;    ///< capitals
-    std::string texte;  ///< never empty, never a word in capitals
+    std::string texte;  ///< never empty; never one word in capitals, which would be read as `mot`
 };
 
-/// The notes worth most among the words that lists ask, by alphabet. `demandes` and `atypiques` are
-/// places in the vocabulary; the latter are conjugations whose verb has to be said.
+/// The most useful notes on the words that lists ask for, in alphabetical order. `demandes` (those
+/// words) and `atypiques` (conjugations that do not show their verb, which the note names) are
+/// indices in the vocabulary.
 [[nodiscard]] std::vector<Note> notes(const Vocabulaire& v, const Thesaurus& thesaurus,
                                       const std::set<std::uint32_t>& demandes,
                                       const std::set<std::uint32_t>& atypiques);

@@ -21,13 +21,13 @@ void demander(Selection& mots, const Selection& souhaites) {
                  [](const Mot* mot) { return !mot->injurieux; });
 }
 
-/// All words of three letters with a dear letter.
+/// All words of three letters with a high-value letter.
 Contenu chere3(const Matiere& m) {
     const auto mots = choisir(m.mots, 3, 3, [](const Mot& mot) { return mot.chere; });
     return indiques(m.mots, mots, mots);
 }
 
-/// Words with a dear letter, but for the conjugations in -EZ.
+/// Words with a high-value letter, but for the conjugations in -EZ.
 Selection cheressansez(const Matiere& m, std::size_t taille) {
     return choisir(m.mots, taille, taille,
                    [](const Mot& mot) { return mot.chere && !conjugueenez(mot); });
@@ -44,7 +44,8 @@ Contenu chere6(const Matiere& m, std::size_t total) {
     return indiques(m.mots, couper(m.mots, mots, total, frequence, otable), mots);
 }
 
-/// Racks without a dear letter; wanted are the words that are not conjugated, or all if all are.
+/// Racks without a high-value letter; wanted are the words that are not conjugated, or all if all
+/// are.
 Selection courts34(const Matiere& m, std::size_t taille) {
     Selection mots;
     for (const auto& tirage : m.mots.tirages(taille, taille)) {
@@ -69,7 +70,7 @@ Contenu courts4(const Matiere& m, std::size_t total) {
     return indiques(m.mots, couper(m.mots, mots, total, frequence), mots);
 }
 
-/// Racks of at most three words without a dear letter; wanted are the words of the best rank.
+/// Racks of at most three words without a high-value letter; wanted are the words of the best rank.
 Contenu courts5(const Matiere& m, std::size_t total) {
     Selection mots;
     for (const auto& tirage : m.mots.tirages(5, 5)) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The reference lists, which mark words at correction.
+// The reference lists, by which the correction marks words.
 
 #include <string>
 #include <vector>
@@ -17,7 +17,7 @@ struct Reference {
     std::function<std::vector<Capitales>(const Matiere&)> faire;
 };
 
-/// The recipes of all reference lists. Each gives at most as many words as its list may hold, the
+/// The recipes of all reference lists. Each makes at most as many words as its list may hold, the
 /// shortest first.
 [[nodiscard]] std::vector<Reference> references();
 

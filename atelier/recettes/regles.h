@@ -1,7 +1,7 @@
 #pragma once
 
-// The rules of the lists: what each list of the catalogue holds and how that is chosen. A recipe is
-// a row of the family that its list belongs to, and is looked up by the file of the list.
+// The recipes: what each list of the catalogue holds, and how it is chosen. A recipe stands among
+// those of its family of lists, and is found by the file name of its list.
 
 #include <functional>
 #include <string>
@@ -15,7 +15,7 @@
 
 namespace atelier {
 
-/// What the rules choose from.
+/// What recipes choose from.
 struct Matiere {
     const Vocabulaire& mots;
     const Difficulte& difficulte;
@@ -27,7 +27,7 @@ struct Recette {
     std::string fichier;      ///< name of the list in the catalogue
     std::string description;  ///< one French sentence
     std::function<Contenu(const Matiere&)> faire;
-    bool verbeadire = false;  ///< its conjugations do not show their verb: the notes say it
+    bool verbeadire = false;  ///< its conjugations do not show their verb, so the notes name it
 };
 
 /// The recipes of all lists of the catalogue.
@@ -36,10 +36,10 @@ struct Recette {
 /// The recipe of a list. Throws `common::Faute` for a file that has none.
 [[nodiscard]] const Recette& recette(std::string_view fichier);
 
-/// New words of 7 and 8 letters with a dear letter, alone on their rack.
+/// New words of 7 and 8 letters with a high-value letter, alone on their rack.
 [[nodiscard]] Contenu nouveauteschere(const Vocabulaire& v, const Nouveautes& nouveautes);
 
-// One function a family of lists.
+// The recipes of each family of lists.
 [[nodiscard]] std::vector<Recette> recettesdebase();
 [[nodiscard]] std::vector<Recette> recettesconjuguees();
 [[nodiscard]] std::vector<Recette> recettesparpoids();  // 6, 7 and 8 letters, none of high value

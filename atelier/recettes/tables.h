@@ -1,6 +1,6 @@
 #pragma once
 
-// Racks with more anagrams than a series can ask: tables to read, as a text and as a picture.
+// Racks with more anagrams than a series can ask for: tables to read, as text and as a picture.
 
 #include <array>
 #include <cstddef>
@@ -11,18 +11,18 @@
 
 namespace atelier {
 
-/// A rack with this many words that are not conjugated, or more, is in the tables.
+/// Fewest words, conjugated ones aside, of a rack in the tables.
 inline constexpr std::size_t anagrammesmin = 6;
 
 struct Table {
-    std::size_t taille = 0;  ///< letters of its racks
+    std::size_t taille = 0;  ///< number of letters of its racks
     std::string_view texte;  ///< file in the folder of the lists
     std::string_view image;  ///< file in the folder of the pictures, without its extension
 };
 
 /// Folder of the pictures, beside the program.
 inline constexpr std::string_view dossierimages = "images";
-/// Each picture comes in the size of the screen and twice as fine.
+/// Each picture comes for screens of normal and of double density.
 inline constexpr std::array variantes{1, 2};
 
 inline constexpr std::array tables{
@@ -30,14 +30,14 @@ inline constexpr std::array tables{
     Table{8, "8l_6anagrammes.txt", "8l_6anagrammes"},
 };
 
-/// The file of a picture's variant: "@2x" stands before the extension of the fine one.
+/// The file of a picture for a density; "@2x" precedes the extension of the finer one.
 [[nodiscard]] std::string fichierimage(const Table& table, int finesse);
 
 /// The title of a picture.
 [[nodiscard]] std::string titre(const Table& table);
 
-/// Of the racks of 8 letters those are left out whose wanted words all are S behind a word of 7
-/// letters that is no conjugation: the player learns them as the racks of 7.
+/// All wanted words of a rack of 8 letters are a word of 7 letters, not conjugated, with S behind
+/// it. Such a rack is left out: the player learns it with the racks of 7.
 [[nodiscard]] bool pluriels(const Vocabulaire& v, const Selection& souhaites, std::size_t taille);
 
 /// The rows of a table: a rack and its words.

@@ -11,7 +11,7 @@
 
 namespace atelier {
 
-/// What a word must end with: one set of letters for each place, the last place last.
+/// What a word must end with: a set of letters for each of its last places.
 class Condition {
   public:
     /// Reads "." or a run of letters and [..] or [^..] sets; false if a bracket is left open.
@@ -26,7 +26,7 @@ class Condition {
     std::vector<Place> places_;
 };
 
-/// Takes `retrait` off the end of a word, puts `ajout` there, and says what the form is.
+/// Replaces the ending `retrait` of a word by `ajout`; the form that results has these traits.
 struct Regle {
     std::u32string retrait;
     std::string ajout;  ///< capitals
@@ -36,13 +36,13 @@ struct Regle {
 
 class Affixes {
   public:
-    /// Reads the text of an affix file; `chemin` names it in reports. Throws `common::Faute`, with
-    /// the line, for a file that is no UTF-8 affix file with long flags, or that is cut.
+    /// Reads the text of an affix file, which reports call `chemin`. Throws `common::Faute`, with
+    /// the line, for a text that is not a UTF-8 affix file with long flags, or that is cut short.
     Affixes(std::string_view texte, std::string_view chemin);
 
-    /// The suffix rules of a flag of two characters; none for a prefix flag.
+    /// The suffix rules of a flag (two characters); empty for a prefix flag.
     [[nodiscard]] const std::vector<Regle>& suffixes(std::string_view drapeau) const;
-    /// The file defines this flag, as a suffix, as a prefix, or as a mark.
+    /// The file defines this flag: as suffix, prefix or mark.
     [[nodiscard]] bool connait(std::string_view drapeau) const;
 
   private:
@@ -50,10 +50,10 @@ class Affixes {
     std::unordered_map<std::string, std::vector<Regle>> drapeaux_;
 };
 
-/// Flags that mark an entry instead of giving it forms.
-constexpr std::string_view drapeausansforme = "()";  ///< the entry itself is not a form
-constexpr std::string_view drapeaucasse = "||";      ///< lower case kept: a symbol
-constexpr std::string_view drapeauunite = "Um";      ///< a unit of measure, with prefixes
-constexpr std::string_view drapeauunitefixe = "Ui";  ///< a unit that has no plural form
+/// Flags that say something of an entry instead of giving it forms.
+constexpr std::string_view drapeausansforme = "()";  ///< the entry itself is not a word
+constexpr std::string_view drapeaucasse = "||";      ///< a symbol, whose case matters
+constexpr std::string_view drapeauunite = "Um";      ///< a unit of measure that takes prefixes
+constexpr std::string_view drapeauunitefixe = "Ui";  ///< a unit without a plural
 
 }  // namespace atelier

@@ -1,7 +1,7 @@
 #pragma once
 
-// The judgements that no rule gives: words kept, verbs everybody knows, and the ordinary
-// endings of the three kinds of verbs.
+// Decisions that no rule gives: words kept, verbs that everybody uses, and the regular endings of
+// the three kinds of verbs.
 
 #include <span>
 #include <string_view>
@@ -9,14 +9,14 @@
 
 namespace atelier {
 
-/// Words that the lexicon knows in phrases only and that players may put down all the same.
+/// The lexicon has the word only inside phrases, but it is valid.
 [[nodiscard]] bool admisenlocution(std::string_view capitales);
 
-/// Verbs everybody uses, which a thesaurus says too little of.
+/// Everybody uses this verb, although the thesaurus makes it look rare.
 [[nodiscard]] bool verbefrequent(std::string_view capitales);
 
-/// Ordinary endings behind the stem of a verb: of the infinitives in -ER, of the second group, of
-/// the others (which may take any of the first two as well).
+/// The regular endings after the stem of a verb: for infinitives in -ER, for the second group, for
+/// the others (which may also take those of the first two).
 [[nodiscard]] std::span<const std::string_view> terminaisonser();
 [[nodiscard]] std::span<const std::string_view> terminaisonsgroupe2();
 [[nodiscard]] std::span<const std::string_view> terminaisonsautres();

@@ -16,17 +16,17 @@
 
 namespace atelier {
 
-/// Longest word of a board.
+/// Letters of the longest word that fits on the board.
 constexpr std::size_t longueurmax = 15;
-/// Shortest word that the game allows.
+/// Letters of the shortest word that the game allows.
 constexpr std::size_t longueurmin = 2;
 
-/// A word of at most 15 capitals, as a value that sorts and compares fast.
+/// A word of at most 15 capitals, which is fast to sort and compare.
 class Capitales {
   public:
     Capitales() = default;
-    /// Takes a text of characters A to Z. Throws `std::length_error`, with the text, if it is
-    /// longer than a word of a board.
+    /// `texte` consists of A to Z. Throws `std::length_error`, with the text, if it is longer than
+    /// `longueurmax`.
     explicit Capitales(std::string_view texte) {
         if (texte.size() > longueurmax)
             troplong(texte);
@@ -37,7 +37,7 @@ class Capitales {
     [[nodiscard]] std::size_t taille() const { return static_cast<std::size_t>(lettres_.back()); }
     [[nodiscard]] std::string_view texte() const { return {lettres_.data(), taille()}; }
     [[nodiscard]] char operator[](std::size_t i) const { return lettres_[i]; }
-    /// The letters in alphabetical order: the rack of the word.
+    /// The rack of the word: its letters in alphabetical order.
     [[nodiscard]] Capitales triees() const {
         Capitales rangees = *this;
         auto& l = rangees.lettres_;
@@ -48,7 +48,7 @@ class Capitales {
         return rangees;
     }
 
-    /// The letters and the length as two numbers that compare as the letters do.
+    /// The letters and the length as two numbers, which compare as the letters do.
     [[nodiscard]] std::array<std::uint64_t, 2> nombres() const {
         std::array<std::uint64_t, 2> moities{};
         std::memcpy(moities.data(), lettres_.data(), lettres_.size());
@@ -77,14 +77,14 @@ class Capitales {
     std::array<char, longueurmax + 1> lettres_{};  // the last one is the length
 };
 
-/// The capital or capitals of a lower-case letter, without its accent ("é" is E, "œ" is OE);
-/// empty for anything else.
+/// A lower-case letter in capitals, without its accent: "é" gives E, "œ" gives OE. Empty for
+/// anything else.
 [[nodiscard]] std::string_view capitalesde(char32_t lettre);
 
 /// The characters of a UTF-8 text; nothing if it is not UTF-8.
 [[nodiscard]] std::optional<std::u32string> points(std::string_view utf8);
 
-/// A lower-case word in capitals without accents; nothing if it holds anything but letters.
+/// A lower-case word in capitals without accents; nothing if it has anything but letters.
 [[nodiscard]] std::optional<std::string> encapitales(std::u32string_view mot);
 [[nodiscard]] std::optional<std::string> encapitales(std::string_view utf8);
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the lexicon says of a form of a word: tense, persons, gender, number, and the code of a
-// verb.
+// What the lexicon says of a form of a word: tense, persons, gender and number, and for a verb its
+// code.
 
 #include <array>
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace atelier {
 
-/// Tenses and moods of a verb, one bit each: a form may stand for several.
+/// Tenses and moods of a verb, one bit each, since a form may have several.
 enum Temps : std::uint16_t {
     sanstemps = 0,
     infinitif = 1U << 0U,
@@ -26,7 +26,7 @@ enum Temps : std::uint16_t {
     imperatif = 1U << 10U,
 };
 
-/// Persons of a verb, one bit each, and the two forms that stand only before their pronoun.
+/// Persons of a verb, one bit each, and a bit for forms used only before their pronoun.
 enum Personne : std::uint8_t {
     sanspersonne = 0,
     je = 1U << 0U,
@@ -41,38 +41,38 @@ enum Personne : std::uint8_t {
 enum class Genre : std::uint8_t { aucun, masculin, feminin, epicene };
 enum class Nombre : std::uint8_t { aucun, singulier, pluriel, invariable };
 
-/// What a word is.
+/// The part of speech of a word.
 enum class Nature : std::uint8_t { nom, adjectif, verbe, autre };
 
-/// The traits of a form, of a suffix rule or of an entry.
+/// The grammatical traits of a form, a suffix rule or an entry.
 struct Traits {
     std::uint16_t temps = sanstemps;
     std::uint8_t personnes = sanspersonne;
     Genre genre = Genre::aucun;
     Nombre nombre = Nombre::aucun;
 
-    /// Reads one field, "po:ipre" or "is:pl"; false if it says nothing of these traits. Gender and
-    /// number keep what an earlier field said.
+    /// Reads a field such as "po:ipre" or "is:pl"; false if it gives none of these traits. A gender
+    /// or number that an earlier field gave is kept.
     bool lire(std::string_view champ);
-    /// Tenses and persons of both; gender and number of `autre` where this has none.
+    /// The tenses and persons of both, with gender and number of `autre` where these lack them.
     [[nodiscard]] Traits completes(const Traits& autre) const;
 };
 
-/// Number of cells of a full conjugation: three forms without a person, seven tenses of six
-/// persons, three imperatives.
+/// Number of cells in a full conjugation: three forms without a person, seven tenses of six
+/// persons, and three imperatives.
 constexpr std::size_t nombredecases = 3 + 7 * 6 + 3;
 
 /// The cells that a form fills, one bit each.
 [[nodiscard]] std::uint64_t cases(const Traits& traits);
 
-/// Position by position, the code of a verb: "v1_it_q__a".
+/// The code of a verb, such as "v1_it_q__a": each position has its meaning.
 struct CodeVerbe {
     char groupe = '0';  ///< '0' to '3'
     bool transitif = false;
     bool decrit = true;  ///< false where the source leaves the auxiliary open: "v3_i____zz"
 };
 
-/// The code in a value of "po:", or false if it is none.
+/// Reads the code in the value of a "po:" field; false if it is not one.
 bool lirecode(std::string_view valeur, CodeVerbe& code);
 
 }  // namespace atelier

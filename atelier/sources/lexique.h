@@ -1,6 +1,6 @@
 #pragma once
 
-// The words of the lexicon, form by form, with what it says of each.
+// The forms of all words in the lexicon, with what it says of each.
 
 #include <cstdint>
 #include <string>
@@ -15,38 +15,38 @@
 
 namespace atelier {
 
-/// A word as the head of its forms.
+/// The base form of a word, under which a dictionary lists its other forms.
 struct Lemme {
     std::string texte;      ///< lower case, accents kept, UTF-8
     std::string capitales;  ///< any length
     std::uint32_t frequence = 0;
-    std::uint64_t cases = 0;      ///< of the conjugation, as `cases` tells
+    std::uint64_t cases = 0;      ///< cells of the conjugation that its forms fill
     bool participe = false;       ///< has a past participle
     bool participevarie = false;  ///< has a past participle that agrees
 
-    bool injurieux = false;  ///< offends: no list asks it
+    bool injurieux = false;  ///< offensive: no list asks for it
 
-    /// The cells of a full conjugation that the verb lacks.
+    /// The cells of a full conjugation that no form of the verb fills.
     [[nodiscard]] std::uint64_t manquantes() const;
-    /// A verb that lacks a quarter or more of its conjugation.
+    /// The verb lacks a quarter or more of its conjugation.
     [[nodiscard]] bool defectif() const;
-    /// A verb with past participles, none of which agrees.
+    /// The verb has past participles, and none of them agrees.
     [[nodiscard]] bool participesinvariables() const { return participe && !participevarie; }
 };
 
-/// One thing that a form may be.
+/// One way to read a form; a form may have several.
 struct Lecture {
-    std::uint32_t lemme = 0;  ///< place in the lemmas
+    std::uint32_t lemme = 0;  ///< index in the lemmas
     Traits traits;
     Nature nature = Nature::autre;
-    CodeVerbe code;  ///< of a verb only
+    CodeVerbe code;  ///< for a verb only
 
     [[nodiscard]] bool aunnombre(Nombre nombre) const { return traits.nombre == nombre; }
     [[nodiscard]] bool nonverbale() const { return nature != Nature::verbe; }
     [[nodiscard]] bool al(std::uint16_t temps) const {
         return nature == Nature::verbe && (traits.temps & temps) != 0;
     }
-    /// Neither an infinitive nor a participle.
+    /// A form of a verb that is neither an infinitive nor a participle.
     [[nodiscard]] bool finie() const {
         return nature == Nature::verbe &&
                (traits.temps & (infinitif | participepresent | participepasse)) == 0;
@@ -58,17 +58,17 @@ struct Forme {
     Lecture lecture;
 };
 
-/// Every form of 2 to 15 letters that the game may know.
+/// Every form of 2 to 15 letters that may be a word of the game.
 struct Lexique {
     std::vector<Forme> formes;
     std::vector<Lemme> lemmes;
-    std::size_t expansees = 0;  ///< forms made from the entries kept, of any length
+    std::size_t expansees = 0;  ///< number of forms, of any length, made from the entries kept
 };
 
-/// Expands the text of a dictionary (format: hunspell) by its affixes, changed by hand as
-/// `retouches` says. A verb added whose model the dictionary lacks is left out. `chemin` names the
-/// text in reports. Throws `common::Faute`, with the line, for a text that is no dictionary or that
-/// is cut.
+/// Makes all forms from the text of a dictionary (format: hunspell) and its affixes, with the
+/// changes of `retouches`. An added verb is left out if the dictionary lacks the verb that it is
+/// conjugated like. Reports call the text `chemin`. Throws `common::Faute`, with the line, for a
+/// text that is not a dictionary or is cut short.
 [[nodiscard]] Lexique lirelexique(std::string_view texte, std::string_view chemin,
                                   const Affixes& affixes, const Thesaurus& thesaurus,
                                   const Retouches& retouches);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What is changed in the lexicon by hand: entries set aside, words added, words refused.
+// Changes to the lexicon by hand: entries set aside, words added, words refused.
 
 #include <string>
 #include <string_view>
@@ -21,24 +21,24 @@ struct Ajout {
     std::string mot;  ///< lower case, accents kept, UTF-8
     Nature nature = Nature::autre;
     std::vector<Forme> formes;  ///< none for a verb
-    std::string modele;         ///< of a verb: the verb of the lexicon that it is conjugated as
+    std::string modele;         ///< for a verb: the verb of the lexicon that it is conjugated like
 };
 
 class Retouches {
   public:
-    /// Changes nothing.
+    /// No change at all.
     Retouches() = default;
-    /// Reads three texts in the formats that the heads of ecartes.txt, ajouts.txt and exclus.txt
-    /// tell. Throws `common::Faute`, with file and line, for a line of another form.
+    /// Reads three texts; the comments at the top of ecartes.txt, ajouts.txt and exclus.txt
+    /// describe the formats. Throws `common::Faute`, with file and line, for a malformed line.
     Retouches(std::string_view ecartes, std::string_view ajouts, std::string_view exclus);
 
-    /// The entry gives no word of the game.
+    /// The entry is set aside: it gives no word of the game.
     [[nodiscard]] bool ecarte(std::string_view lemme, Nature nature) const;
-    /// The lemma offends: its forms are words that no list asks.
+    /// The lemma is offensive: its forms are words, but no list asks for them.
     [[nodiscard]] bool injurieux(std::string_view lemme) const;
-    /// No player would accept this form of the lemma.
+    /// This form of the lemma is refused: no player would accept it.
     [[nodiscard]] bool refuse(std::string_view lemme, std::string_view capitales) const;
-    /// A word added is conjugated as this verb.
+    /// An added verb is conjugated like this one.
     [[nodiscard]] bool modele(std::string_view lemme) const;
     [[nodiscard]] const std::vector<Ajout>& ajouts() const { return ajouts_; }
 
@@ -51,12 +51,12 @@ class Retouches {
     std::vector<Ajout> ajouts_;
     std::unordered_set<std::string> modeles_;
     std::unordered_set<std::string> injures_;
-    std::unordered_map<std::string, std::vector<std::string>> refuses_;  // forms that stay
+    std::unordered_map<std::string, std::vector<std::string>> refuses_;  // the forms that are kept
 };
 
-/// What ecartes.txt, ajouts.txt and exclus.txt say.
+/// The changes in ecartes.txt, ajouts.txt and exclus.txt.
 [[nodiscard]] const Retouches& retouches();
-/// The same without a word added.
+/// The same without the added words.
 [[nodiscard]] const Retouches& retouchessansajouts();
 
 }  // namespace atelier

@@ -1,6 +1,6 @@
 #pragma once
 
-// The thesaurus, for two things: how common a lemma is, and the synonyms that notes quote.
+// The thesaurus, which tells how common a lemma is, and gives notes their synonyms.
 
 #include <cstdint>
 #include <memory>
@@ -13,22 +13,23 @@ namespace atelier {
 
 class Thesaurus {
   public:
-    /// Without a thesaurus every lemma is rare and has no synonym.
+    /// An empty thesaurus: every lemma is rare and has no synonyms.
     Thesaurus() = default;
-    /// Takes the text of a thesaurus (format: MyThes, UTF-8); `chemin` names it in reports. Throws
-    /// `common::Faute` with the line where the text is broken.
+    /// Reads the text of a thesaurus (format: MyThes, UTF-8), which reports call `chemin`. Throws
+    /// `common::Faute`, with the line, for a malformed text.
     Thesaurus(std::string texte, std::string_view chemin);
 
-    /// How often a lower-case word is given as a synonym, plus how many synonyms it is given;
-    /// 0 for a word that the thesaurus does not know.
+    /// How many times a lower-case word is a synonym of others, plus how many synonyms it has; 0
+    /// for a word that the thesaurus lacks.
     [[nodiscard]] std::uint32_t frequence(std::string_view mot) const;
-    /// The synonyms of a word that are one word of letters each, in the order of the thesaurus.
+    /// The synonyms of a word, in the order of the thesaurus, except those of several words or with
+    /// other signs than letters.
     [[nodiscard]] std::vector<std::string_view> synonymes(std::string_view mot) const;
 
   private:
     struct Fiche {
         std::uint32_t frequence = 0;
-        std::size_t sens = 0;  ///< lines of meanings, from `debut`
+        std::size_t sens = 0;  ///< number of lines of meanings, from `debut` on
         std::size_t debut = 0;
     };
 

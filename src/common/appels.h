@@ -1,8 +1,8 @@
 #pragma once
 
-// The calls by which the real disk reaches the system, one function a call, so that a test can
-// number them, refuse them or end the program at any of them. `disquereel_posix.cpp` has the real
-// ones; a system of another kind gets a source of its own beside it.
+// The system calls that the real disk makes, one function each, so that a test can count them, make
+// one fail, or end the program at any of them. `disquereel_posix.cpp` has the real ones; another
+// kind of system gets its own source beside it.
 
 #include <cstdint>
 #include <filesystem>
@@ -13,20 +13,20 @@
 
 namespace common {
 
-/// An open file, as the system knows it.
+/// The system's handle of an open file.
 using Poignee = std::intptr_t;
 inline constexpr Poignee sanspoignee = -1;
 
-/// How a file is opened. Opening waits for nobody, whatever bears the name.
+/// How a file is opened. Opening never blocks, even where the name is that of a pipe.
 enum class Ouverture : std::uint8_t {
-    Lecture,       ///< one that exists, to read
-    Modification,  ///< one that exists, to read and write
-    Creation       ///< a new one, to read and write; `file_exists` if the name is taken
+    Lecture,       ///< an existing file, to read
+    Modification,  ///< an existing file, to read and write
+    Creation       ///< a new file, to read and write; `file_exists` if the name is taken
 };
 
 enum class Genre : std::uint8_t { Fichier, Dossier, Autre };
 
-/// What the system tells of a file. Two files are the same if `disque` and `numero` are.
+/// What the system knows of a file. Two names with equal `disque` and `numero` lead to one file.
 struct Etat {
     Genre genre = Genre::Autre;
     std::uint64_t disque = 0;
@@ -48,23 +48,23 @@ class Appels {
     /// Reads from where the last reading stopped; `lus` is 0 at the end.
     [[nodiscard]] virtual std::error_code lire(Poignee poignee, std::span<char> tampon,
                                                std::size_t& lus) = 0;
-    /// Writes the first bytes; `ecrits` says how many, which may be fewer than all.
+    /// Writes bytes from the start of `octets`; `ecrits` is how many, which may be fewer than all.
     [[nodiscard]] virtual std::error_code ecrire(Poignee poignee, std::string_view octets,
                                                  std::size_t& ecrits) = 0;
-    /// Returns when the bytes of the file would outlive a power cut.
+    /// Returns once the bytes of the file would survive a power cut.
     [[nodiscard]] virtual std::error_code synchroniser(Poignee poignee) = 0;
-    /// Returns when the names in the folder would.
+    /// Returns once the names in the folder would survive a power cut.
     [[nodiscard]] virtual std::error_code synchroniserdossier(const Chemin& dossier) = 0;
     [[nodiscard]] virtual std::error_code etat(Poignee poignee, Etat& etat) = 0;
-    /// Of what the name leads to, over links.
+    /// Follows links.
     [[nodiscard]] virtual std::error_code etat(const Chemin& chemin, Etat& etat) = 0;
-    /// Where a symbolic link leads, as it stands there; empty for any other file or none.
+    /// The target of a symbolic link, as written in it; empty for any other file and for none.
     [[nodiscard]] virtual std::error_code lien(const Chemin& chemin, Chemin& cible) = 0;
-    /// Gives a new file the owner, as far as may be, and the mode of one that exists.
+    /// Gives a new file the mode of an existing one, and its owner where the system allows it.
     [[nodiscard]] virtual std::error_code copierdroits(const Chemin& modele, Poignee neuf) = 0;
-    /// Gives a file or folder another name, over what bears it.
+    /// Renames a file or folder, replacing what has the new name.
     [[nodiscard]] virtual std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) = 0;
-    /// Gives a file a name that nothing bears; `file_exists` if something does.
+    /// Renames a file; `file_exists` if something has the new name.
     [[nodiscard]] virtual std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) = 0;
     /// Deletes a file or an empty folder.
     [[nodiscard]] virtual std::error_code supprimer(const Chemin& chemin) = 0;
@@ -72,13 +72,13 @@ class Appels {
     /// The names in a folder.
     [[nodiscard]] virtual std::error_code lister(const Chemin& dossier,
                                                  std::vector<Chemin>& noms) = 0;
-    /// Locks a file that is open to be written, until it is closed. `pris` is false if another
-    /// program has it. An error: this disk has no locks.
+    /// Locks a file that is open for writing, until it is closed. `pris` is false if another
+    /// program has locked it. An error means that this disk has no locks.
     [[nodiscard]] virtual std::error_code verrouiller(Poignee poignee, bool& pris) = 0;
 
-    /// A number that no other program of this machine has now.
+    /// A number that no other program running on this machine has.
     [[nodiscard]] virtual std::int64_t programme() = 0;
-    /// Milliseconds of a clock that never goes back.
+    /// Milliseconds on a clock that never goes back.
     [[nodiscard]] virtual std::int64_t maintenant() = 0;
     virtual void attendre(std::int64_t millisecondes) = 0;
 };

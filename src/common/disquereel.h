@@ -3,20 +3,20 @@
 #include <filesystem>
 
 #include "appels.h"
-#include "fichier.h"
+#include "disque.h"
 
 namespace common {
 
-/// Milliseconds that a change waits for another program that has locked the file.
+/// How long a change waits for another program that has locked the file, in milliseconds.
 inline constexpr std::int64_t attentelimite = 5000;
 
-/// The disk of the system. A path of the rules is taken relative to `racine`, with the system's
-/// own separator; the empty root is the working folder. Only regular files are read or written; a
-/// link stays and what it leads to is changed. Every change is a whole new file,
-/// `<name>.<number>.tmp`, that takes the place of the old one.
+/// The disk of the system. Paths of the rules are relative to `racine`, and get the system's own
+/// separator; an empty root is the working folder. Only regular files are read or written. A change
+/// through a link changes what the link leads to. Every change writes a whole new file,
+/// `<name>.<number>.tmp`, which then replaces the old one.
 class DisqueReel : public Disque {
   public:
-    /// `appels` must live as long as the disk and what it gives out.
+    /// `appels` must outlive the disk and the files and locks that it hands out.
     explicit DisqueReel(std::filesystem::path racine = {}, Appels& appels = appelsdusysteme())
         : racine_(std::move(racine)), appels_(&appels) {}
 
@@ -35,7 +35,7 @@ class DisqueReel : public Disque {
     [[nodiscard]] bool existe(std::string_view chemin) override;
     [[nodiscard]] bool estdossier(std::string_view chemin) override;
 
-    /// The system's path of a path of the rules.
+    /// A path of the rules as a path of the system.
     [[nodiscard]] virtual std::filesystem::path systeme(std::string_view chemin) const;
 
   private:

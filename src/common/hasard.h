@@ -5,21 +5,21 @@
 
 namespace common {
 
-/// A source of uniform numbers.
+/// A source of uniform random numbers.
 class Hasard {
   public:
     Hasard() = default;
     Hasard(const Hasard&) = delete;
     Hasard& operator=(const Hasard&) = delete;
     virtual ~Hasard() = default;
-    /// Seeds the source from the clock (seconds since midnight).
+    /// Seeds the source from the time of day, in seconds since midnight.
     virtual void amorcer(std::int32_t secondes) = 0;
     /// A uniform number in [0,1).
     [[nodiscard]] virtual double tirer() = 0;
 };
 
-/// The source that players get. A seed of the clock is mixed with a count of the seedings, so that
-/// two draws within one second differ.
+/// The real source. Each seed is mixed with how many there have been, so that two draws seeded
+/// within one second differ.
 class HasardReel : public Hasard {
   public:
     void amorcer(std::int32_t secondes) override {

@@ -5,7 +5,7 @@
 
 namespace common {
 
-/// A moment of the system's clock, local time.
+/// A date and time of day, in local time.
 struct Instant {
     int annee = 2000;
     int mois = 1;  ///< 1 to 12

@@ -14,16 +14,16 @@ inline constexpr std::string_view dossierlistes = "listes";
 
 /// `listes\<fichier>`
 [[nodiscard]] std::string cheminliste(std::string_view fichier);
-/// The name or path of a list without the suffix of a part ("_" and one character before ".txt").
+/// The name or path of a list without the suffix of a part: "_" and a character before ".txt".
 [[nodiscard]] std::string sanspartie(std::string_view fichier);
-/// `<util>\rev-<fichier>`; the parts of a list share the file of the whole list.
+/// `<util>\rev-<fichier>`. The parts of a list share the revision file of the whole list.
 [[nodiscard]] std::string cheminrevision(std::string_view util, std::string_view fichier);
-/// What follows the folder in the path of a list.
+/// The path of a list without its folder.
 [[nodiscard]] std::string nomdeliste(std::string_view chemin);
-/// What follows `<util>\rev-` in the path of a revision file.
+/// The path of a revision file without `<util>\rev-`.
 [[nodiscard]] std::string nomderevision(std::string_view chemin, std::string_view util);
 
-/// A list of words, one a line, that decides a mark at correction.
+/// A list of words, one a line, each of which gets a mark at the correction.
 struct ListeReference {
     std::string_view fichier;  ///< name in the folder of the lists
     std::size_t places = 0;    ///< most words that it may hold
@@ -40,7 +40,7 @@ inline constexpr ListeReference listeinv{"inv.txt", 1001};
 inline constexpr std::array listesreference{listeods5, listeods6, listeods7,
                                             listevbi,  listevbt,  listeinv};
 
-/// Notes on words, beside the program: a line for the word, a line for its note.
+/// Notes on words, beside the program: the word on one line, its note on the next.
 inline constexpr std::string_view fichierinfosouris = "infosouris.txt";
 inline constexpr std::size_t lignesinfosouris = 500001;
 
@@ -50,7 +50,7 @@ inline constexpr int tiragesmulti = 10;
 
 /// Most rows of a list with one solution a rack.
 inline constexpr std::size_t rangeesform1 = 15000;
-/// Most rows of a list with several solutions a rack, from which a sample can be drawn.
+/// Most rows of a list with several solutions a rack, if samples are to be drawn from it.
 inline constexpr std::size_t rangeesmulti = 8001;
 /// Most solutions of a rack.
 inline constexpr std::size_t solutionsmulti = 5;

@@ -1,8 +1,7 @@
 #pragma once
 
-// Numbers of the rules: the numeric value of a text, checked 16-bit integers,
-// and the few number formats that screen and files use. The decimal separator
-// is the point everywhere.
+// Numbers: the numeric value of a text, checked 16-bit integers, and the number formats of screen
+// and files. The decimal separator is always a point.
 
 #include <cstdint>
 #include <string>
@@ -10,29 +9,29 @@
 
 namespace common {
 
-/// Numeric value of a text: the longest number that it begins with (blanks, an optional sign,
-/// digits, at most one point, no exponent); 0 if it begins with none. Never infinite.
+/// Numeric value of a text: the longest number at its start (blanks, an optional sign, digits, at
+/// most one point, no exponent), or 0 if there is none. Never infinite.
 [[nodiscard]] double valeur(std::string_view texte);
 
-/// Nearest integer, a tie going to the even one, as a 16-bit integer.
-/// Throws `Faute` beginning with `quoi` outside -32768..32767.
+/// The nearest integer, a tie going to the even one. Throws `Faute`, whose report begins with
+/// `quoi`, outside -32768..32767.
 [[nodiscard]] std::int16_t entier16(double nombre, std::string_view quoi);
 
-/// The same check for an integer that is already whole.
+/// The same check, for an integer.
 [[nodiscard]] std::int16_t entier16(std::int64_t nombre, std::string_view quoi);
 
-/// A count of seconds as minutes, ":", seconds, each in at least two digits, minutes not capped.
-/// A negative count gives "00:00".
+/// A duration as "mm:ss", each in at least two digits; an hour or more stays in minutes. A negative
+/// one gives "00:00".
 [[nodiscard]] std::string CalcDuree(std::int16_t secondes);
 
-/// A number as text in at most 15 significant digits, without trailing zeros.
+/// A number in at most 15 significant digits, without trailing zeros.
 [[nodiscard]] std::string textenombre(double nombre);
 
-/// A number with a fixed number of decimals ("#0.000" is 3, "#0.0" is 1; 0 to 59, none without the
-/// point), to the nearest on the exact decimal value of the number, a tie away from zero.
+/// A number with 0 to 59 decimals, and no point for 0. Rounds the exact value of the number to the
+/// nearest, a tie away from zero.
 [[nodiscard]] std::string decimales(double nombre, int nombrededecimales);
 
-/// A number in at least two digits, behind its sign if it is negative.
+/// A number in at least two digits, not counting the sign of a negative one.
 [[nodiscard]] std::string deuxchiffres(std::int64_t nombre);
 
 }  // namespace common

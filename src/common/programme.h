@@ -7,9 +7,9 @@
 
 namespace common {
 
-/// What stands before a file's name, as a path of the rules, to find it in the folder of the
-/// executable: that folder and a backslash. Nothing where it is the working folder `courant`, or
-/// where no file can be made: the working folder then serves.
+/// The prefix that turns a file's name into its path, as a path of the rules, in the folder of the
+/// executable: that folder and a backslash. Empty, which means the working folder, if that is the
+/// folder (`courant`) or if no file can be created there.
 [[nodiscard]] std::string dossierprogramme(Appels& appels, const std::filesystem::path& executable,
                                            const std::filesystem::path& courant);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// How the real disk holds and replaces files, in the calls of the system.
+// How the real disk locks and replaces files by system calls.
 
 #include <filesystem>
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace common {
 
-/// An open file that closes itself, and with that gives up its lock.
+/// An open file, closed on destruction; closing it releases its lock.
 class Descripteur {
   public:
     explicit Descripteur(Appels& appels) : appels_(appels) {}
@@ -19,11 +19,11 @@ class Descripteur {
     Descripteur& operator=(const Descripteur&) = delete;
     ~Descripteur() { fermer(); }
 
-    /// Opens, closing what was open. An error if that is no regular file.
+    /// Opens a file, after closing the one that was open. Fails for anything but a regular file.
     [[nodiscard]] std::error_code ouvrir(const std::filesystem::path& chemin, Ouverture mode);
     void fermer();
     [[nodiscard]] Poignee poignee() const { return poignee_; }
-    /// The open file is the one that bears the name by now.
+    /// The name still leads to the open file.
     [[nodiscard]] bool nomme(const std::filesystem::path& chemin) const;
 
   private:
@@ -31,17 +31,17 @@ class Descripteur {
     Poignee poignee_ = sanspoignee;
 };
 
-/// Where the bytes of a file lie, at the end of its links.
+/// Follows the links of a path: `chemin` becomes the path of the file itself.
 [[nodiscard]] std::error_code destination(Appels& appels, std::filesystem::path& chemin);
 
-/// Opens a file, and keeps the other programs from it until it is closed. Waits for one that has
-/// it, up to the limit: `Ennui::Retenu`.
+/// Opens an existing file and locks it until it is closed. Waits for a program that has locked it,
+/// up to `attentelimite`: `Ennui::Retenu`. Unlocked where the file system has no locks.
 [[nodiscard]] std::error_code tenir(Appels& appels, const std::filesystem::path& chemin,
                                     Descripteur& tenu);
 
-/// Makes these bytes the file: one that exists is replaced and keeps its mode, unless `neuf`, which
-/// answers `file_exists`. On failure nothing has changed. Takes away what programs that are gone
-/// have left of this file.
+/// Makes `octets` the whole content of a file. An existing file is replaced and its mode kept; with
+/// `neuf` it is an error, `file_exists`. On failure nothing has changed. Removes temporary files
+/// that programs which are no longer running have left of this file.
 [[nodiscard]] std::error_code poser(Appels& appels, const std::filesystem::path& cible,
                                     std::string_view octets, bool neuf = false);
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Texts are UTF-8 in memory and Windows-1252 on disk. Positions and lengths of
-// the rules count characters, never bytes.
+// Texts are UTF-8 in memory and Windows-1252 on disk. Positions and lengths count characters, never
+// bytes.
 
 #include <cstddef>
 #include <optional>
@@ -14,7 +14,7 @@ namespace common {
 /// Number of characters of a UTF-8 text.
 [[nodiscard]] std::size_t longueur(std::string_view texte);
 
-/// `nombre` characters from position `position` (1 is the first); fewer if the text ends before.
+/// `nombre` characters from `position` on (1 is the first); fewer if the text is too short.
 [[nodiscard]] std::string milieu(std::string_view texte, std::size_t position,
                                  std::size_t nombre = std::string::npos);
 /// The first `nombre` characters, or the whole text if it is shorter.
@@ -23,21 +23,21 @@ namespace common {
 [[nodiscard]] std::string fin(std::string_view texte, std::size_t nombre);
 /// The text without its last `nombre` characters.
 [[nodiscard]] std::string sansfin(std::string_view texte, std::size_t nombre);
-/// The characters of the text, one text each.
+/// The characters of the text, each as a text of its own.
 [[nodiscard]] std::vector<std::string> caracteres(std::string_view texte);
 
-/// The text in lower case, accented letters of the Western code page included.
+/// The text in lower case, including the accented letters of Windows-1252.
 [[nodiscard]] std::string minuscules(std::string_view texte);
 
-/// The first character of a UTF-8 text (0 for the empty text); a malformed byte counts as itself.
+/// The first character of a UTF-8 text, 0 for an empty one; a malformed byte stands for itself.
 [[nodiscard]] char32_t premier(std::string_view texte);
 /// One character as UTF-8.
 [[nodiscard]] std::string utf8(char32_t caractere);
 
-/// Number of a character in Windows-1252; nothing if the code page does not have it.
-/// The five undefined bytes stand for U+0081, U+008D, U+008F, U+0090 and U+009D.
+/// The code of a character in Windows-1252; nothing if the code page lacks it. The five undefined
+/// codes stand for U+0081, U+008D, U+008F, U+0090 and U+009D.
 [[nodiscard]] std::optional<unsigned char> code1252(char32_t caractere);
-/// The character that bears a number of Windows-1252.
+/// The character of a code in Windows-1252.
 [[nodiscard]] char32_t caractere1252(unsigned char code);
 
 /// Bytes of Windows-1252 to UTF-8, without loss.

@@ -1,6 +1,6 @@
 #pragma once
 
-// The six background colours that a player can choose from, by name.
+// The six background colours that a player can choose, by name.
 
 #include <span>
 #include <string_view>
@@ -17,10 +17,10 @@ struct Couleurdufond {
 
 using common::couleurpardefaut;
 
-/// The colours, in the order in which they are offered.
+/// The colours, in the order of the options form.
 [[nodiscard]] std::span<const Couleurdufond> couleursdufond();
 
-/// The colour of a name; any other text, the empty one included, gives that of "Par défaut".
+/// The colour with a name; for any other text, even an empty one, that of "Par défaut".
 [[nodiscard]] ui::Couleur couleurdufond(std::string_view nom);
 
 }  // namespace profiles

@@ -14,10 +14,10 @@ class Form2 : public ui::Formulaire {
     Form2(ui::Plateforme& plateforme, common::VariablesForm3& form3, ui::FaceMenu& menu,
           ui::FaceSerie& form1);
 
-    /// Reads the users and wears the colour of the last one. A file that is missing or cannot be
-    /// read ends the load there, silently.
+    /// Reads the users and takes the background colour of the last one. Stops without a word at a
+    /// file that is missing or cannot be read.
     void charger();
-    /// The farewell: a text about the author, and the end of the program after a count-down.
+    /// Shows a text about the author, then ends the program after a countdown.
     void apropos();
 
   private:

@@ -1,7 +1,7 @@
 #pragma once
 
-// `hist.dat`: one user's finished runs, one record a line, oldest first, never trimmed. The layout
-// of a record is described in docs/formats.md.
+// `hist.dat`: the finished lists of a user, one record a line, oldest first; nothing is ever
+// removed. docs/formats.md describes a record.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,42 +15,42 @@
 
 namespace profiles {
 
-/// Most items of the file that a reader keeps.
+/// Most records that a reader keeps.
 inline constexpr std::size_t maximumhist = 30001;
-/// Characters of the date and time of a record.
+/// Number of characters of the date and time of a record.
 inline constexpr std::size_t largeurdate = 18;
 
 /// `<util>\hist.dat`
 [[nodiscard]] std::string cheminhist(std::string_view util);
 
-/// Percent of a list, one decimal at most, from its rows at the start (not 0) and the wrong ones.
+/// Percentage of right rows, to one decimal, from the rows at the start (not 0) and the wrong ones.
 [[nodiscard]] double pourcentage(std::int64_t nbmotsinitial, std::int64_t nbfautes);
 
-/// The name that a record bears: the list's file without its folder, or for the mode "R" the
-/// revision file without `<util>\rev-`.
+/// The name in a record: the file of the list without its folder, or in mode "R" the revision file
+/// without `<util>\rev-`.
 [[nodiscard]] std::string nomcourt(std::string_view fich, std::string_view toue,
                                    std::string_view util);
 
-/// A record: date, time, percent, the mode unless it is empty (a part of a list), short name.
+/// A record: date, time, percentage, mode (left out if empty: a part of a list), short name.
 [[nodiscard]] std::string enregistrement(const common::Instant& quand, double pourc,
                                          std::string_view toue, std::string_view nom);
 
-/// Appends a record to a user's file in one write. Throws `Faute`, whose report says the record.
+/// Appends a record to a user's file in one step. Throws `Faute`, whose report quotes the record.
 void ajouterhist(common::Disque& disque, std::string_view util, const std::string& record);
 
-/// What the scan of a record finds, inside the record.
+/// What `balayer` finds: views of the record.
 struct Balayage {
-    std::string_view pourcentage;  ///< from position 22 up to the "%", left out
-    std::string_view mode;         ///< one character, or none where the record is cut
+    std::string_view pourcentage;  ///< from position 22 to before the "%"
+    std::string_view mode;         ///< one character; empty if the record is cut short
 };
 
-/// Scans a record, as bytes of Windows-1252. Nothing for one without a "%" from position 21 on,
-/// which no reader takes up.
+/// Finds percentage and mode in a record, as bytes of Windows-1252. Nothing for a record without a
+/// "%" from position 21 on, which every reader skips.
 [[nodiscard]] std::optional<Balayage> balayer(std::string_view record);
 
-/// Gives every item of a user's file to `voir`, oldest first, as bytes of Windows-1252, in one
-/// pass; `voir` says whether it keeps the item. Throws `Faute` if the file is missing or more than
-/// `maximumhist` items are kept.
+/// Calls `voir` with each record of a user's file, oldest first, as bytes of Windows-1252; `voir`
+/// returns whether it keeps the record. Throws `Faute` if the file is missing or more than
+/// `maximumhist` records are kept.
 void parcourirhist(common::Disque& disque, std::string_view util,
                    const std::function<bool(std::string_view)>& voir);
 

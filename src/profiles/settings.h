@@ -1,7 +1,7 @@
 #pragma once
 
-// `settings.dat`: one user's options, seven lines in a fixed order, each one item. The format is
-// described in docs/formats.md.
+// `settings.dat`: the options of a user, seven items in a fixed order, one a line. docs/formats.md
+// describes the format.
 
 #include <cstdint>
 #include <functional>
@@ -15,14 +15,14 @@
 
 namespace profiles {
 
-/// What `settings.dat` holds; as it stands here, what a new user starts with.
+/// The content of `settings.dat`, with the defaults that a new user starts with.
 struct Reglages {
     std::int16_t seuilch = 95;
     std::int16_t seuilcb = 80;
     std::int16_t tempsparmot = 8;
     std::int16_t nbechantillon = 5;
     std::int16_t son = 1;
-    /// Nothing: the file stops before it.
+    /// Nothing if the file ends before it.
     std::optional<std::string> couleur{common::couleurpardefaut};
     std::int16_t saisieassistee = 1;
 };
@@ -31,12 +31,12 @@ struct Reglages {
 [[nodiscard]] std::string cheminsettings(std::string_view util);
 
 /// The options in the bytes of the file `chemin`. A text that begins with no number counts as 0;
-/// without a seventh item the assisted entry is on. Throws `Faute` for fewer than five items and
-/// for a value past 16 bits.
+/// without a seventh item, assisted entry is on. Throws `Faute` for fewer than five items and for a
+/// value that does not fit in 16 bits.
 [[nodiscard]] Reglages reglages(std::string_view octets, std::string_view chemin);
 
-/// The sixth item, the colour name, and nothing else of the file; nothing if there is none, or if
-/// the bytes are far more than seven lines (`limiteligne`).
+/// Only the sixth item, the name of the colour; nothing if there is none, or if the file is far too
+/// long for seven lines (over `limiteligne` bytes).
 [[nodiscard]] std::optional<std::string> couleurreglee(std::string_view octets);
 
 /// The lines of the file, UTF-8.
@@ -45,12 +45,12 @@ struct Reglages {
 /// Reads a user's file. Throws `Faute`.
 [[nodiscard]] Reglages liresettings(common::Disque& disque, std::string_view util);
 
-/// Gives the options to the program in the order of the file: the first five, then `couleur` is
-/// called with the colour name if there is one, then the assisted entry.
+/// Sets the variables of the program in the order of the file: the first five; then calls `couleur`
+/// with the name of the colour, if there is one; then the assisted entry.
 void appliquer(const Reglages& reglages, common::VariablesDialog2& dialog2,
                const std::function<void(const std::string&)>& couleur);
 
-/// Rewrites a user's file from the variables and a colour name. Throws `Faute`.
+/// Rewrites a user's file from the variables and the name of a colour. Throws `Faute`.
 void ecriresettings(common::Disque& disque, std::string_view util,
                     const common::VariablesDialog2& dialog2, std::string_view couleur);
 

@@ -1,7 +1,5 @@
 #include "rangees.h"
 
-#include <algorithm>
-
 #include "faute.h"
 #include "texte.h"
 
@@ -33,14 +31,8 @@ void Rangees::lire(common::Disque& disque, std::string_view chemin) {
     rangees_.clear();
     octets_ = std::make_shared<const std::string>(
         common::liretexte(disque, chemin, action, common::limiterangee));
-    const std::string_view tout = *octets_;
-    for (std::size_t i = 0; i < tout.size();) {
-        const auto numero = rangees_.size() + 1;
-        const auto saut = std::min(tout.find('\n', i), tout.size());
-        auto ligne = tout.substr(i, saut - i);
-        if (!ligne.empty() && ligne.back() == '\r')
-            ligne.remove_suffix(1);
-        i = saut + 1;
+    // The lines are views of the bytes.
+    common::Lignes(*octets_).chaque([&](std::string_view ligne, std::size_t numero) {
         const auto place = separateur(ligne, chemin, numero);
         if (numero > limite_) {
             mauvaise(chemin, numero,
@@ -48,7 +40,7 @@ void Rangees::lire(common::Disque& disque, std::string_view chemin) {
         }
         rangees_.push_back({ligne.substr(0, place), ligne.substr(place + 1),
                             static_cast<std::uint32_t>(numero), 0});
-    }
+    });
     // One byte of Windows-1252 is one character.
     longueurdernier_ = rangees_.empty() ? 0 : rangees_.back().tirage.size();
 }

@@ -17,7 +17,7 @@ class Formulaire;
 class Controle;
 class Minuterie;
 
-/// One handler for something that happens. Calling an event without a handler does nothing.
+/// The handler of an event, if any. An empty one must not be called: use `declencher`.
 template <class... Arguments>
 using Evenement = std::function<void(Arguments...)>;
 
@@ -54,7 +54,7 @@ void survenir(const Objet& objet, const E& evenement, A&&... arguments) {
     evenement(std::forward<A>(arguments)...);
 }
 
-/// A key that goes down; a handler may swallow it.
+/// A key being pressed; a handler may swallow it.
 struct Touche {
     int code = 0;  ///< virtual key code
     bool maj = false;
@@ -62,7 +62,7 @@ struct Touche {
     bool avalee = false;
 };
 
-/// The properties of a control, as its view is told of them.
+/// Names a property of a control, to tell its view which one has changed.
 enum class Champ : std::uint8_t {
     Texte,
     Infobulle,
@@ -93,7 +93,7 @@ enum class Champ : std::uint8_t {
     Description
 };
 
-/// What draws a control; the model tells it what has changed.
+/// Draws a control; the model tells it what has changed.
 class VueControle {
   public:
     VueControle() = default;
@@ -103,7 +103,7 @@ class VueControle {
     virtual void modifie(Champ champ) = 0;
 };
 
-/// Place and size in twips (1440 an inch).
+/// Position and size in twips, 1440 to the inch.
 struct Cadrage {
     int gauche = 0;
     int haut = 0;
@@ -111,8 +111,8 @@ struct Cadrage {
     int hauteur = 0;
 };
 
-/// A control of a form: its properties, its events, and for a text box the text being edited.
-/// Controls live as long as their form and are known to it by design name and index.
+/// A control of a form: its properties, its events, and for a text box the editing of its text.
+/// A control lives as long as its form, which finds it by design name and index.
 class Controle : public Observe<Champ> {
   public:
     template <class T>
@@ -125,18 +125,18 @@ class Controle : public Observe<Champ> {
 
     [[nodiscard]] Formulaire& formulaire() const { return formulaire_; }
     [[nodiscard]] Genre genre() const { return genre_; }
-    /// Design name, without index.
+    /// Design name, without the index.
     [[nodiscard]] const std::string& nom() const { return nom_; }
-    /// Index in its control array, -1 for a control that stands alone.
+    /// Index in its control array, -1 for a control outside any array.
     [[nodiscard]] int index() const { return index_; }
     /// "tirage(3)" or "corriger".
     [[nodiscard]] std::string nomcomplet() const;
 
     P<std::string> texte{*this, Champ::Texte, {}};
     P<std::string> infobulle{*this, Champ::Infobulle, {}};
-    /// Name for assistive technologies, in French; a view falls back on the text.
+    /// Name for assistive technologies, in French; if empty, the view uses the text.
     P<std::string> accessible{*this, Champ::Accessible, {}};
-    /// What its colours say, for assistive technologies, in French; empty where they say nothing.
+    /// What the colours mean, for assistive technologies, in French; empty if they mean nothing.
     P<std::string> description{*this, Champ::Description, {}};
     P<Couleur> fond{*this, Champ::Fond, Couleur::bouton()};
     P<bool> fondu{*this, Champ::Fondu, false};
@@ -146,7 +146,7 @@ class Controle : public Observe<Champ> {
     P<bool> verrou{*this, Champ::Verrou, false};
     P<bool> coche{*this, Champ::Coche, false};
     P<Pointeur> pointeur{*this, Champ::Pointeur, Pointeur::Normal};
-    P<std::string> police{*this, Champ::Police, {}};  ///< family; empty: the program's own
+    P<std::string> police{*this, Champ::Police, {}};  ///< family; empty: that of the program
     P<double> taille{*this, Champ::Taille, 10};       ///< points
     P<bool> gras{*this, Champ::Gras, false};
     P<bool> italique{*this, Champ::Italique, false};
@@ -159,28 +159,29 @@ class Controle : public Observe<Champ> {
     P<int> largeur{*this, Champ::Largeur, 0};
     P<int> hauteur{*this, Champ::Hauteur, 0};
     P<std::vector<std::string>> choix{*this, Champ::Choix, {}};  ///< entries of a combo box
-    /// The user may cut from the box and paste into it (a locked box refuses in any case).
+    /// The user may cut from the box and paste into it, unless it is locked.
     bool pressepapiers = true;
-    /// A text box of several lines; its keys and its clipboard are the view's own affair.
+    /// A text box of several lines; its view handles keys and clipboard by itself.
     bool multiligne = false;
-    /// Such a box shows its vertical scroll bar also where the text fits.
+    /// A box of several lines always shows its vertical scroll bar, even if the text fits.
     bool ascenseur = false;
-    /// A click or Tab can give the control the focus (buttons, boxes, check boxes, lists).
+    /// A click or Tab can give it the focus: buttons, boxes, check boxes, combo boxes.
     bool focalisable = false;
 
     void placer(const Cadrage& cadre);
     /// Brings the control in front of the others.
     void premierplan();
-    /// Controls of a higher number lie in front of those of a lower one; among those of one number,
-    /// the later made in front.
+    /// A control with a higher number lies in front of one with a lower number; of two with the
+    /// same number, the one created later lies in front.
     [[nodiscard]] int plan() const { return plan_; }
 
     Evenement<> clic;
     Evenement<> doubleclic;
-    Evenement<> entree;  ///< the focus has come
-    Evenement<> sortie;  ///< the focus is leaving
+    Evenement<> entree;  ///< the control has got the focus
+    Evenement<> sortie;  ///< the control is losing the focus
     Evenement<Touche&> toucheenfoncee;
-    /// The character's Western code-page number; the handler may change it, or set 0 to drop it.
+    /// The typed character's code in Windows-1252; the handler may change it, or set it to 0 to
+    /// drop the character.
     Evenement<int&> caractere;
     Evenement<int> toucherelachee;
     Evenement<> survol;   ///< the mouse passes over
@@ -188,21 +189,22 @@ class Controle : public Observe<Champ> {
     Evenement<> change;   ///< the text has changed, by the user or by the program
     Evenement<> repeint;  ///< the colour of the text or of the background has changed
 
-    // Editing of a text box, in characters. The caret stands between 0 and the text's length.
+    // Editing of a text box. Positions count characters; the caret runs from 0 to the text's
+    // length.
     [[nodiscard]] std::size_t curseur() const { return curseur_; }
     [[nodiscard]] std::size_t ancre() const { return ancre_; }
     [[nodiscard]] std::size_t selection() const;
     [[nodiscard]] std::string texteselectionne() const;
     void selectionner(std::size_t ancre, std::size_t curseur);
     void toutselectionner();
-    /// Puts a text in the place of the selection, as typing does.
+    /// Replaces the selection by a text, as typing does.
     void inserer(std::string_view caracteres);
-    /// Holds characters that were let through back, for `deposer` to put them in at once.
+    /// Collects accepted characters, which `deposer` then inserts all at once.
     void amasser(std::string_view caracteres) { amas_ += caracteres; }
     void deposer();
-    /// What comes next takes the place of the whole text, which may be empty.
+    /// The next character typed will replace the whole text, which may be empty.
     [[nodiscard]] bool remplacetout() const { return amas_.empty() && selection() == longueur_; }
-    /// Backspace (`avant`) or Delete: takes out the selection, or one character.
+    /// Backspace (`avant`) or Delete: removes the selection, or else one character.
     void effacer(bool avant);
 
     /// The view, if there is one. It is not owned.
@@ -220,17 +222,17 @@ class Controle : public Observe<Champ> {
 
     Formulaire& formulaire_;
     std::string nom_;
-    std::string amas_;          ///< characters held back
-    std::size_t longueur_ = 0;  ///< of the text, to tell a shortened one
+    std::string amas_;          ///< collected characters
+    std::size_t longueur_ = 0;  ///< of the text, to notice that it has become shorter
     std::size_t curseur_ = 0;
     std::size_t ancre_ = 0;
     int index_;
     int plan_;
     Genre genre_;
-    bool saisie_ = false;  ///< the text is being written by an edit that sets the caret itself
+    bool saisie_ = false;  ///< an edit, which sets the caret itself, is writing the text
 };
 
-/// A timer of one second. Setting `actif` starts a fresh second.
+/// A timer that ticks every second. Setting `actif` starts a new second.
 class Minuterie final : public Observe<bool> {
   public:
     Minuterie(Formulaire& formulaire, std::string nom)
@@ -242,7 +244,7 @@ class Minuterie final : public Observe<bool> {
     [[nodiscard]] const std::string& nom() const { return nom_; }
     Propriete<bool, bool> actif{*this, true, false};
     Evenement<> tic;
-    /// Told of each start and stop; set by the platform.
+    /// Called at each start and stop; set by the platform.
     std::function<void(Minuterie&)> surchangement;
     void modifie(bool /*champ*/) override {
         if (surchangement)

@@ -15,21 +15,21 @@
 
 namespace ui {
 
-/// The properties of a form, as its view is told of them.
+/// Names a property of a form, to tell its view which one has changed.
 enum class ChampFormulaire : std::uint8_t {
     Texte,
     Fond,
     Pointeur,
     Visible,
-    Montre,  ///< asked for, shown already or not
+    Montre,  ///< `montrer` was called, whether or not the form was visible
     Devant,
     Largeur,
     Hauteur,
-    Focus,  ///< another control has it, or none
+    Focus,  ///< another control has got it, or none
     Menu    ///< a pop-up menu was opened or closed
 };
 
-/// What draws a form.
+/// Draws a form.
 class VueFormulaire {
   public:
     VueFormulaire() = default;
@@ -37,19 +37,19 @@ class VueFormulaire {
     VueFormulaire& operator=(const VueFormulaire&) = delete;
     virtual ~VueFormulaire() = default;
     virtual void modifie(ChampFormulaire champ) = 0;
-    /// The form is being destroyed: nothing of it may be touched any more.
+    /// The form is being destroyed: the view must not use it any more.
     virtual void adieu() = 0;
 };
 
-/// A pop-up menu: entries in order, each a control of genre `Entree`.
+/// A pop-up menu: its entries in order, controls of `Genre::Entree`.
 struct Menu {
     std::string nom;
     std::vector<Controle*> entrees;
 };
 
-/// A form: its controls, timers and menus, the focus, the keys and the default button. The model
-/// is the truth; a view draws it and reports what the user does through the second half of this
-/// class. Reports run handlers, so they belong inside `Plateforme::executer`.
+/// A form: its controls, timers and menus, the focus, the keys and the default button. All state is
+/// here. A view draws it, and reports what the user does through the second half of this class.
+/// Reports run handlers, so they are made inside `Plateforme::executer`.
 class Formulaire : public Observe<ChampFormulaire> {
   public:
     template <class T>
@@ -71,27 +71,27 @@ class Formulaire : public Observe<ChampFormulaire> {
     P<int> largeur{*this, ChampFormulaire::Largeur, 0};     ///< of the design, in twips
     P<int> hauteur{*this, ChampFormulaire::Hauteur, 0};
 
-    /// The form sees a key before the control that has the focus, or without any.
+    /// Called before the handler of the control that has the focus, and when no control has it.
     Evenement<Touche&> toucheenfoncee;
-    /// The close box; without a handler it hides the form.
+    /// The close box was clicked; without a handler, that hides the form.
     Evenement<> fermeture;
     /// Another window has come in front.
     Evenement<> desactivation;
 
-    /// Shows the form, or brings it back in front of the others if it is shown.
+    /// Shows the form, or brings it to the front if it is already visible.
     void montrer();
 
-    /// Makes a control. Those made later lie in front.
+    /// Creates a control, in front of those created before.
     Controle& ajouter(Genre genre, std::string_view nomducontrole, int index = -1);
-    /// Makes a control with its text and its place; a label lets the form show through.
+    /// Creates a control with its text and position; a label gets a transparent background.
     Controle& poser(Genre genre, std::string_view nomducontrole, int index,
                     std::string_view libelle, const Cadrage& cadre);
     Minuterie& ajouterminuterie(std::string_view nomdelaminuterie);
     Menu& ajoutermenu(std::string_view nomdumenu);
-    /// The control of a design name and index (-1: none); null if there is none.
+    /// The control with a design name and index (-1: without index); null if there is none.
     [[nodiscard]] Controle* trouver(std::string_view nomducontrole, int index = -1) const;
-    /// The same for a name that the form is known to have. Throws `std::out_of_range`, with the
-    /// name, if it has not.
+    /// The same, for a control that must exist. Throws `std::out_of_range`, with the name, if it
+    /// does not.
     [[nodiscard]] Controle& controle(std::string_view nomducontrole, int index = -1) const;
     [[nodiscard]] const std::vector<std::unique_ptr<Controle>>& controles() const {
         return controles_;
@@ -99,12 +99,12 @@ class Formulaire : public Observe<ChampFormulaire> {
     [[nodiscard]] const std::vector<std::unique_ptr<Minuterie>>& minuteries() const {
         return minuteries_;
     }
-    /// Told of each timer that is made from now on; set by whoever drives them.
+    /// Called for each timer created from now on; set by whoever drives the timers.
     std::function<void(Minuterie&)> surminuterie;
 
-    /// How often a control was brought to the front: the `plan` of the one in front.
+    /// The highest `plan` of a control: how often one was brought to the front.
     [[nodiscard]] int plan() const { return plan_; }
-    /// For a control that comes to the front.
+    /// A new highest `plan`, for a control that comes to the front.
     [[nodiscard]] int nouveauplan() { return ++plan_; }
 
     /// The controls that Tab goes through, in order.
@@ -112,16 +112,17 @@ class Formulaire : public Observe<ChampFormulaire> {
     [[nodiscard]] const std::vector<Controle*>& tabulation() const { return ordre_; }
 
     [[nodiscard]] Controle* focus() const { return focus_; }
-    /// Gives the focus: nothing if the control has it; otherwise the old one's `sortie` runs, then
-    /// the new one's `entree`. A hidden or disabled control leaves it with nobody.
+    /// Gives a control the focus. Does nothing if it has it. Otherwise calls `sortie` of the
+    /// control that had it, then `entree` of this one. A hidden or disabled control does not get
+    /// it; then no control has it.
     void donnerfocus(Controle& controle);
-    /// The control cannot keep the focus; Tab will go on from its place.
+    /// The control cannot keep the focus; the next Tab starts from its position.
     void perdrefocus(Controle& controle);
 
     [[nodiscard]] Controle* defaut() const { return defaut_; }
-    /// The button that Enter clicks from a box.
+    /// Sets the default button: the one that Enter clicks from a box.
     void mettredefaut(Controle& bouton) { defaut_ = &bouton; }
-    /// Enter clicks no button from a box.
+    /// Removes the default button.
     void sansdefaut() { defaut_ = nullptr; }
 
     void ouvrirmenu(Menu& menu);
@@ -129,24 +130,24 @@ class Formulaire : public Observe<ChampFormulaire> {
 
     // What the user does, reported by a view or by the bench.
 
-    /// A control that a click can reach: shown and enabled.
+    /// The control can be clicked: it is visible and enabled.
     [[nodiscard]] static bool accessible(const Controle& controle);
-    /// The user moves the focus, by mouse or by a key of the system.
+    /// The user moves the focus with the mouse or with a key of the system.
     void focaliser(Controle& controle);
     void cliquer(Controle& controle);
     void doublecliquer(Controle& controle);
-    /// A key goes down, with the character that it types, if any.
+    /// A key is pressed, with the character that it types, if any.
     void enfoncer(Touche touche, std::optional<char32_t> caractere = std::nullopt);
     void relacher(int code);
     void tabuler(bool enarriere);
-    /// Pastes into the control that has the focus. Each character goes through `caractere` as if it
-    /// were typed; what they let through is written at once, and refusals make one beep in all.
+    /// Pastes into the control that has the focus. `caractere` is called for each character as if
+    /// it were typed; those accepted are inserted all at once, and refusals make a single beep.
     void coller(std::string_view texteacoller);
-    /// Cuts the selection of the control that has the focus; empty if it refuses.
+    /// Cuts the selection of the control that has the focus; empty if it does not allow that.
     std::string couper();
-    /// Picks an entry of a combo box.
+    /// The user picks an entry of a combo box.
     static void choisir(Controle& liste, std::string_view entree);
-    /// Picks an entry of the open menu, and closes it.
+    /// The user picks an entry of the open menu, which closes it.
     void choisirentree(Controle& entree);
     void fermermenu();
     void fermer();
@@ -174,7 +175,7 @@ class Formulaire : public Observe<ChampFormulaire> {
     std::vector<std::unique_ptr<Menu>> menus_;
     std::vector<Controle*> ordre_;
     Controle* focus_ = nullptr;
-    Controle* repere_ = nullptr;  ///< where Tab goes on from when nobody has the focus
+    Controle* repere_ = nullptr;  ///< where Tab starts from when no control has the focus
     Controle* defaut_ = nullptr;
     Menu* menuouvert_ = nullptr;
     int plan_ = 0;

@@ -1,8 +1,7 @@
 #pragma once
 
-// Everything that is not a rule comes in from here: clock, chance, disk, sound,
-// shell, download, message boxes, "let pending events run", and the way in
-// which a form gets its window.
+// What the rules need from outside: clock, chance, disk, sound, shell, downloads, message boxes,
+// letting pending events run, and the window of a form.
 
 #include <cstdint>
 #include <functional>
@@ -22,16 +21,17 @@ class Formulaire;
 enum class Icone : std::uint8_t { Aucune, Information, Exclamation, Question };
 enum class Reponse : std::uint8_t { Ok, Oui, Non };
 
-/// What a download has to be, or else it has failed.
+/// What a download has to meet to succeed.
 struct Exigence {
-    /// Only from where nobody can have changed it (`adressesure`), redirections included.
+    /// Only from addresses that `adressesure` accepts, redirections included.
     bool sure = false;
-    std::int64_t taille = 0;  ///< bytes at the most
-    /// SHA-256 in 64 hexadecimal digits, blanks around them; another text fits no content.
+    std::int64_t taille = 0;  ///< most bytes
+    /// SHA-256 as 64 hexadecimal digits, with blanks around them; no content matches any other
+    /// text.
     std::optional<std::string> somme{};
 };
 
-/// The program ends at once, normally; thrown by `terminer`, caught by `executer`.
+/// Ends the program normally and at once: thrown by `terminer`, caught by `executer`.
 struct Fin {
     int statut = 0;
 };
@@ -49,34 +49,34 @@ class Plateforme {
 
     /// The system beep.
     void bip();
-    /// Runs `suite`; however many beeps it asks for, they make one at its end.
+    /// Runs `suite`; if it beeps, however often, makes a single beep at its end.
     void unseulbip(const std::function<void()>& suite);
     /// Opens an address or a file with its default handler; a failure is ignored.
     virtual void ouvrir(std::string_view cible) = 0;
-    /// Downloads an address, never from a cache, to a file that takes its name only when whole.
-    /// False if that failed; the file is then what it was.
+    /// Downloads an address, never from a cache, to a file, which gets its name only once complete.
+    /// On failure returns false and leaves the file as it was.
     [[nodiscard]] virtual bool telecharger(std::string_view adresse, std::string_view chemin,
                                            const Exigence& exigence) = 0;
-    /// What stands before a file's name to find it in the program's folder: that folder and a
-    /// backslash, or nothing where it is the working folder.
+    /// The prefix that turns a file's name into its path in the program's folder: that folder and a
+    /// backslash, or empty if it is the working folder.
     [[nodiscard]] virtual std::string dossierprogramme() { return {}; }
 
     /// A message box with an OK button; returns when it is answered.
     void message(std::string_view texte, Icone icone = Icone::Aucune);
     /// A question with Yes and No buttons; true for Yes.
     [[nodiscard]] bool question(std::string_view texte);
-    /// Plays a wave file of the working folder to its end. A machine that cannot play stays silent.
+    /// Plays a wave file of the working folder to its end. Silent if the machine cannot play it.
     void jouerson(std::string_view fichier);
     /// Lets pending events run.
     void laissercourir();
 
-    /// A form has just been made: the platform gives it a window and drives its timers.
+    /// A form has just been created: gives it a window and drives its timers.
     virtual void accueillir(Formulaire& formulaire) = 0;
 
-    /// The one place that calls handlers: runs an event, and turns a fault into its report and the
-    /// end of the program. Does nothing once the program has ended. Events may nest.
+    /// Runs an event; the one place from which handlers are called. On a fault it shows the report
+    /// and ends the program. Does nothing once the program has ended. Events may nest.
     void executer(const std::function<void()>& evenement);
-    /// Runs `suite` when the outermost event is through.
+    /// Runs `suite` when the outermost event has finished.
     void apres(std::function<void()> suite) { suites_.push_back(std::move(suite)); }
     /// Ends the program at once.
     [[noreturn]] static void terminer(int statut = 0) { throw Fin{statut}; }

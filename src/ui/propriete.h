@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// Something whose properties are watched: told which one has just changed.
+/// The owner of properties: told which one has just changed.
 template <class Champ>
 class Observe {
   public:
@@ -17,8 +17,8 @@ class Observe {
     ~Observe() = default;
 };
 
-/// An observable value. Reading is a call, writing an assignment; a write that changes nothing
-/// notifies nobody.
+/// A value whose changes its owner is told of. It is read by a call and written by an assignment;
+/// writing the same value again tells nothing.
 template <class T, class Champ>
 class Propriete {
   public:

@@ -1,13 +1,13 @@
 #pragma once
 
-// The small values that properties hold.
+// The types of the values that properties hold.
 
 #include <cstdint>
 #include <string>
 
 namespace ui {
 
-/// A colour: #RRGGBB, or one of the system's two.
+/// A colour: #RRGGBB, or one of two colours of the system.
 class Couleur {
   public:
     constexpr Couleur() = default;
@@ -31,14 +31,14 @@ class Couleur {
     std::uint32_t valeur_ = 0;
 };
 
-/// Colours that mean the same everywhere in a series.
+/// Colours with a fixed meaning on the series forms.
 namespace couleurs {
 inline constexpr Couleur tirageaurepos{0x80FFFF};
 inline constexpr Couleur solutionaurepos{0xFFC080};
-inline constexpr Couleur juste{0x80FF80};     ///< also the rack of the current box, a stopped clock
+inline constexpr Couleur juste{0x80FF80};     ///< right; also the current rack, and a stopped clock
 inline constexpr Couleur courante{0xFFFF80};  ///< answer box of the current rack
-inline constexpr Couleur faux{0xFF8080};      ///< also the tiles at the end of a list
-inline constexpr Couleur incomplet{0xFFC0C0};  ///< rack of which only blank boxes were wrong
+inline constexpr Couleur faux{0xFF8080};      ///< wrong; also the tiles at the end of a list
+inline constexpr Couleur incomplet{0xFFC0C0};  ///< a rack whose only faults are boxes left blank
 inline constexpr Couleur tuile{0xC0C0FF};      ///< also `quitter` at the end of a list
 inline constexpr Couleur noir{0x000000};
 inline constexpr Couleur parDefaut{0xFFE0C0};  ///< background of the forms
@@ -60,13 +60,13 @@ enum class Genre : std::uint8_t {
     Entree  ///< entry of a pop-up menu
 };
 
-/// How a view dresses a control; no rule reads it.
+/// The style in which a view draws a control; no rule reads it.
 enum class Aspect : std::uint8_t {
     Courant,
     Tuile,      ///< letter tile
     Case,       ///< box of a rack or of an answer
     Horloge,    ///< clock or counter
-    Principal,  ///< the button that a player looks for first
+    Principal,  ///< the main button of the form
     Titre
 };
 

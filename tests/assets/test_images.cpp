@@ -99,8 +99,8 @@ TEST(Images, TheLoginPictureAndTheIconsAreThere) {
         EXPECT_EQ(parnom().at("orvane_" + std::to_string(cote) + ".png").hauteur, cote);
 }
 
-// What is left of a sign without its colour: light (its letters and rim) or dark (its ground), and
-// where nothing is.
+// What is left of a sign without its colour: light (its letters and rim) or dark (its background),
+// and where nothing is.
 std::vector<int> gris(const std::string& nom) {
     const Tableau& tableau = parnom().at(nom + ".bmp");
     const Image image = peindre(tableau.dessin, tableau.largeur, tableau.hauteur);

@@ -6,10 +6,10 @@
 
 namespace banc {
 
-/// What a window shows of its form otherwise than the model says; empty if it agrees.
+/// How a window differs from the model of its form; empty if it does not.
 [[nodiscard]] std::string desaccord(const ui::Formulaire& formulaire,
                                     const ui::qt::Fenetre& fenetre);
-/// The same of a control that has a widget in that window.
+/// How a widget in that window differs from the model of its control.
 [[nodiscard]] std::string desaccord(const ui::Controle& controle, const ui::qt::Fenetre& fenetre,
                                     const QWidget& widget);
 

@@ -10,23 +10,23 @@
 
 namespace banc {
 
-/// The disk of a scenario: real files under its working folder, some of which refuse what is
-/// written to them as a full disk does.
+/// The disk of a scenario: real files under its working folder. Writing to some of them can be made
+/// to fail as on a full disk.
 class DisqueSimule : public common::DisqueReel {
   public:
     explicit DisqueSimule(std::filesystem::path racine,
                           common::Appels& appels = common::appelsdusysteme())
         : DisqueReel(std::move(racine), appels) {}
 
-    /// Holds these files, each written when its path, or that of a folder above it, is first asked
-    /// for: most scenarios look at few.
+    /// Provides these files; each is written when its path, or that of a folder above it, is first
+    /// used, as most scenarios use few.
     void reserver(std::map<std::string, Fourniture> fournitures);
 
-    /// What is written to this file, or into this folder, fails from now on.
+    /// Makes every write to this file, or into this folder, fail from now on.
     void refuser(std::string_view chemin) { refuses_.emplace_back(chemin); }
     /// How many files were opened for reading.
     [[nodiscard]] int lectures() const { return lectures_; }
-    /// How many appends and replacements were asked for, failed ones included.
+    /// How many appends and replacements were tried, failed ones included.
     [[nodiscard]] int ecritures() const { return ecritures_; }
 
     [[nodiscard]] std::error_code ouvrir(std::string_view chemin,

@@ -10,9 +10,9 @@ namespace banc {
 /// The working folder of a scenario.
 class Dossier {
   public:
-    /// A new temporary folder, whose name holds a blank and an accent; removed at the end.
+    /// A new temporary folder, with a blank and an accent in its name; removed on destruction.
     Dossier();
-    /// A folder as it is; left as it is.
+    /// An existing folder; kept on destruction.
     explicit Dossier(std::filesystem::path existant) : chemin_(std::move(existant)) {}
     Dossier(const Dossier&) = delete;
     Dossier& operator=(const Dossier&) = delete;
@@ -25,21 +25,21 @@ class Dossier {
     bool provisoire_ = false;
 };
 
-/// A file that a scenario finds: these bytes, or those of a file that nothing writes to.
+/// A file that a scenario finds: `octets`, or the content of `source`, which nothing writes to.
 struct Fourniture {
     std::string_view octets;
     std::filesystem::path source;
 
-    /// Writes it; a source is given a second name, and copied where that cannot be.
+    /// Creates the file at `but`; a source is linked there, or copied where links are impossible.
     void poser(const std::filesystem::path& but) const;
 };
 
-/// What a scenario finds in its folder, by path with "/": the program's pictures and sound, taken
-/// from `jeu`, empty reference lists and notes, and a list of one row for every file of the
-/// catalogue.
+/// The files that a scenario finds in its folder, by path with "/": the pictures and the sound of
+/// the program, taken from `jeu`; empty reference lists and notes; and for each file of the
+/// catalogue, a list of one row.
 [[nodiscard]] std::map<std::string, Fourniture> fournitures(const std::filesystem::path& jeu);
 
-/// Puts all of it into a folder.
+/// Creates all these files in a folder.
 void garnir(const std::filesystem::path& dossier, const std::filesystem::path& jeu);
 
 }  // namespace banc

@@ -1,6 +1,6 @@
 #pragma once
 
-// The screen, as the user of real windows has it.
+// Real windows, as a user sees and works them.
 
 #include <QEvent>
 #include <QPoint>
@@ -8,20 +8,20 @@
 
 namespace banc {
 
-/// Runs what waits, deletions included.
+/// Handles all pending events of Qt, deferred deletions included.
 void laissercourir();
 
-/// Waits until a window is in front: a desktop takes its time.
+/// Waits until a window is in front, which a desktop does not do at once.
 void attendredevant(const QWidget& fenetre);
 
-/// A place of a widget, in its window, where the mouse meets it and no other: first the one that
-/// is asked for, then its middle, then any. Throws `Refus` if there is none.
+/// A point of a widget, in coordinates of its window, where no other widget covers it: `voulue` if
+/// possible, else its centre, else any. Throws `Refus` if there is none.
 [[nodiscard]] QPoint placelibre(QWidget& fenetre, QWidget& widget, QPoint voulue);
 
-/// Sends an event of the mouse to what lies at a place of a window.
+/// Sends a mouse event to the widget at a point of a window.
 void souris(QWidget& fenetre, QPoint place, QEvent::Type genre, Qt::MouseButton bouton);
 
-/// A button of the mouse goes down and up.
+/// Presses and releases a mouse button.
 void clic(QWidget& fenetre, QPoint place, Qt::MouseButton bouton = Qt::LeftButton);
 
 }  // namespace banc

@@ -8,7 +8,7 @@
 
 namespace banc {
 
-/// Chance under orders: given numbers, or a seeded generator that the clock does not touch.
+/// Chance that a scenario controls: given numbers, or a generator that only a scenario seeds.
 class HasardSimule : public common::Hasard {
   public:
     HasardSimule() { graine(0); }
@@ -23,9 +23,9 @@ class HasardSimule : public common::Hasard {
         return nombre;
     }
 
-    /// The next numbers drawn, in [0,1); the last one repeats. At least one.
+    /// Sets the next numbers to be drawn, at least one, in [0,1); the last one is repeated.
     void donner(std::deque<double> nombres) { nombres_ = std::move(nombres); }
-    /// A seeded generator from here on.
+    /// Draws from a generator with this seed from now on.
     void graine(std::int32_t valeur) {
         nombres_.clear();
         generateur_.emplace().amorcer(valeur);

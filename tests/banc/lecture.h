@@ -1,7 +1,7 @@
 #pragma once
 
-// A scenario: one order a line, UTF-8; `#` begins a comment line. The lines that an order takes
-// follow it, each behind "| ".
+// The text of a scenario: one order a line, in UTF-8. A line that begins with `#` is a comment. An
+// order that takes lines is followed by them, each behind "| ".
 
 #include <cstddef>
 #include <cstdint>
@@ -12,29 +12,29 @@
 
 namespace banc {
 
-/// One order, with the lines that follow it.
+/// An order and the lines that it takes.
 struct Ordre {
     std::string nom;                  ///< its first word
-    std::string suite;                ///< the rest of the line behind one blank
-    std::vector<std::string> lignes;  ///< without "| ", repeated lines written out
+    std::string suite;                ///< the rest of its line, after one blank
+    std::vector<std::string> lignes;  ///< without "| ", repetitions expanded
     std::size_t numero = 0;           ///< line of the scenario, from 1
-    std::string defaut;               ///< what is wrong with its lines, empty if nothing is
+    std::string defaut;               ///< what is wrong with its lines; empty if nothing
 };
 
-/// The driver that a scenario is meant for, told by its first line.
+/// The driver that a scenario is meant for, given by its first line.
 enum class Destination : std::uint8_t { Tous, Modele, Qt };
 
-/// The order, or the one that it says is refused, takes the lines that follow it.
+/// The order takes the lines that follow it, or expects the refusal of one that does.
 [[nodiscard]] bool prendlignes(const Ordre& ordre);
 
-/// Splits a line into its first word and the rest behind one blank.
+/// Splits a line into its first word and the rest, after one blank.
 [[nodiscard]] Ordre decouper(std::string_view ligne);
 
-/// A number written in capital letters: 1 is A, 26 Z, 27 AA.
+/// A number in capital letters: 1 is A, 26 is Z, 27 is AA.
 [[nodiscard]] std::string enlettres(std::size_t nombre);
 
-/// Reads the orders of a scenario, one pass. It reads ahead only behind an order that takes lines,
-/// so that who gives orders one by one gets each answer at once.
+/// Reads the orders of a scenario in turn. It reads ahead only after an order that takes lines, so
+/// that someone who types orders gets each answer at once.
 class Lecteur {
   public:
     explicit Lecteur(std::istream& flux);
@@ -49,7 +49,7 @@ class Lecteur {
     std::istream& flux_;
     std::string ligne_;
     std::size_t numero_ = 0;
-    bool gardee_ = false;  ///< the line has been read and not yet used
+    bool gardee_ = false;  ///< `ligne_` was read ahead and is not yet used
     Destination destination_ = Destination::Tous;
 };
 

@@ -5,7 +5,7 @@
 
 namespace banc {
 
-/// Drives the control model, without a window.
+/// Drives the control model, without windows.
 class PiloteModele : public Pilote {
   public:
     explicit PiloteModele(PlateformeSimulee& plateforme) : plateforme_(plateforme) {}
@@ -29,7 +29,7 @@ class PiloteModele : public Pilote {
     [[nodiscard]] std::string desaccord(const ui::Controle& /*controle*/) override { return {}; }
 
   private:
-    /// An event of the mouse on a control, whose form comes in front first.
+    /// Runs a mouse event on a control, whose form first comes to the front.
     void sur(ui::Controle& controle, const std::function<void()>& evenement);
 
     PlateformeSimulee& plateforme_;

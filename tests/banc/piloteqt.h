@@ -12,12 +12,12 @@ class QApplication;
 
 namespace banc {
 
-/// Makes the application object of Qt, without a screen unless QT_QPA_PLATFORM names one, and
-/// keeps the warnings of Qt for the next `poser`.
+/// Creates the application object of Qt, without a screen unless QT_QPA_PLATFORM names one. From
+/// then on the next `poser` returns the warnings of Qt.
 [[nodiscard]] std::unique_ptr<QApplication> preparerqt(int& argc, char** argv);
 
-/// Drives the real windows: mouse events go to what lies under the mouse, keys to the window in
-/// front, and message boxes are answered by their buttons.
+/// Drives the real windows: mouse events go to the widget under the mouse, keys to the window in
+/// front, and message boxes are answered with their buttons.
 class PiloteQt : public Pilote {
   public:
     PiloteQt(PlateformeSimulee& plateforme, const std::filesystem::path& dossier);
@@ -43,9 +43,9 @@ class PiloteQt : public Pilote {
 
   private:
     void suivre();
-    /// The window of a form, brought in front as a click on it does.
+    /// The window of a form, brought to the front as by a click on it.
     QWidget& fenetre(ui::Formulaire& formulaire);
-    /// The window in front, which hears the keys.
+    /// The window in front, which gets the keys.
     QWidget& devant();
     void touche(int cle, const QString& texte, Qt::KeyboardModifiers modificateurs);
     ui::Reponse repondre(std::string_view texte, ui::Icone icone, bool ouinon, ui::Reponse reponse);

@@ -15,7 +15,7 @@
 
 namespace banc {
 
-/// What the program has done to the outside, since each list was last read.
+/// What the program has asked of the machine since each member was last read.
 struct Journal {
     std::vector<std::string> messages;    ///< texts of message boxes
     std::vector<std::string> sons;        ///< sounds played
@@ -23,7 +23,8 @@ struct Journal {
     int bips = 0;
 };
 
-/// A machine under orders: clock, chance, disk, network, sound, shell, message boxes, timers.
+/// A machine that a scenario controls: clock, chance, disk, network, sound, shell, message boxes,
+/// timers.
 class PlateformeSimulee : public ui::Plateforme {
   public:
     explicit PlateformeSimulee(const std::filesystem::path& dossier,
@@ -39,28 +40,30 @@ class PlateformeSimulee : public ui::Plateforme {
     void accueillir(ui::Formulaire& formulaire) override;
 
     void regler(const common::Instant& instant) { instant_ = instant; }
-    /// Lets seconds pass, ticks included, until the program ends.
+    /// Lets seconds pass, with the ticks of the timers, unless the program ends before.
     void avancer(int secondes);
-    /// Answers the next message box that has no answer yet.
+    /// Adds an answer; message boxes take the answers in order.
     void repondre(ui::Reponse reponse) { reponses_.push_back(reponse); }
-    /// A download of an address that ends so gives this file of the working folder, or fails.
+    /// A download from an address that ends with `fin` gives this file of the working folder, or
+    /// fails if there is none.
     void relier(std::string_view fin, std::optional<std::string> fichier);
     /// The report of the fault that ended the program; nothing if none did.
     [[nodiscard]] const std::optional<std::string>& rapport() const { return rapport_; }
-    /// An answer that was given to a box that has no such button; empty once read.
+    /// Reports an answer given to a message box without such a button; empty once read.
     [[nodiscard]] std::string incident() { return std::exchange(incident_, {}); }
 
     Journal journal;
     Bureau bureau;
-    /// Gives a form its window, before the desk sees it; none without windows.
+    /// Gives a form its window, before `bureau` learns of the form; empty without windows.
     std::function<void(ui::Formulaire&)> fenetre;
     /// Lets the pending events of the windows run.
     std::function<void()> pompe;
-    /// Opens a message box and gives it this answer; the answer that came of it.
+    /// Shows a message box and presses the button of an answer; returns the answer received.
     std::function<ui::Reponse(std::string_view, ui::Icone, bool ouinon, ui::Reponse)> boite;
     /// Shows the report of a fault.
     std::function<void(std::string_view)> affichage;
-    /// SHA-256 of bytes, as 64 hexadecimal digits in lower case. Without it no content has a sum.
+    /// SHA-256 of bytes, as 64 hexadecimal digits in lower case. If empty, no checksum ever
+    /// matches.
     std::function<std::string(std::string_view)> somme;
 
   protected:

@@ -19,7 +19,7 @@ class Programme {
     [[nodiscard]] virtual ui::Voisins& voisins() = 0;
 };
 
-/// Makes the program on a platform.
+/// Creates the program on a platform.
 using Fabrique = std::function<std::unique_ptr<Programme>(ui::Plateforme&)>;
 
 }  // namespace banc

@@ -5,7 +5,7 @@
 
 namespace banc {
 
-/// The program itself. For whoever links `orvane_application`.
+/// The real program. Needs `orvane_application` to be linked.
 class ProgrammeReel : public Programme {
   public:
     explicit ProgrammeReel(ui::Plateforme& plateforme) : application_(plateforme) {}

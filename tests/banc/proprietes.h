@@ -8,14 +8,13 @@
 
 namespace banc {
 
-// The value of a property, by the name that scenarios give it; nothing if there is none of that
-// name.
+// The value of a property, by its name in scenarios; nothing if there is no such property.
 
 [[nodiscard]] std::optional<std::string> lire(const ui::Controle& controle,
                                               std::string_view propriete);
 [[nodiscard]] std::optional<std::string> lire(const ui::Formulaire& formulaire,
                                               std::string_view propriete);
-/// Of a timer: `actif`.
+/// A timer has `actif` only.
 [[nodiscard]] std::optional<std::string> lire(const ui::Minuterie& minuterie,
                                               std::string_view propriete);
 

@@ -13,22 +13,22 @@
 
 namespace banc {
 
-/// An order that is not carried out, or an expectation that is not met; says why.
+/// An order that could not be carried out, or an expectation that was not met, with the reason.
 class Refus : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// An order that makes no sense: unknown, or badly written.
+/// An order that is unknown or malformed.
 class OrdreFaux : public Refus {
   public:
     using Refus::Refus;
 };
 
-/// Makes the driver of a platform.
+/// Creates the driver of a platform.
 using FabriquePilote = std::function<std::unique_ptr<Pilote>(PlateformeSimulee&)>;
 
-/// A run of the program under orders.
+/// A run of the program, controlled by orders.
 class Seance {
   public:
     /// `dossier` is the working folder.
@@ -36,29 +36,29 @@ class Seance {
            const FabriquePilote& fabriquepilote,
            common::Appels& appels = common::appelsdusysteme());
 
-    /// Carries out an order. The answer, one line: "ok", "= VALUE", "erreur: TEXT", or when the
-    /// order has ended the program "fin N", with "faute TEXT " before it if a fault did.
+    /// Carries out an order. Returns the answer, one line: "ok", "= VALUE" or "erreur: TEXT"; if
+    /// the order has ended the program, "fin N", preceded by "faute TEXT " after a fault.
     [[nodiscard]] std::string repondre(const Ordre& ordre);
 
-    /// Carries out an order: the value to answer, empty for none. Throws `Refus`.
+    /// Carries out an order. Returns the value to answer, empty for none. Throws `Refus`.
     std::string executer(const Ordre& ordre);
 
-    // In the order of their making: the forms go first.
+    // In order of creation, so that the forms are destroyed first.
     PlateformeSimulee plateforme;
     std::unique_ptr<Pilote> pilote;
     std::unique_ptr<Programme> programme;
-    bool demarree = false;  ///< the order `demarrer` was given
+    bool demarree = false;  ///< the order `demarrer` was carried out
 
   private:
     void verifier();
 };
 
-/// What carries out the orders of a name.
+/// An order by its name, and what carries it out.
 struct Commande {
     std::string_view nom;
-    /// Answers the value to show, empty for none. Throws `Refus`.
+    /// Returns the value to answer, empty for none. Throws `Refus`.
     std::string (*faire)(Seance& seance, const Ordre& ordre);
-    bool apreslafin = false;  ///< accepted once the program has ended
+    bool apreslafin = false;  ///< accepted even after the program has ended
 };
 
 }  // namespace banc

@@ -8,18 +8,18 @@
 
 namespace banc {
 
-/// The text on one line: each line end becomes `\n`, written out.
+/// The text on one line: each line end becomes the two characters `\n`.
 [[nodiscard]] std::string enligne(std::string_view texte);
-/// The text without the double quotes that stand around it, if they do.
+/// The text without the double quotes around it, if any.
 [[nodiscard]] std::string sansguillemets(std::string_view texte);
-/// A value read is the one expected, as it stands or between double quotes.
+/// A value equals the expected one, which may stand between double quotes.
 [[nodiscard]] bool concorde(std::string_view lu, std::string_view attendu);
-/// The same; an expected value that begins with "..." is compared with the end, and looked for
-/// inside if it also ends so.
+/// The same, but "...TEXT" expects a value that ends with TEXT, and "...TEXT..." one that contains
+/// it.
 [[nodiscard]] bool concordepartie(std::string_view lu, std::string_view attendu);
-/// The words of a text.
+/// The words of a text, which blanks separate.
 [[nodiscard]] std::vector<std::string> mots(std::string_view texte);
-/// Texts, with " | " between them.
+/// The texts in one, with " | " between them.
 [[nodiscard]] std::string joindre(const std::vector<std::string>& textes);
 
 }  // namespace banc

@@ -40,7 +40,7 @@ TEST(Nouveautes, ont_neuf_lettres_au_plus_et_tiennent_dans_leur_liste) {
     EXPECT_THAT(textes(comparer({}, nouvelle, 1)), ElementsAre("AA"));
 }
 
-/// Rows of the list of new words with a dear letter.
+/// Rows of the list of new words with a high-value letter.
 std::vector<std::string> cheres(const std::string& lexique, const Nouveautes& nouveautes) {
     const auto v = essais::vocabulaire(lexique);
     std::vector<std::string> lignes;

@@ -147,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(Rangees, Parties,
                          [](const auto& rangee) { return rangee.param.nom; });
 
 TEST(Fabrication, une_liste_trop_longue_est_coupee_et_le_dit) {
-    // Words of five letters with a dear letter: one over what a list holds.
+    // Words of five letters with a high-value letter: one over what a list holds.
     std::string lignes;
     std::size_t faits = 0;
     for (char a = 'a'; a <= 'z' && faits < 15001; ++a) {

@@ -86,7 +86,8 @@ TEST(Courants, les_400_plus_difficiles) {
 }
 
 TEST(FormationsAtypiques, des_entrees_et_des_conjugaisons_uniques) {
-    // The infinitive has another length; the participle is no conjugation; K is a dear letter.
+    // The infinitive has another length; the participle is no conjugation; K is a high-value
+    // letter.
     EXPECT_THAT(liste("durs_kvd_7L.txt",
                       essais::vocabulaire(verbe("planer") + seuls({"kabcdef", "rentais"}))),
                 ElementsAre("AEINRST;RENTAIS", "ALNNOPS;PLANONS"));
