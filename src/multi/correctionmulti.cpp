@@ -1,5 +1,7 @@
 #include "correctionmulti.h"
 
+#include <utility>
+
 #include "rangeesmulti.h"
 
 namespace multi {

@@ -1,6 +1,7 @@
 #include "correction.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace series {
 namespace {

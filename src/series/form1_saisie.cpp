@@ -2,6 +2,7 @@
 
 #include "form1.h"
 #include "listes.h"
+#include "saisie.h"
 #include "texte.h"
 
 namespace series {
@@ -13,16 +14,16 @@ void Form1::branchersaisie() {
         solution[place]->doubleclic = [this, i] { ouvrirmenu(i, false); };
     }
     recherche.change = [this] {
-        const auto limite = common::longueur(serie_.place(boite_).affiche);
-        const auto longueur = common::longueur(recherche.texte());
-        if (rallonges(serie_.nature) || longueur <= limite)
+        const auto entrop = lettresentrop(serie_, boite_, recherche.texte());
+        if (entrop == 0)
             return;
         // One beep a letter that is cut, in one write.
         if (voisins_.options.check1()) {
-            for (auto trop = longueur - limite; trop > 0; --trop)
+            for (auto reste = entrop; reste > 0; --reste)
                 plateforme().bip();
         }
-        recherche.texte = common::debut(recherche.texte(), limite);
+        recherche.texte =
+            common::debut(recherche.texte(), common::longueur(recherche.texte()) - entrop);
     };
     recherche.entree = [this] {
         mettredefaut(valider);

@@ -67,15 +67,9 @@ void Marques::cacher() {
     }
 }
 
-bool Marques::datee(std::size_t boite) const {
-    for (std::size_t i = 0; i < nombredatees; ++i)
-        if (paires_[boite][i].pleine->visible())
-            return true;
-    return false;
-}
-
 void Marques::montrer(std::span<const std::string> mots) {
     const Recherche recherche(mots);
+    std::vector<bool> datees(mots.size(), false);  // boxes that bear a dated mark
     for (std::size_t i = 0; i < nombredelistes; ++i) {
         const auto chemin = common::cheminliste(common::listesreference.at(i).fichier);
         const auto trouves = chercherliste(formulaire_.plateforme().disque(), chemin, limites_[i],
@@ -84,7 +78,9 @@ void Marques::montrer(std::span<const std::string> mots) {
             if (!trouves[boite])
                 continue;
             auto& paire = paires_[boite][i];
-            (paire.demie != nullptr && datee(boite) ? paire.demie : paire.pleine)->visible = true;
+            const bool demie = paire.demie != nullptr && datees[boite];
+            (demie ? paire.demie : paire.pleine)->visible = true;
+            datees[boite] = datees[boite] || paire.demie == nullptr;
         }
     }
 }

@@ -51,7 +51,7 @@ class Marques {
     /// Puts the marks of a box level with it, from its right edge.
     void placer(std::size_t boite, const ui::Controle& controle);
     void cacher();
-    /// Reads the lists and shows the marks of the words, word i on box i.
+    /// Reads the lists and shows the marks of the words, word i on box i, where no mark shows.
     void montrer(std::span<const std::string> mots);
 
   private:
@@ -59,8 +59,6 @@ class Marques {
         ui::Controle* pleine = nullptr;
         ui::Controle* demie = nullptr;  ///< null for a dated mark
     };
-    [[nodiscard]] bool datee(std::size_t boite) const;
-
     ui::Formulaire& formulaire_;
     Limites limites_;
     std::vector<std::array<Paire, nombredelistes>> paires_;  ///< by box, then list

@@ -93,6 +93,12 @@ std::optional<int> parcours(int boite, int code, int nbboites) {
     }
 }
 
+std::size_t lettresentrop(const Serie& serie, int boite, std::string_view texte) {
+    const auto limite = common::longueur(serie.place(boite).affiche);
+    const auto longueur = common::longueur(texte);
+    return rallonges(serie.nature) || longueur <= limite ? 0 : longueur - limite;
+}
+
 bool ajuger(const Serie& serie, int boite) {
     const auto& place = serie.place(boite);
     return place.rang >= 0 && !(serie.regles.jugesiaffiche && place.affiche.empty());

@@ -3,7 +3,9 @@
 // The entry of answers, as rules on a series: which characters a box takes, and what assisted entry
 // shows in the place of a rack.
 
+#include <cstddef>
 #include <optional>
+#include <string_view>
 
 #include "lettres.h"
 #include "serie.h"
@@ -30,6 +32,9 @@ void recalculer(Serie& serie, Lettres& lettres, int boite, std::string_view repo
 /// A box is left: its rack has all its letters again if assisted entry is in force, or has reduced
 /// it.
 void rendretirage(Serie& serie, const Lettres& lettres, int boite, bool assistee);
+/// Letters that the second line of entry holds beyond those of the rack of a box; in a list of
+/// extensions none is too many.
+[[nodiscard]] std::size_t lettresentrop(const Serie& serie, int boite, std::string_view texte);
 /// There is a rack to judge when this box is left.
 [[nodiscard]] bool ajuger(const Serie& serie, int boite);
 

@@ -181,6 +181,30 @@ TEST(Ajuger, une_place_sans_rangee_ne_se_juge_pas) {
     EXPECT_FALSE(ajuger(serie, 0));
 }
 
+struct Recherche {
+    const char* regle;
+    Nature nature;
+    const char* texte;
+    std::size_t entrop;
+};
+
+class Lettresentrop : public testing::TestWithParam<Recherche> {};
+
+TEST_P(Lettresentrop, pour_un_tirage_de_trois) {
+    const auto serie = tiree("ABC;BAC\r\n", GetParam().nature);
+    EXPECT_EQ(lettresentrop(serie, 0, GetParam().texte), GetParam().entrop);
+}
+
+INSTANTIATE_TEST_SUITE_P(Saisie, Lettresentrop,
+                         testing::Values(Recherche{"moins", Nature::Simple, "AB", 0},
+                                         Recherche{"autant", Nature::Simple, "ABC", 0},
+                                         Recherche{"deux_de_plus", Nature::Simple, "ABCDE", 2},
+                                         Recherche{"une_accentuee_en_est_une", Nature::Simple,
+                                                   "ABCÉ", 1},
+                                         Recherche{"les_rallonges_n_ont_pas_de_limite",
+                                                   Nature::Rallongesavant, "ABCDE", 0}),
+                         regle);
+
 struct Pas {
     const char* regle;
     int boite;
