@@ -286,7 +286,8 @@ void Fenetre::rattacher() {
     if (!formulaire_->devant() || !isVisible() || dessous == nullptr ||
         windowHandle()->transientParent() == dessous->windowHandle())
         return;
-    const bool active = active_;
+    // A window that shows itself just now takes the keyboard, though nothing has told so yet.
+    const bool active = active_ && bureau_.enavant() == this;
     const auto place = pos();
     hide();
     windowHandle()->setTransientParent(dessous->windowHandle());

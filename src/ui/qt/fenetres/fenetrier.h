@@ -60,7 +60,7 @@ class Fenetrier : public QObject, public Bureau {
     void executer(const std::function<void()>& evenement) override;
     void demanderrafraichissement() override;
     void activee(Fenetre& fenetre) override;
-    void montree(Fenetre& fenetre) override { dessous_ = &fenetre; }
+    void montree(Fenetre& fenetre) override { derniere_ = dessous_ = &fenetre; }
     void garderdevant(const Fenetre& fenetre) override;
     /// Sets the program's icon at the first call: loading it earlier would delay that window.
     void peinte() override;
@@ -77,7 +77,7 @@ class Fenetrier : public QObject, public Bureau {
     Minuteur minuteur_;
     std::vector<Fenetre*> fenetres_;
     std::vector<QPointer<Fenetre>> partantes_;  ///< windows of forms that were destroyed
-    Fenetre* derniere_ = nullptr;               ///< active now or last
+    Fenetre* derniere_ = nullptr;               ///< active now or last, or about to be
     Fenetre* dessous_ = nullptr;                ///< last one activated or shown that is no dialog
     bool demande_ = false;
     bool encours_ = false;
