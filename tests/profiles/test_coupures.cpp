@@ -241,7 +241,7 @@ TEST(Connexions, de_deux_programmes_a_la_fois_ne_perdent_personne) {
             if (std::string_view(users) != "absent")
                 machine.ecrire("users.dat", users);
             essai::Voisinage v;
-            profiles::Form2 form(machine.plateforme, v.voisins);
+            profiles::Form2 form(machine.plateforme, v.form3, v.menu, v.form1);
             form.charger();
             const auto liste = form.trouver("user")->choix();
             adeux([&](int programme) {

@@ -207,7 +207,7 @@ TEST_P(Illisibles, se_taisent_au_depart_et_ne_se_reecrivent_pas) {
     const auto& octets = GetParam().octets;
     ASSERT_FALSE(plateforme.disque().remplacer("users.dat", octets));
     appels.enpanne = GetParam().ennui == std::string_view("erreur du disque");
-    profiles::Form2 form(plateforme, v.voisins);
+    profiles::Form2 form(plateforme, v.form3, v.menu, v.form1);
     plateforme.executer([&] { form.charger(); });
     EXPECT_FALSE(plateforme.fini());
     EXPECT_TRUE(plateforme.journal.messages.empty());
