@@ -99,7 +99,7 @@ TEST_F(Programme, fait_deux_fois_les_memes_octets) {
         EXPECT_EQ(lu(relatif), dossier.lire("premier/" + relatif)) << relatif;
         ++compares;
     }
-    EXPECT_EQ(compares, 234U + 6U + 2U + 4U + 1U + 2U);
+    EXPECT_EQ(compares, 234U + 6U + 2U + 4U + 1U + 2U + 2U);
 }
 
 TEST_F(Programme, garde_aux_mots_du_joueur) {
