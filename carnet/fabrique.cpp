@@ -67,8 +67,9 @@ void comparereditions(common::Disque& disque, const Fichiersdeditions& fichiers,
         const auto& nouvelle = fichiers.at(i + 1);
         if (ancienne.empty() || nouvelle.empty())
             continue;
+        const auto anciens = lire(ancienne);
         commande.nouveautes.at(i) =
-            atelier::comparer(lire(ancienne), lire(nouvelle), atelier::editions.at(i).liste.places);
+            atelier::comparer(anciens, lire(nouvelle), atelier::editions.at(i).liste.places);
         commande.envigueur.comparaisons.at(i) = nom(ancienne) + ", " + nom(nouvelle);
     }
 }

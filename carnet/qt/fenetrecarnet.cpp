@@ -17,7 +17,7 @@ namespace {
 
 constexpr int millemes = 1000;
 /// Wanted size, in characters and lines of the system's font.
-constexpr int largeur = 150;
+constexpr int largeur = 180;
 constexpr int hauteur = 40;
 
 }  // namespace
@@ -33,6 +33,7 @@ Fenetrecarnet::Fenetrecarnet(Seance& seance)
     setCentralWidget(onglets_);
     garnir();
     suivre();
+    onglets_->currentWidget()->setFocus();
     const auto place = screen()->availableGeometry().size() * 19 / 20;
     resize(std::min(place.width(), fontMetrics().averageCharWidth() * largeur),
            std::min(place.height(), fontMetrics().lineSpacing() * hauteur));

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -37,8 +38,9 @@ QString rapport(const Motslus& lus, const Ecart& ecart) {
     lignes << motsde(lus.mots.size()) + QStringLiteral(", lus comme un texte ") +
                   qt(nom(lus.encodage)) + QLatin1Char('.');
     const auto pourcent = [&](std::size_t n) {
-        return QString::number(
-                   100.0 * static_cast<double>(n) / static_cast<double>(lus.mots.size()), 'f', 1) +
+        return QLocale(QLocale::French, QLocale::France)
+                   .toString(100.0 * static_cast<double>(n) / static_cast<double>(lus.mots.size()),
+                             'f', 1) +
                QStringLiteral(" %");
     };
     lignes << QStringLiteral("Inconnus du lexique libre : ") + motsde(ecart.inconnus) +

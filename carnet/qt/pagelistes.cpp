@@ -36,14 +36,14 @@ namespace {
 const QString titre = QStringLiteral("Mes listes");
 
 void avertir(QWidget* parent, const QString& texte) {
-    QMessageBox boite(QMessageBox::Warning, QStringLiteral("Carnet d'Orvane"), texte,
+    QMessageBox boite(QMessageBox::Warning, QStringLiteral("Attention"), texte,
                       QMessageBox::NoButton, parent);
     boite.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     boite.exec();
 }
 
 bool confirmer(QWidget* parent, const QString& texte, const QString& oui) {
-    QMessageBox boite(QMessageBox::Question, QStringLiteral("Carnet d'Orvane"), texte,
+    QMessageBox boite(QMessageBox::Question, QStringLiteral("Confirmer"), texte,
                       QMessageBox::NoButton, parent);
     auto* accepte = boite.addButton(oui, QMessageBox::AcceptRole);
     boite.setDefaultButton(boite.addButton(QStringLiteral("Annuler"), QMessageBox::RejectRole));
@@ -78,6 +78,7 @@ Pagelistes::Pagelistes(Seance& seance, QWidget* parent)
     auto* mise = new QVBoxLayout(this);
     mise->addWidget(partage);
     setFocusProxy(criteres_->findChild<QWidget*>(QStringLiteral("longueur")));
+    setTabOrder(criteres_, table_);
     connect(criteres_, &Criteres::change, this, &Pagelistes::chercher);
     connect(&seance_, &Seance::motschanges, this, [this] {
         proposer();
@@ -126,12 +127,13 @@ QWidget* Pagelistes::resultats() {
     table_->setTabKeyNavigation(false);
     table_->setAlternatingRowColors(true);
     table_->setWordWrap(false);
-    const int lettre = fontMetrics().horizontalAdvance(QLatin1Char('M'));
-    constexpr std::array largeurs{13, 13, 18, 5, 10, 10};
+    const int lettre = fontMetrics().averageCharWidth();
+    constexpr std::array largeurs{19, 19, 24, 8, 12, 12};
     for (int i = 0; i < Modelemots::colonnes; ++i)
         table_->setColumnWidth(i, largeurs.at(static_cast<std::size_t>(i)) * lettre);
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     auto* boutons = new QHBoxLayout;
     for (auto* une : actions()) {
         auto* bouton = new QToolButton(droite);

@@ -32,7 +32,7 @@ class Fabrique : public testing::Test {
 };
 
 TEST_F(Fabrique, met_le_dictionnaire_du_joueur_en_vigueur_et_garde_ses_fichiers) {
-    EXPECT_EQ(envigueur(), "libre\r\n16\r\n\r\n");
+    EXPECT_EQ(envigueur(), "libre\r\n17\r\n\r\n");
     EXPECT_THAT(dossier.lire("listes/3lc.txt"), HasSubstr("(Z)EN;ZEN"));
     EXPECT_TRUE(faire(perso({"NEZ", "XYSTE"})));
     EXPECT_EQ(envigueur(), "perso\r\n2\r\nmiens.txt\r\n");

@@ -33,7 +33,7 @@ TEST_F(Envigueurlu, les_mots_du_dossier_se_lisent_sans_le_lexique) {
 
 TEST_F(Envigueurlu, un_dossier_sans_mots_prend_ceux_du_lexique_libre) {
     const auto mots = std::get<Motsenvigueur>(lus(essais::petitschemins()));
-    EXPECT_EQ(mots.glossaire->fiches().size(), 16U);
+    EXPECT_EQ(mots.glossaire->fiches().size(), 17U);
     EXPECT_TRUE(mots.envigueur.libre());
 }
 
