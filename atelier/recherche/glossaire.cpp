@@ -65,22 +65,35 @@ std::uint16_t marques(const atelier::Vocabulaire& v, const atelier::Mot& mot) {
     return static_cast<std::uint16_t>(bits);
 }
 
-/// Tells each word which letters make another one at its ends. `rang` gives the place in `fiches`
-/// of a place in the vocabulary.
-void prolonger(const atelier::Vocabulaire& v, const std::vector<std::uint32_t>& rang,
-               std::vector<Fiche>& fiches) {
-    const auto fiche = [&](std::string_view mot) -> Fiche* {
-        const auto* trouve = v.chercher(mot);
-        return trouve == nullptr
-                   ? nullptr
-                   : &fiches[rang[static_cast<std::size_t>(trouve - v.mots().data())]];
-    };
-    for (const auto& mot : v.mots(atelier::longueurmin + 1, atelier::longueurmax)) {
-        const auto texte = mot.texte();
-        if (auto* base = fiche(texte.substr(1)))
-            base->devant |= bitlettre(texte.front());
-        if (auto* base = fiche(texte.substr(0, texte.size() - 1)))
-            base->derriere |= bitlettre(texte.back());
+/// Tells each word which letters make another one in front of it. The words that begin with one
+/// letter lie by the alphabet of what follows it, as all words do.
+void rallongerdevant(std::vector<Fiche>& fiches) {
+    std::size_t place = 0;
+    char precedente = 0;
+    for (const auto& fiche : fiches) {
+        const auto texte = fiche.texte();
+        if (texte.front() != precedente) {
+            precedente = texte.front();
+            place = 0;
+        }
+        const auto reste = Capitales(texte.substr(1)).nombres();
+        while (place < fiches.size() && fiches[place].mot.nombres() < reste)
+            ++place;
+        if (place < fiches.size() && fiches[place].mot.nombres() == reste)
+            fiches[place].devant |= bitlettre(precedente);
+    }
+}
+
+/// The same behind it: a word that another one begins with lies before it, and so do the words
+/// between them that begin with it.
+void rallongerderriere(std::vector<Fiche>& fiches) {
+    std::array<std::size_t, atelier::longueurmax + 1> derniers{};  // by length, 1 more than places
+    for (std::size_t i = 0; i < fiches.size(); ++i) {
+        const auto texte = fiches[i].texte();
+        if (const auto base = derniers.at(texte.size() - 1);
+            base > 0 && texte.starts_with(fiches[base - 1].texte()))
+            fiches[base - 1].derriere |= bitlettre(texte.back());
+        derniers.at(texte.size()) = i + 1;
     }
 }
 
@@ -107,18 +120,17 @@ Glossaire::Glossaire(const atelier::Vocabulaire& vocabulaire,
     std::sort(parordre.begin(), parordre.end(), [&](std::uint32_t a, std::uint32_t b) {
         return mots[a].lettres.nombres() < mots[b].lettres.nombres();
     });
-    std::vector<std::uint32_t> rang(mots.size());
     fiches_.resize(mots.size());
     for (std::uint32_t i = 0; i < parordre.size(); ++i) {
         const auto& mot = mots[parordre[i]];
-        rang[parordre[i]] = i;
         auto& fiche = fiches_[i];
         fiche.mot = mot.lettres;
         fiche.tirage = mot.tirage;
         fiche.difficulte = static_cast<std::int16_t>(difficulte.de(mot));
         fiche.marques = marques(vocabulaire, mot);
     }
-    prolonger(vocabulaire, rang, fiches_);
+    rallongerdevant(fiches_);
+    rallongerderriere(fiches_);
     grouper(vocabulaire.tirages().size());
     completer();
     ordonner();
