@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <bit>
 #include <concepts>
 #include <cstring>
@@ -48,9 +49,17 @@ Nombre prendre(std::string_view& octets) {
     return static_cast<Nombre>(nombre);
 }
 
+/// A word that a list may hold.
+bool valide(std::string_view mot) {
+    return mot.size() >= atelier::longueurmin && mot.size() <= atelier::longueurmax &&
+           std::all_of(mot.begin(), mot.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+}
+
 Fiche prendrefiche(std::string_view& octets) {
     Fiche fiche;
-    fiche.mot = Capitales(octets.substr(0, static_cast<unsigned char>(octets[15])));
+    const auto mot = octets.substr(0, static_cast<unsigned char>(octets[atelier::longueurmax]));
+    if (valide(mot))
+        fiche.mot = Capitales(mot);
     octets.remove_prefix(16);
     fiche.tirage = prendre<std::uint32_t>(octets);
     fiche.devant = prendre<std::uint32_t>(octets);
@@ -98,7 +107,7 @@ std::optional<Glossaire> Glossaire::lire(std::string_view octets) {
     std::vector<Fiche> fiches(mots);
     for (auto& fiche : fiches) {
         fiche = prendrefiche(octets);
-        if (fiche.tirage >= tirages)
+        if (fiche.mot.taille() == 0 || fiche.tirage >= tirages)
             return std::nullopt;
     }
     return Glossaire(std::move(fiches), tirages);

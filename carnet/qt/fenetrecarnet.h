@@ -16,6 +16,8 @@ class Fenetrecarnet : public QMainWindow {
     Q_OBJECT
   public:
     explicit Fenetrecarnet(Seance& seance);
+    /// Ends the long work first: it is the pages'.
+    ~Fenetrecarnet() override { seance_.tache().finir(); }
 
   private:
     void garnir();

@@ -32,8 +32,10 @@
 namespace carnet {
 namespace {
 
-/// The player sees "Mes listes" as the title of a print too.
-const QString titre = QStringLiteral("Mes listes");
+/// On each printed page.
+QString titre() {
+    return QStringLiteral("Orvane – ma liste");
+}
 
 void avertir(QWidget* parent, const QString& texte) {
     QMessageBox boite(QMessageBox::Warning, QStringLiteral("Attention"), texte,
@@ -280,7 +282,7 @@ void Pagelistes::imprimer() {
     imprimante.setDuplex(QPrinter::DuplexLongSide);
     QPrintDialog boite(&imprimante, this);
     boite.setWindowTitle(QStringLiteral("Imprimer la liste"));
-    if (boite.exec() == QDialog::Accepted && !carnet::imprimer(imprimante, faite->rangees, titre))
+    if (boite.exec() == QDialog::Accepted && !carnet::imprimer(imprimante, faite->rangees, titre()))
         avertir(this, QStringLiteral("L'imprimante n'a pas pris la liste."));
 }
 
@@ -294,10 +296,10 @@ void Pagelistes::enpdf() {
     if (chemin.isEmpty())
         return;
     QPdfWriter papier(chemin);
-    papier.setTitle(titre);
+    papier.setTitle(titre());
     papier.setPageSize(QPageSize(QPageSize::A4));
     papier.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-    if (carnet::imprimer(papier, faite->rangees, titre))
+    if (carnet::imprimer(papier, faite->rangees, titre()))
         message_->setText(chemin +
                           QStringLiteral(" est écrit : tirages au recto, réponses au verso."));
     else

@@ -8,10 +8,14 @@ namespace carnet {
 
 Tache::Tache(QObject* parent) : QObject(parent) {}
 
-Tache::~Tache() {
+void Tache::finir() {
     arret_ = true;
-    if (fil_ != nullptr)
-        fil_->wait();
+    if (fil_ == nullptr)
+        return;
+    fil_->disconnect(this);
+    fil_->wait();
+    delete fil_;
+    fil_ = nullptr;
 }
 
 bool Tache::lancer(std::function<void(const Avance&)> travail,

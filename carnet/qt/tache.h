@@ -17,8 +17,7 @@ class Tache : public QObject {
     Q_OBJECT
   public:
     explicit Tache(QObject* parent);
-    /// Stops the work and waits for it.
-    ~Tache() override;
+    ~Tache() override { finir(); }
 
     /// Runs `travail` in the thread, then `fin` here. `fin` gets what a `Faute` said, or nothing.
     /// One work at a time: false, and nothing is run, while there is one.
@@ -27,6 +26,8 @@ class Tache : public QObject {
     [[nodiscard]] bool encours() const { return fil_ != nullptr; }
     /// The work ends at its next step.
     void arreter() { arret_ = true; }
+    /// Stops the work and waits for it; its `fin` is not run.
+    void finir();
 
   signals:
     void avancee(int millemes, const QString& quoi);

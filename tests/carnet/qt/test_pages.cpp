@@ -1,17 +1,15 @@
 // The widgets of the carnet, without a screen.
 
-#include <filesystem>
-#include <fstream>
+#include <atomic>
 #include <set>
 
 #include <QApplication>
 #include <QComboBox>
-#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPdfWriter>
 #include <QSignalSpy>
+#include <QThread>
 #include <gmock/gmock.h>
 
 #include "criteresqt.h"
@@ -168,6 +166,30 @@ TEST_F(Fenetre, chaque_controle_a_un_nom_pour_qui_ne_voit_pas) {
             sansnom.insert(controle->objectName().toStdString());
     }
     EXPECT_THAT(sansnom, testing::IsEmpty());
+}
+
+TEST(Fenetrefermee, en_plein_travail_l_attend_sans_le_finir) {
+    const essais::DossierTemporaire dossier;
+    Options o;
+    o.dossier = dossier.chemin();
+    Seance seance(o);
+    bool fini = false;
+    std::atomic<bool> sorti = false;
+    {
+        const Fenetrecarnet fenetre(seance);
+        EXPECT_TRUE(seance.tache().lancer(
+            [&](const Avance& avance) {
+                while (avance(1, "Travail"))
+                    QThread::yieldCurrentThread();
+                sorti = true;
+            },
+            [&](const QString&) { fini = true; }));
+        EXPECT_FALSE(seance.tache().lancer([](const Avance&) {}, [](const QString&) {}));
+    }
+    EXPECT_TRUE(sorti);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(fini);
+    EXPECT_FALSE(seance.tache().encours());
 }
 
 TEST(Fenetresansmots, dit_pourquoi_et_reste_ouverte) {
