@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPalette>
 #include <QTranslator>
 
 #include "arguments.h"
@@ -26,6 +27,10 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     if (boites.load(QStringLiteral("qtbase_fr"),
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&boites);
+    // Some themes leave this one out: a grey that reads on light and on dark.
+    QPalette palette;
+    palette.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
+    QApplication::setPalette(palette);
     carnet::Seance seance(options);
     carnet::Fenetrecarnet fenetre(seance);
     fenetre.show();

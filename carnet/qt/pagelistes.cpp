@@ -184,6 +184,7 @@ void Pagelistes::chercher() {
         montrer(*demande);
     else
         modele_->montrer(glossaire, {});
+    message_->setVisible(!message_->text().isEmpty());
     for (auto* une : surliste_)
         une->setEnabled(!modele_->places().empty());
 }
@@ -201,7 +202,6 @@ void Pagelistes::montrer(const recherche::Demande& demande) {
         dit += QStringLiteral(
             "Tous les mots. Remplissez un critère : les résultats suivent à mesure.");
     message_->setText(dit.trimmed());
-    message_->setVisible(!dit.isEmpty());
     modele_->montrer(glossaire, std::move(places));
     table_->scrollToTop();
 }

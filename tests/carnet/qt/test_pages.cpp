@@ -156,6 +156,18 @@ TEST_F(Fenetre, dit_qu_elle_lit_puis_montre_les_mots) {
     EXPECT_EQ(compte->text(), QStringLiteral("17 mots"));
 }
 
+TEST_F(Fenetre, un_critere_a_corriger_est_dit_meme_quand_rien_ne_l_etait) {
+    seance.relire();
+    attendre(&seance, SIGNAL(motschanges()));
+    auto* longueur = fenetre.findChild<QLineEdit*>(QStringLiteral("longueur"));
+    const auto* message = fenetre.findChild<QLabel*>(QStringLiteral("message"));
+    longueur->setText(QStringLiteral("3"));
+    EXPECT_TRUE(message->isHidden());
+    longueur->setText(QStringLiteral("3-"));
+    EXPECT_FALSE(message->isHidden());
+    EXPECT_THAT(message->text().toStdString(), HasSubstr("longueur : on attend un nombre"));
+}
+
 TEST_F(Fenetre, chaque_controle_a_un_nom_pour_qui_ne_voit_pas) {
     std::set<std::string> sansnom;
     for (const auto* controle : fenetre.findChildren<QWidget*>()) {
