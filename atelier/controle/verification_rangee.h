@@ -3,6 +3,7 @@
 // Checks of the rows of a list.
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -21,6 +22,9 @@ enum class Sorte {
 
 /// The kind of rows in the lists of a row of the catalogue.
 [[nodiscard]] Sorte sorte(std::string_view panneau, std::size_t rangee);
+
+/// The kind of rows in a file of the catalogue, parts included; nothing for another file.
+[[nodiscard]] std::optional<Sorte> sorteconnue(std::string_view fichier);
 
 /// The text consists of 2 to 15 capitals A to Z.
 [[nodiscard]] bool motjouable(std::string_view texte);

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -89,6 +90,9 @@ Selection choisir(const Vocabulaire& v, const Tirage& tirage, Predicat predicat)
 /// The rack of a word with a hint in brackets: the shortest beginning of the word that none of the
 /// `rivaux` on the same letters shares. Without rivals, the plain rack.
 [[nodiscard]] std::string tirageavecindice(const Mot& mot, const Selection& rivaux);
+/// The same on texts; `rivaux` does not hold the word.
+[[nodiscard]] std::string tirageavecindice(std::string_view mot,
+                                           std::span<const std::string_view> rivaux);
 
 /// One row for each word: its letters in alphabetical order, and the word.
 [[nodiscard]] Contenu simples(const Vocabulaire& v, const Selection& selection);

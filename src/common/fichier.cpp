@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "faute.h"
+#include "octetsdefichier.h"
 #include "texte.h"
 
 namespace common {
@@ -96,9 +97,13 @@ std::string liretexte(Disque& disque, std::string_view chemin, std::string_view 
     return contenu;
 }
 
+std::error_code essayerlire(Disque& disque, std::string_view chemin, std::string& contenu) {
+    return lire(disque, chemin, contenu, [] { return true; });
+}
+
 std::string lirefichier(Disque& disque, std::string_view chemin, std::string_view action) {
     std::string contenu;
-    if (const auto erreur = lire(disque, chemin, contenu, [] { return true; }))
+    if (const auto erreur = essayerlire(disque, chemin, contenu))
         throw Faute(rapportfichier(action, chemin, raison(erreur)));
     return contenu;
 }

@@ -1,0 +1,67 @@
+// orvane-carnet: what stands beside the trainer, in one window.
+
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QTranslator>
+
+#include "arguments.h"
+#include "fenetrecarnet.h"
+
+namespace {
+
+enum Etat { bien = 0, enfaute = 1, mauvaisusage = 2 };
+
+int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
+    const QApplication application(nombre, arguments);
+    QApplication::setApplicationName(QStringLiteral("orvane-carnet"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Orvane"));
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    QTranslator boites;
+    if (boites.load(QStringLiteral("qtbase_fr"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&boites);
+    // Some themes leave this one out: a grey that reads on light and on dark.
+    QPalette palette;
+    palette.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
+    QApplication::setPalette(palette);
+    carnet::Seance seance(options);
+    carnet::Fenetrecarnet fenetre(seance);
+    fenetre.show();
+    seance.relire();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int nombre, char** arguments) {
+    try {
+        const std::vector<std::string> mots(arguments + 1, arguments + nombre);
+        const auto options = carnet::lireoptions(mots);
+        if (options.action == carnet::Action::aide) {
+            std::cout << carnet::aide();
+            return bien;
+        }
+        if (options.action == carnet::Action::version) {
+            std::cout << "orvane-carnet " ORVANE_VERSION "\n";
+            return bien;
+        }
+        if (!options.dossier.empty() && !std::filesystem::is_directory(options.dossier)) {
+            std::cerr << options.dossier.string() << " : ce n'est pas un dossier.\n";
+            return enfaute;
+        }
+        return ouvrir(options, nombre, arguments);
+    } catch (const carnet::MauvaisUsage& usage) {
+        std::cerr << usage.what() << "\nVoir orvane-carnet --help.\n";
+        return mauvaisusage;
+    } catch (const std::exception& faute) {
+        std::cerr << faute.what() << '\n';
+        return enfaute;
+    }
+}
