@@ -21,7 +21,8 @@ inline constexpr Poignee sanspoignee = -1;
 enum class Ouverture : std::uint8_t {
     Lecture,       ///< one that exists, to read
     Modification,  ///< one that exists, to read and write
-    Creation       ///< a new one, to read and write; `file_exists` if the name is taken
+    Ajout,    ///< one that exists, to read, and to write at its end whatever its end is by then
+    Creation  ///< a new one, to read and write; `file_exists` if the name is taken
 };
 
 enum class Genre : std::uint8_t { Fichier, Dossier, Autre };
@@ -31,6 +32,7 @@ struct Etat {
     Genre genre = Genre::Autre;
     std::uint64_t disque = 0;
     std::uint64_t numero = 0;
+    std::uint64_t taille = 0;  ///< bytes
 };
 
 class Appels {
@@ -51,6 +53,10 @@ class Appels {
     /// Writes the first bytes; `ecrits` says how many, which may be fewer than all.
     [[nodiscard]] virtual std::error_code ecrire(Poignee poignee, std::string_view octets,
                                                  std::size_t& ecrits) = 0;
+    /// The place, from 0, where the next reading begins.
+    [[nodiscard]] virtual std::error_code placer(Poignee poignee, std::uint64_t place) = 0;
+    /// Keeps only so many bytes of the file.
+    [[nodiscard]] virtual std::error_code couper(Poignee poignee, std::uint64_t taille) = 0;
     /// Returns when the bytes of the file would outlive a power cut.
     [[nodiscard]] virtual std::error_code synchroniser(Poignee poignee) = 0;
     /// Returns when the names in the folder would.

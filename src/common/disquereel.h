@@ -12,7 +12,7 @@ inline constexpr std::int64_t attentelimite = 5000;
 
 /// The disk of the system. A path of the rules is taken relative to `racine`, with the system's
 /// own separator; the empty root is the working folder. Only regular files are read or written; a
-/// link stays and what it leads to is changed. Every change is a whole new file,
+/// link stays and what it leads to is changed. Every change but `deposer` is a whole new file,
 /// `<name>.<number>.tmp`, that takes the place of the old one.
 class DisqueReel : public Disque {
   public:
@@ -23,6 +23,8 @@ class DisqueReel : public Disque {
     [[nodiscard]] std::error_code ouvrir(std::string_view chemin,
                                          std::unique_ptr<Flux>& flux) override;
     [[nodiscard]] std::error_code ajouter(std::string_view chemin,
+                                          std::string_view octets) override;
+    [[nodiscard]] std::error_code deposer(std::string_view chemin,
                                           std::string_view octets) override;
     [[nodiscard]] std::error_code remplacer(std::string_view chemin,
                                             std::string_view octets) override;

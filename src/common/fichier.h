@@ -68,6 +68,14 @@ class Disque {
     /// be written.
     [[nodiscard]] virtual std::error_code ajouter(std::string_view chemin,
                                                   std::string_view octets) = 0;
+    /// Appends whole lines in one write and waits for nothing: not for a program that has the file
+    /// locked (`Ennui::Retenu`), nor for the bytes to outlive a power cut, which may leave half of
+    /// them. Makes the file if it is missing; if it ends in mid-line the bytes start a line of
+    /// their own. A refusal leaves the file as it was, or empty if it was missing.
+    [[nodiscard]] virtual std::error_code deposer(std::string_view chemin,
+                                                  std::string_view octets) {
+        return ajouter(chemin, octets);
+    }
     /// Puts a whole new file in the place of the old one in one step.
     [[nodiscard]] virtual std::error_code remplacer(std::string_view chemin,
                                                     std::string_view octets) = 0;

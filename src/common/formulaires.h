@@ -106,6 +106,8 @@ struct Voisins {
     FaceSerie& multi;
     FaceHistorique& historique;
     FaceApropos& apropos;
+    /// Lines of the journal of racks that the disk has not taken yet, as bytes of that file.
+    std::string journalenattente{};
 };
 
 }  // namespace common
