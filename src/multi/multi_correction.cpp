@@ -10,6 +10,15 @@
 #include "rangeesmulti.h"
 
 namespace multi {
+namespace {
+
+/// Those of a rack's texts that count in its judgement.
+std::vector<std::string> juges(const Rack& rack, std::span<const std::string> textes) {
+    const auto comptent = textes.first(nombrejuge(rack.solutions));
+    return {comptent.begin(), comptent.end()};
+}
+
+}  // namespace
 
 void Multi::corrigerserie() {
     arreterserie();
@@ -17,6 +26,7 @@ void Multi::corrigerserie() {
     rendretirages();
     const int nombre = nombredelaserie();
     const int justes = jugertirages(nombre);
+    tenirjournal(nombre);
     fautesaffichees.texte =
         std::to_string(ratages_.nbfautes()) + "/" + std::to_string(nbmotstotal_);
     afficherscore(justes, nombre);
@@ -56,6 +66,7 @@ bool Multi::corrigertirage(int place, std::vector<Ratee>& ratees) {
     Rack ajuger{rack.texte(), rack.fond(), {}, solutionsdelarangee(rangee(place))};
     for (std::size_t mot = 0; mot < nbsolutions(); ++mot)
         ajuger.saisis.push_back(boite(place, mot).texte());
+    retenirjugement(place, juges(ajuger, ajuger.solutions), juges(ajuger, ajuger.saisis));
     const auto verdict = multi::corrigertirage(ajuger, ratages_);
     montrer(place, verdict);
     if (verdict.debordement != Debordement::Aucun) {

@@ -51,6 +51,7 @@ void Form1::corrigerserie() {
         juger(nombre - 1, "OUI");
     fermersaisie();
     const int justes = jugerreponses(nombre);
+    tenirjournal(nombre);
     if (criteresecondes()) {
         for (int i = 0; i < nombre; ++i)
             if (rapide_[static_cast<std::size_t>(i)] == 1)
@@ -99,6 +100,7 @@ int Form1::jugerreponses(int nombre) {
     for (; i < nombre; ++i) {
         auto& reponse = *solution[static_cast<std::size_t>(i)];
         const auto mot = rangees_.suite(rangee(i));
+        retenirjugement(i, {mot}, {reponse.texte()});
         if (reponse.texte() == mot) {
             reponse.fond = ui::couleurs::juste;
             ++justes;

@@ -61,7 +61,8 @@ Formserie::Formserie(ui::Plateforme& plateforme, common::Voisins& voisins, const
       lignesdufichier_(tirage.size()),
       ligneboite_(tirage.size()),
       enrevision_(tirage.size(), false),
-      entame_(tirage.size(), false) {
+      entame_(tirage.size(), false),
+      juges_(tirage.size()) {
     texte = std::string(gabarit.titre);
     traduirecouleurs();
     habillerboites();

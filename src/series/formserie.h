@@ -14,6 +14,7 @@
 #include "chronos.h"
 #include "formulaire.h"
 #include "formulaires.h"
+#include "journal.h"
 #include "lettres.h"
 #include "marques.h"
 #include "menumot.h"
@@ -159,6 +160,12 @@ class Formserie : public ui::Formulaire {
     [[nodiscard]] bool erreursaurevision() const;
     /// Appends the rows that the revision file lacks, in one write.
     void garderenrevision(std::span<const Ratee> ratees);
+    /// Keeps what the boxes of a rack hold for the journal, unless a judgement of it has failed
+    /// before in this series: that one has shown the solutions.
+    void retenirjugement(int place, std::vector<std::string> solutions,
+                         std::vector<std::string> saisis);
+    /// Writes what was kept of the first racks to the journal.
+    void tenirjournal(int nombre);
     /// Shows what a correction counted, and the time that the series took.
     void afficherscore(int justes, int tirages);
     /// Adds the notes to their boxes and to the text of notes; `boites[i]` is the box of word i.
@@ -244,6 +251,7 @@ class Formserie : public ui::Formulaire {
     std::vector<std::string> ligneboite_;       ///< by rack place: that row in list format
     std::vector<bool> enrevision_;              ///< by rack place: that row is in the revision file
     std::vector<bool> entame_;                  ///< by rack place: assisted entry wrote the rack
+    std::vector<std::optional<profiles::Tiragejuge>> juges_;  ///< by rack place
     std::int16_t nbseriesfaites_ = 0;
     std::size_t numpolice_ = 0;  ///< of the next font, from 0
 };

@@ -2,6 +2,7 @@
 // menu. Which answer is right is each form's own rule.
 
 #include <algorithm>
+#include <utility>
 
 #include "formserie.h"
 #include "nombre.h"
@@ -61,6 +62,25 @@ void Formserie::garderenrevision(std::span<const Ratee> ratees) {
         enrevision_[static_cast<std::size_t>(ratees[i].place)] = true;
     }
     ajouterenrevision(plateforme().disque(), chemin, nouvelles);
+}
+
+void Formserie::retenirjugement(int place, std::vector<std::string> solutions,
+                                std::vector<std::string> saisis) {
+    auto& juge = juges_[static_cast<std::size_t>(place)];
+    if (!juge || juge->trouve())
+        juge = {tiragedelarangee(place), std::move(solutions), std::move(saisis)};
+}
+
+void Formserie::tenirjournal(int nombre) {
+    std::vector<profiles::Tiragejuge> juges;
+    for (int place = 0; place < nombre; ++place) {
+        if (auto& juge = juges_[static_cast<std::size_t>(place)])
+            juges.push_back(std::move(*juge));
+    }
+    const auto& menu = voisins_.form3;
+    profiles::journaliser(plateforme().disque(), menu.util,
+                          {plateforme().maintenant(), nomenregistre(), menu.toue}, juges,
+                          voisins_.journalenattente);
 }
 
 void Formserie::afficherscore(int justes, int tirages) {

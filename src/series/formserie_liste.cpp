@@ -83,6 +83,7 @@ void Formserie::nouvelleserie() {
     for (int i = 0; i < boitesutiles_; ++i)
         peindreaurepos(i);
     effacerserie();
+    juges_.assign(juges_.size(), std::nullopt);
     tirerrangees();
     tuiles.oublier();
     std::fill(rapide_.begin(), rapide_.end(), -1);
