@@ -27,6 +27,11 @@ void comparer(benchmark::State& state, const std::function<void()>& preparer,
               const std::function<void()>& sujet, const std::vector<std::string>& fichiers,
               const Bornes& bornes);
 
+/// The same against any other `reference`, which comes right before it.
+void comparer(benchmark::State& state, const std::function<void()>& preparer,
+              const std::function<void()>& sujet, const std::function<void()>& reference,
+              const Bornes& bornes);
+
 /// Times `sujet` alone.
 void chronometrer(benchmark::State& state, const std::function<void()>& preparer,
                   const std::function<void()>& sujet, const Bornes& bornes);

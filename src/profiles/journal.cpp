@@ -39,17 +39,7 @@ int nombre(std::string_view texte, std::size_t place, std::size_t chiffres) {
 std::optional<std::int32_t> lirejour(std::string_view texte) {
     if (texte[2] != '/' || texte[5] != '/')
         return std::nullopt;
-    const int jour = nombre(texte, 0, 2);
-    const int mois = nombre(texte, 3, 2);
-    const int annee = nombre(texte, 6, 4);
-    if (jour < 1 || mois < 1 || annee < 1)
-        return std::nullopt;
-    const std::chrono::year_month_day date(std::chrono::year(annee),
-                                           std::chrono::month(static_cast<unsigned>(mois)),
-                                           std::chrono::day(static_cast<unsigned>(jour)));
-    if (!date.ok())
-        return std::nullopt;
-    return static_cast<std::int32_t>(std::chrono::sys_days(date).time_since_epoch().count());
+    return jourdu(nombre(texte, 6, 4), nombre(texte, 3, 2), nombre(texte, 0, 2));
 }
 
 /// The second of the day of HH:MM:SS.
@@ -183,6 +173,17 @@ void journaliser(common::Disque& disque, std::string_view util, const Serie& ser
         alleger(attente);
     else
         attente.clear();
+}
+
+std::optional<std::int32_t> jourdu(int annee, int mois, int jour) {
+    if (jour < 1 || mois < 1 || annee < 1)
+        return std::nullopt;
+    const std::chrono::year_month_day date(std::chrono::year(annee),
+                                           std::chrono::month(static_cast<unsigned>(mois)),
+                                           std::chrono::day(static_cast<unsigned>(jour)));
+    if (!date.ok())
+        return std::nullopt;
+    return static_cast<std::int32_t>(std::chrono::sys_days(date).time_since_epoch().count());
 }
 
 std::optional<Lignejournal> lirelignejournal(std::string_view ligne) {
