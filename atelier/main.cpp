@@ -3,13 +3,18 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <random>
 #include <unistd.h>
 
+#include "chantier.h"
+#include "commande.h"
 #include "dictionnaire.h"
 #include "disquereel.h"
+#include "envigueur.h"
 #include "fabrication.h"
-#include "faute.h"
+#include "listes.h"
 #include "options.h"
+#include "recherche.h"
 #include "sortie.h"
 #include "verification.h"
 
@@ -35,47 +40,52 @@ class Ligne {
     bool terminal_ = ::isatty(STDERR_FILENO) != 0;
 };
 
-std::string lire(const std::string& chemin, std::string_view action) {
-    common::DisqueReel disque;
-    return common::lirefichier(disque, chemin, action);
-}
-
 Dictionnaire mots(const std::string& chemin) {
-    return liredictionnaire(lire(chemin, "Lecture du dictionnaire"), chemin);
+    common::DisqueReel disque;
+    return liredictionnaire(common::lirefichier(disque, chemin, "Lecture du dictionnaire"), chemin);
 }
 
-/// The sources, read, and what the rules need of them.
-struct Sources {
-    Thesaurus thesaurus;
-    Vocabulaire vocabulaire;
-    Difficulte difficulte;
-    Nouveautes nouveautes;
-
-    explicit Sources(const Options& options)
-        : thesaurus(lire(options.thesaurus, "Lecture du thésaurus"), options.thesaurus),
-          vocabulaire(
-              lirelexique(lire(options.lexique, "Lecture du lexique"), options.lexique,
-                          Affixes(lire(options.affixes, "Lecture des affixes"), options.affixes),
-                          thesaurus, options.ajouts ? retouches() : retouchessansajouts()),
-              options.mots ? std::optional(mots(*options.mots)) : std::nullopt),
-          difficulte(vocabulaire) {
-        for (std::size_t i = 0; i < editions.size(); ++i) {
-            const auto& comparaison = options.comparaisons.at(i);
-            if (comparaison)
-                nouveautes.at(i) =
-                    comparer(mots(comparaison->ancienne), mots(comparaison->nouvelle),
-                             editions.at(i).liste.places);
-        }
+Nouveautes nouveautes(const Options& options) {
+    Nouveautes toutes;
+    for (std::size_t i = 0; i < editions.size(); ++i) {
+        const auto& comparaison = options.comparaisons.at(i);
+        if (comparaison)
+            toutes.at(i) = comparer(mots(comparaison->ancienne), mots(comparaison->nouvelle),
+                                    editions.at(i).liste.places);
     }
-    [[nodiscard]] Matiere matiere() const { return {vocabulaire, difficulte, nouveautes}; }
-};
+    return toutes;
+}
+
+Chantier chantier(const Options& options, const Progression& progression) {
+    return {options.chemins, options.mots ? std::optional(mots(*options.mots)) : std::nullopt,
+            nouveautes(options), progression};
+}
+
+std::string nom(const std::string& chemin) {
+    return std::filesystem::path(chemin).filename().string();
+}
+
+/// What the lists are made of, for those who look at them later.
+recherche::Envigueur envigueur(const Options& options) {
+    recherche::Envigueur e;
+    if (options.mots)
+        e.fichier = nom(*options.mots);
+    for (std::size_t i = 0; i < editions.size(); ++i) {
+        if (const auto& comparaison = options.comparaisons.at(i))
+            e.comparaisons.at(i) = nom(comparaison->ancienne) + ", " + nom(comparaison->nouvelle);
+    }
+    return e;
+}
 
 int fabriquer(const Options& options) {
     const Ligne ligne;
-    ligne.dire("Lecture du lexique");
-    const Sources sources(options);
-    const auto production = fabriquer(sources.matiere(), sources.thesaurus,
-                                      [&](std::string_view quoi) { ligne.dire(quoi); });
+    const auto dire = [&](std::string_view quoi) { ligne.dire(quoi); };
+    const auto sources = chantier(options, dire);
+    auto production = fabriquer(sources.matiere(), sources.thesaurus(), dire);
+    ligne.dire("Répertoire des mots");
+    const recherche::Glossaire glossaire(sources.vocabulaire(), sources.difficulte());
+    for (auto& fichier : recherche::fichiers(glossaire, envigueur(options)))
+        production.fichiers.push_back(std::move(fichier));
     ligne.dire("Écriture");
     installer(production.fichiers, options.cible);
     ligne.effacer();
@@ -98,7 +108,7 @@ int verifier(const Options& options) {
 }
 
 int decrire(const Options& options) {
-    const Sources sources(options);
+    const auto sources = chantier(options, [](std::string_view) {});
     const auto listes = decrire(sources.matiere(), options.cible);
     if (listes.empty())
         throw MauvaisUsage("Le catalogue n'a pas de liste « " + options.cible + " ».");
@@ -110,6 +120,41 @@ int decrire(const Options& options) {
     return bien;
 }
 
+/// The words in force in the working folder, unless others are asked for.
+std::optional<recherche::Glossaire> motsenvigueur(const Options& options, common::Disque& disque) {
+    std::string octets;
+    const auto chemin = common::cheminliste(recherche::fichierglossaire);
+    if (options.desource || common::essayerliretexte(disque, chemin, octets, std::string::npos))
+        return std::nullopt;
+    return recherche::Glossaire::lire(octets);
+}
+
+int chercher(const Options& options) {
+    common::DisqueReel disque;
+    auto glossaire = motsenvigueur(options, disque);
+    Nouveautes comparees;
+    if (!glossaire) {
+        const auto sources = chantier(options, [](std::string_view) {});
+        glossaire.emplace(sources.vocabulaire(), sources.difficulte());
+        comparees = sources.nouveautes();
+    }
+    const auto lire = [&](std::string_view fichier) -> recherche::Motsdeliste {
+        for (std::size_t i = 0; i < editions.size(); ++i) {
+            if (fichier != editions.at(i).liste.fichier || !options.comparaisons.at(i))
+                continue;
+            std::vector<std::string> mots;
+            for (const auto& mot : comparees.at(i))
+                mots.emplace_back(mot.texte());
+            return mots;
+        }
+        return recherche::motsdeliste(disque, fichier);
+    };
+    std::random_device hasard;
+    const recherche::Contexte contexte{*glossaire, lire};
+    return recherche::commander(options.cible, contexte, hasard(), std::cout, std::cerr) ? bien
+                                                                                         : enfaute;
+}
+
 int executer(const Options& options) {
     switch (options.commande) {
         case Commande::fabriquer:
@@ -118,6 +163,8 @@ int executer(const Options& options) {
             return verifier(options);
         case Commande::decrire:
             return decrire(options);
+        case Commande::chercher:
+            return chercher(options);
         case Commande::aide:
             std::cout << aide();
             return bien;

@@ -5,13 +5,6 @@
 namespace atelier {
 namespace {
 
-/// The sources that the build found, or the places of Debian.
-#ifndef ORVANE_LEXIQUE
-#define ORVANE_LEXIQUE "/usr/share/hunspell/fr.dic"
-#define ORVANE_AFFIXES "/usr/share/hunspell/fr.aff"
-#define ORVANE_THESAURUS "/usr/share/mythes/thes_fr.dat"
-#endif
-
 struct NomCommande {
     std::string_view nom;
     Commande commande;
@@ -22,6 +15,7 @@ constexpr std::array commandes{
     NomCommande{"--sortie", Commande::fabriquer, true},
     NomCommande{"--verifier", Commande::verifier, true},
     NomCommande{"--decrire", Commande::decrire, false},
+    NomCommande{"--chercher", Commande::chercher, true},
     NomCommande{"--help", Commande::aide, false},
     NomCommande{"--version", Commande::version, false},
 };
@@ -29,9 +23,7 @@ constexpr std::array commandes{
 class Lecteur {
   public:
     explicit Lecteur(std::span<const std::string> arguments) : reste_(arguments) {
-        options_.lexique = ORVANE_LEXIQUE;
-        options_.affixes = ORVANE_AFFIXES;
-        options_.thesaurus = ORVANE_THESAURUS;
+        options_.chemins = cheminsdorigine();
     }
 
     Options lire() {
@@ -42,7 +34,7 @@ class Lecteur {
                 option(nom);
         }
         if (!commandelue_)
-            throw MauvaisUsage("Il manque --sortie, --verifier ou --decrire.");
+            throw MauvaisUsage("Il manque --sortie, --verifier, --decrire ou --chercher.");
         return options_;
     }
 
@@ -65,20 +57,23 @@ class Lecteur {
         commandelue_ = true;
         options_.commande = trouve->commande;
         const bool suivie = !reste_.empty() && !reste_.front().starts_with("--");
-        if (trouve->argument || (trouve->commande == Commande::decrire && suivie))
+        if (trouve->commande == Commande::chercher && !reste_.empty() && reste_.front().empty())
+            reste_ = reste_.subspan(1);  // no criterion: all words
+        else if (trouve->argument || (trouve->commande == Commande::decrire && suivie))
             options_.cible = valeur(nom);
         return true;
     }
 
     void option(const std::string& nom) {
+        options_.desource = true;
         if (nom == "--lexique")
-            options_.lexique = valeur(nom);
+            options_.chemins.lexique = valeur(nom);
         else if (nom == "--affixes")
-            options_.affixes = valeur(nom);
+            options_.chemins.affixes = valeur(nom);
         else if (nom == "--thesaurus")
-            options_.thesaurus = valeur(nom);
+            options_.chemins.thesaurus = valeur(nom);
         else if (nom == "--sans-ajouts")
-            options_.ajouts = false;
+            options_.chemins.ajouts = false;
         else if (nom == "--mots")
             options_.mots = valeur(nom);
         else if (nom == "--nouveautes")
@@ -117,19 +112,26 @@ Options lireoptions(std::span<const std::string> arguments) {
 }
 
 std::string aide() {
+    const auto origine = cheminsdorigine();
     return "orvane-listes : fait les listes de mots d'Orvane.\n"
            "\n"
            "  orvane-listes --sortie DOSSIER [OPTIONS]   fait toutes les listes dans DOSSIER\n"
            "  orvane-listes --verifier DOSSIER|FICHIER   dit ce qui ne va pas dans des listes\n"
            "  orvane-listes --decrire [LISTE] [OPTIONS]  dit ce que contient une liste, ou toutes\n"
+           "  orvane-listes --chercher CRITERES [OPTIONS]\n"
+           "                                             les mots ou la liste que des critères "
+           "font\n"
            "  orvane-listes --help | --version\n"
            "\n"
            "Options :\n"
-           "  --lexique DIC        lexique (hunspell) ; par défaut " ORVANE_LEXIQUE
+           "  --lexique DIC        lexique (hunspell) ; par défaut " +
+           origine.lexique +
            "\n"
-           "  --affixes AFF        ses affixes ; par défaut " ORVANE_AFFIXES
+           "  --affixes AFF        ses affixes ; par défaut " +
+           origine.affixes +
            "\n"
-           "  --thesaurus DAT      thésaurus (mythes) ; par défaut " ORVANE_THESAURUS
+           "  --thesaurus DAT      thésaurus (mythes) ; par défaut " +
+           origine.thesaurus +
            "\n"
            "  --sans-ajouts        n'ajoute rien au lexique\n"
            "  --mots FICHIER       ne garde que les mots de ce fichier, un par ligne\n"

@@ -9,11 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "chantier.h"
 #include "nouveautes.h"
 
 namespace atelier {
 
-enum class Commande { fabriquer, verifier, decrire, aide, version };
+enum class Commande { fabriquer, verifier, decrire, chercher, aide, version };
 
 /// Two editions to compare.
 struct Comparaison {
@@ -23,13 +24,11 @@ struct Comparaison {
 
 struct Options {
     Commande commande = Commande::aide;
-    std::string cible;  ///< folder to fill, folder or file to check, list to describe
-    std::string lexique;
-    std::string affixes;
-    std::string thesaurus;
-    bool ajouts = true;               ///< the lexicon gets the words that it lacks
+    std::string cible;  ///< folder to fill, folder or file to check, list to describe, criteria
+    Chemins chemins;
     std::optional<std::string> mots;  ///< a player's own dictionary
     std::array<std::optional<Comparaison>, editions.size()> comparaisons;
+    bool desource = false;  ///< a source, a dictionary or editions were named
 };
 
 /// A wrong use of the command line, said in French.

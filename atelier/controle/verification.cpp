@@ -204,22 +204,6 @@ class Verificateur {
     }
 };
 
-/// Panel and row of a file of the catalogue, parts included; nothing for another file.
-std::optional<Sorte> sorteconnue(const std::string& nom) {
-    for (const auto& panneau : menu::panneaux()) {
-        for (std::size_t i = 0; i < panneau.rangees.size(); ++i) {
-            const auto& rangee = panneau.rangees[i];
-            if (rangee.fichier == nom)
-                return sorte(panneau.cle, i);
-            for (std::size_t k = 0; k < rangee.parties; ++k) {
-                if (menu::fichierdepartie(rangee.fichier, k) == nom)
-                    return sorte(panneau.cle, i);
-            }
-        }
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::string Constat::texte() const {

@@ -63,6 +63,21 @@ Sorte sorte(std::string_view panneau, std::size_t rangee) {
     return ecran == menu::Ecran::multi ? Sorte::multi : Sorte::simple;
 }
 
+std::optional<Sorte> sorteconnue(std::string_view fichier) {
+    for (const auto& panneau : menu::panneaux()) {
+        for (std::size_t i = 0; i < panneau.rangees.size(); ++i) {
+            const auto& rangee = panneau.rangees[i];
+            if (rangee.fichier == fichier)
+                return sorte(panneau.cle, i);
+            for (std::size_t k = 0; k < rangee.parties; ++k) {
+                if (menu::fichierdepartie(rangee.fichier, k) == fichier)
+                    return sorte(panneau.cle, i);
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 bool motjouable(std::string_view texte) {
     return texte.size() >= longueurmin && texte.size() <= longueurmax && capitales(texte);
 }

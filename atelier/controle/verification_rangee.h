@@ -3,6 +3,7 @@
 // What is wrong in a row of a list.
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -21,6 +22,9 @@ enum class Sorte {
 
 /// What the rows of a row of the catalogue are.
 [[nodiscard]] Sorte sorte(std::string_view panneau, std::size_t rangee);
+
+/// What the rows of a file of the catalogue are, parts included; nothing for another file.
+[[nodiscard]] std::optional<Sorte> sorteconnue(std::string_view fichier);
 
 /// Capitals A to Z, 2 to 15 of them.
 [[nodiscard]] bool motjouable(std::string_view texte);

@@ -40,6 +40,14 @@ std::vector<std::uint8_t> mesures(const std::vector<std::uint64_t>& comptes) {
     return resultat;
 }
 
+/// The highest measure of three letters that begin with two, for each two.
+std::vector<std::uint8_t> maximums(const std::vector<std::uint8_t>& mesures) {
+    std::vector<std::uint8_t> resultat(mesures.size() / alphabet);
+    for (std::size_t i = 0; i < mesures.size(); ++i)
+        resultat[i / alphabet] = std::max(resultat[i / alphabet], mesures[i]);
+    return resultat;
+}
+
 }  // namespace
 
 Difficulte::Difficulte(const Vocabulaire& vocabulaire) {
@@ -59,6 +67,8 @@ Difficulte::Difficulte(const Vocabulaire& vocabulaire) {
     debuts_ = mesures(debuts);
     fins_ = mesures(fins);
     voisins_ = mesures(voisins);
+    debutsmax_ = maximums(debuts_);
+    finsmax_ = maximums(fins_);
 }
 
 int Difficulte::de(const Mot& mot) const {
@@ -66,18 +76,31 @@ int Difficulte::de(const Mot& mot) const {
     const auto n = t.size();
     if (n < 3)
         return 0;  // too short to have a beginning and an ending
+    std::array<int, alphabet> comptes{};
+    std::array<char, longueurmax> differentes{};
+    std::size_t nombre = 0;
+    for (const char lettre : t) {
+        if (comptes.at(rang(lettre))++ == 0)
+            differentes.at(nombre++) = lettre;
+    }
+    const std::string_view lettres(differentes.data(), nombre);
     int meilleurdebut = 0;
     int meilleurefin = 0;
     int paires = 0;
-    for (std::size_t i = 0; i < n; ++i) {
-        for (std::size_t j = 0; j < n; ++j) {
-            if (j == i)
+    for (const char a : lettres) {
+        for (const char b : lettres) {
+            // As many pairs of places as these letters make, in this order.
+            const int paire = comptes[rang(a)] * (comptes[rang(b)] - (a == b ? 1 : 0));
+            if (paire == 0)
                 continue;
-            paires += voisins_[rang2(t[i], t[j])];
-            for (std::size_t k = 0; k < n; ++k) {
-                if (k == i || k == j)
+            const auto deux = rang2(a, b);
+            paires += paire * voisins_[deux];
+            if (debutsmax_[deux] <= meilleurdebut && finsmax_[deux] <= meilleurefin)
+                continue;
+            for (const char c : lettres) {
+                if (comptes[rang(c)] <= (c == a ? 1 : 0) + (c == b ? 1 : 0))
                     continue;
-                const auto trois = rang3(t[i], t[j], t[k]);
+                const auto trois = rang3(a, b, c);
                 meilleurdebut = std::max<int>(meilleurdebut, debuts_[trois]);
                 meilleurefin = std::max<int>(meilleurefin, fins_[trois]);
             }

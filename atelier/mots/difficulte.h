@@ -27,6 +27,9 @@ class Difficulte {
     Mesures debuts_;   // by three letters
     Mesures fins_;     // by three letters
     Mesures voisins_;  // by two letters
+    // The highest of those of three letters, by the first two of them.
+    Mesures debutsmax_;
+    Mesures finsmax_;
 };
 
 }  // namespace atelier

@@ -64,15 +64,22 @@ Selection plushauts(Selection selection, std::size_t nombre,
 }
 
 std::string tirageavecindice(const Mot& mot, const Selection& rivaux) {
-    std::size_t indice = 0;
+    std::vector<std::string_view> textes;
     for (const auto* rival : rivaux) {
         if (rival != &mot)
-            indice = std::max(indice, prefixecommun(mot.texte(), rival->texte()) + 1);
+            textes.push_back(rival->texte());
     }
+    return tirageavecindice(mot.texte(), textes);
+}
+
+std::string tirageavecindice(std::string_view mot, std::span<const std::string_view> rivaux) {
+    std::size_t indice = 0;
+    for (const auto rival : rivaux)
+        indice = std::max(indice, prefixecommun(mot, rival) + 1);
+    const auto reste = Capitales(mot.substr(indice)).triees();
     if (indice == 0)
-        return std::string(mot.lettres.triees().texte());
-    const auto reste = Capitales(mot.texte().substr(indice)).triees();
-    return '(' + std::string(mot.texte().substr(0, indice)) + ')' + std::string(reste.texte());
+        return std::string(reste.texte());
+    return '(' + std::string(mot.substr(0, indice)) + ')' + std::string(reste.texte());
 }
 
 bool injurieuse(const Selection& mots) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,6 +88,9 @@ Selection choisir(const Vocabulaire& v, const Tirage& tirage, Predicat predicat)
 /// A rack with a hint: in brackets, the shortest beginning of the word that no rival on the same
 /// letters shares. Without rivals, the plain rack.
 [[nodiscard]] std::string tirageavecindice(const Mot& mot, const Selection& rivaux);
+/// The same on texts; `rivaux` does not hold the word.
+[[nodiscard]] std::string tirageavecindice(std::string_view mot,
+                                           std::span<const std::string_view> rivaux);
 
 /// One row a word: its letters in alphabetical order and the word.
 [[nodiscard]] Contenu simples(const Vocabulaire& v, const Selection& selection);

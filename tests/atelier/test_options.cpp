@@ -20,11 +20,11 @@ TEST(Options, fabriquer_avec_tout) {
     const auto lues = lireoptions(arguments);
     EXPECT_EQ(lues.commande, Commande::fabriquer);
     EXPECT_EQ(lues.cible, "dossier été");
-    EXPECT_EQ(lues.lexique, "d.dic");
-    EXPECT_EQ(lues.affixes, "a.aff");
-    EXPECT_EQ(lues.thesaurus, "t.dat");
+    EXPECT_EQ(lues.chemins.lexique, "d.dic");
+    EXPECT_EQ(lues.chemins.affixes, "a.aff");
+    EXPECT_EQ(lues.chemins.thesaurus, "t.dat");
     EXPECT_EQ(lues.mots, "m.txt");
-    EXPECT_FALSE(lues.ajouts);
+    EXPECT_FALSE(lues.chemins.ajouts);
     EXPECT_FALSE(lues.comparaisons[0].has_value());
     ASSERT_TRUE(lues.comparaisons[1].has_value());
     EXPECT_EQ(lues.comparaisons[1]->ancienne, "a.txt");
@@ -45,7 +45,7 @@ TEST_P(Choix, de_la_commande) {
     const auto lues = lireoptions(GetParam().arguments);
     EXPECT_EQ(lues.commande, GetParam().commande);
     EXPECT_EQ(lues.cible, GetParam().cible);
-    EXPECT_FALSE(lues.lexique.empty());
+    EXPECT_FALSE(lues.chemins.lexique.empty());
 }
 INSTANTIATE_TEST_SUITE_P(
     Options, Choix,

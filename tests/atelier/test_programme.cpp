@@ -100,7 +100,7 @@ TEST_F(Programme, fait_deux_fois_les_memes_octets) {
         EXPECT_EQ(lu(relatif), dossier.lire("premier/" + relatif)) << relatif;
         ++compares;
     }
-    EXPECT_EQ(compares, 234U + 6U + 2U + 4U + 1U + 2U);
+    EXPECT_EQ(compares, 234U + 6U + 2U + 4U + 1U + 2U + 2U);
 }
 
 TEST_F(Programme, garde_aux_mots_du_joueur) {
@@ -224,6 +224,53 @@ TEST_F(Programme, decrit_une_liste) {
         "Q W X Y Z). 3 lignes.\n");
     arguments[1] = "inconnue";
     EXPECT_EQ(lancer(arguments).etat, 2);
+}
+
+/// The arguments of a search in the small lexicon.
+std::vector<std::string> recherche(const std::string& criteres) {
+    const std::string petit = ORVANE_PETIT;
+    return {
+        "--chercher",         criteres,      "--lexique",         petit + "/petit.dic", "--affixes",
+        petit + "/petit.aff", "--thesaurus", petit + "/petit.dat"};
+}
+
+TEST_F(Programme, cherche_des_mots_ou_une_liste) {
+    const auto mots = lancer(recherche("lettres=NEZ forme=mots"));
+    EXPECT_EQ(mots.sortie, "NEZ\nZEN\n");
+    EXPECT_EQ(mots.erreurs, "");
+    EXPECT_EQ(mots.etat, 0);
+    EXPECT_EQ(lancer(recherche("lettres=NEZ fin=N")).sortie, "(Z)EN;ZEN\n");
+    EXPECT_THAT(lancer(recherche("")).erreurs, StartsWith("par : "));
+}
+
+TEST_F(Programme, dit_pourquoi_une_recherche_ne_donne_rien) {
+    const auto vide = lancer(recherche("debut=W fin=Z"));
+    EXPECT_EQ(vide.sortie, "");
+    EXPECT_EQ(vide.erreurs, "Aucun mot ne répond à ces critères.\n");
+    EXPECT_EQ(vide.etat, 0);
+    const auto refusee = lancer(recherche("longueur=8-2"));
+    EXPECT_EQ(refusee.sortie, "");
+    EXPECT_THAT(refusee.erreurs, StartsWith("longueur : "));
+    EXPECT_EQ(refusee.etat, 1);
+    EXPECT_EQ(lancer({"--chercher"}).etat, 2);
+}
+
+TEST_F(Programme, cherche_dans_le_dictionnaire_du_joueur) {
+    dossier.ecrire("miens.txt", "nez\nwok\nxyste\n");
+    auto arguments = recherche("forme=mots");
+    arguments.insert(arguments.end(), {"--mots", (dossier.chemin() / "miens.txt").string()});
+    EXPECT_EQ(lancer(arguments).sortie, "NEZ\nWOK\nXYSTE\n");
+}
+
+TEST_F(Programme, met_les_mots_et_leur_origine_a_cote_des_listes) {
+    EXPECT_EQ(lancer(petit(cible())).etat, 0);
+    EXPECT_THAT(lu("listes/dictionnaire.dat"), StartsWith("libre\r\n"));
+    EXPECT_THAT(lu("listes/mots.dat"), StartsWith("ORVMOTS1"));
+    dossier.ecrire("miens.txt", "nez\nwok\n");
+    auto arguments = petit(cible());
+    arguments.insert(arguments.end(), {"--mots", (dossier.chemin() / "miens.txt").string()});
+    EXPECT_EQ(lancer(arguments).etat, 0);
+    EXPECT_EQ(lu("listes/dictionnaire.dat"), "perso\r\n2\r\nmiens.txt\r\n");
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ class Scene:
 
     # The program.
 
-    def demarrer(self):
+    def demarrer(self, *arguments):
         execution = tempfile.mkdtemp()
         self.pile.callback(shutil.rmtree, execution, ignore_errors=True)
         environnement = dict(os.environ, XDG_RUNTIME_DIR=execution, QT_QPA_PLATFORM="xcb",
@@ -105,8 +105,8 @@ class Scene:
             environnement["QT_SCALE_FACTOR"] = self.echelle
         journal = open(self.dossier / "journal", "w")
         self.pile.callback(journal.close)
-        self.processus = subprocess.Popen([self.programme], cwd=self.dossier, env=environnement,
-                                          stdout=journal, stderr=journal)
+        self.processus = subprocess.Popen([self.programme, *arguments], cwd=self.dossier,
+                                          env=environnement, stdout=journal, stderr=journal)
         self.pile.callback(self._arreter, self.processus)
 
     def fini(self, statut=0):

@@ -1,0 +1,32 @@
+#pragma once
+
+// The window of the carnet: its pages, their menus, and how far the long work is.
+
+#include <QMainWindow>
+
+#include "seance.h"
+
+class QProgressBar;
+class QPushButton;
+class QTabWidget;
+
+namespace carnet {
+
+class Fenetrecarnet : public QMainWindow {
+    Q_OBJECT
+  public:
+    explicit Fenetrecarnet(Seance& seance);
+    /// Ends the long work first: it is the pages'.
+    ~Fenetrecarnet() override { seance_.tache().finir(); }
+
+  private:
+    void garnir();
+    void suivre();
+
+    Seance& seance_;
+    QTabWidget* onglets_;
+    QProgressBar* avance_;
+    QPushButton* annuler_;
+};
+
+}  // namespace carnet

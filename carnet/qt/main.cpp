@@ -1,0 +1,98 @@
+// orvane-carnet: what stands beside the trainer, in one window.
+
+#include <ctime>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "arguments.h"
+#include "disquereel.h"
+#include "fenetrecarnet.h"
+#include "reponses.h"
+
+namespace {
+
+enum Etat { bien = 0, enfaute = 1, mauvaisusage = 2 };
+
+int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
+    const QApplication application(nombre, arguments);
+    QApplication::setApplicationName(QStringLiteral("orvane-carnet"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Orvane"));
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    QTranslator boites;
+    if (boites.load(QStringLiteral("qtbase_fr"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&boites);
+    carnet::Seance seance(options);
+    carnet::Fenetrecarnet fenetre(seance);
+    fenetre.show();
+    seance.relire();
+    return QApplication::exec();
+}
+
+/// The day of the local calendar.
+carnet::Jour aujourdhui() {
+    constexpr int an1900 = 1900;
+    const auto maintenant = std::time(nullptr);
+    std::tm t{};
+    ::localtime_r(&maintenant, &t);
+    return profiles::jourdu(t.tm_year + an1900, t.tm_mon + 1, t.tm_mday).value_or(0);
+}
+
+int repondre(const carnet::Options& options) {
+    common::DisqueReel disque(options.dossier);
+    std::string avis;
+    const auto reponse =
+        options.action == carnet::Action::progres
+            ? carnet::progres(disque, options.util)
+            : carnet::echeances(disque, options.util, options.jour.value_or(aujourdhui()),
+                                options.plafond, avis);
+    if (!avis.empty())
+        std::cerr << avis << '\n';
+    if (const auto* refus = std::get_if<carnet::Refus>(&reponse)) {
+        std::cerr << refus->raison << '\n';
+        return enfaute;
+    }
+    std::cout << std::get<std::string>(reponse) << std::flush;
+    if (!std::cout) {
+        std::cerr << "La réponse n'a pas pu s'écrire.\n";
+        return enfaute;
+    }
+    return bien;
+}
+
+}  // namespace
+
+int main(int nombre, char** arguments) {
+    try {
+        const std::vector<std::string> mots(arguments + 1, arguments + nombre);
+        const auto options = carnet::lireoptions(mots);
+        if (options.action == carnet::Action::aide) {
+            std::cout << carnet::aide();
+            return bien;
+        }
+        if (options.action == carnet::Action::version) {
+            std::cout << "orvane-carnet " ORVANE_VERSION "\n";
+            return bien;
+        }
+        if (!options.dossier.empty() && !std::filesystem::is_directory(options.dossier)) {
+            std::cerr << options.dossier.string() << " : ce n'est pas un dossier.\n";
+            return enfaute;
+        }
+        if (options.action != carnet::Action::fenetre)
+            return repondre(options);
+        return ouvrir(options, nombre, arguments);
+    } catch (const carnet::MauvaisUsage& usage) {
+        std::cerr << usage.what() << "\nVoir orvane-carnet --help.\n";
+        return mauvaisusage;
+    } catch (const std::exception& faute) {
+        std::cerr << faute.what() << '\n';
+        return enfaute;
+    }
+}
