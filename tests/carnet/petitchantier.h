@@ -14,7 +14,7 @@ namespace essais {
 
 inline atelier::Chemins petitschemins() {
     const std::string petit = ORVANE_PETIT;
-    return {petit + "/petit.dic", petit + "/petit.aff", petit + "/petit.dat"};
+    return {petit + "/petit.dic", petit + "/petit.aff", petit + "/petit.dat", false};
 }
 
 inline bool continuer(int /*millemes*/, std::string_view /*quoi*/) {
