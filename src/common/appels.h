@@ -21,6 +21,7 @@ inline constexpr Poignee sanspoignee = -1;
 enum class Ouverture : std::uint8_t {
     Lecture,       ///< an existing file, to read
     Modification,  ///< an existing file, to read and write
+    Ajout,         ///< an existing file, to read, and to write at what is its end by then
     Creation       ///< a new file, to read and write; `file_exists` if the name is taken
 };
 
@@ -31,6 +32,7 @@ struct Etat {
     Genre genre = Genre::Autre;
     std::uint64_t disque = 0;
     std::uint64_t numero = 0;
+    std::uint64_t taille = 0;  ///< bytes
 };
 
 class Appels {
@@ -51,6 +53,10 @@ class Appels {
     /// Writes bytes from the start of `octets`; `ecrits` is how many, which may be fewer than all.
     [[nodiscard]] virtual std::error_code ecrire(Poignee poignee, std::string_view octets,
                                                  std::size_t& ecrits) = 0;
+    /// Sets the byte, from 0, at which the next reading begins.
+    [[nodiscard]] virtual std::error_code placer(Poignee poignee, std::uint64_t place) = 0;
+    /// Keeps only the first `taille` bytes of the file.
+    [[nodiscard]] virtual std::error_code couper(Poignee poignee, std::uint64_t taille) = 0;
     /// Returns once the bytes of the file would survive a power cut.
     [[nodiscard]] virtual std::error_code synchroniser(Poignee poignee) = 0;
     /// Returns once the names in the folder would survive a power cut.

@@ -56,10 +56,18 @@ class Disque {
                                                  std::unique_ptr<Flux>& flux) = 0;
     /// Appends bytes in one step; creates the file if it is missing. If the file ends in the middle
     /// of a line, the appended bytes start a new one. Waits, up to a limit, for a program that has
-    /// locked the file. Without bytes it creates a missing file, and tests
-    /// whether an existing one can be written.
+    /// locked the file. Without bytes it creates a missing file, and tests whether an existing one
+    /// can be written.
     [[nodiscard]] virtual std::error_code ajouter(std::string_view chemin,
                                                   std::string_view octets) = 0;
+    /// Appends whole lines in one write, without waiting: not for a program that has locked the
+    /// file (`Ennui::Retenu`), nor until the bytes would survive a power cut, which may leave half
+    /// of them. Creates the file if it is missing; if it ends in the middle of a line, the appended
+    /// bytes start a new one. On failure the file is unchanged, or empty if it was missing.
+    [[nodiscard]] virtual std::error_code deposer(std::string_view chemin,
+                                                  std::string_view octets) {
+        return ajouter(chemin, octets);
+    }
     /// Replaces the whole file in one step; creates it if it is missing.
     [[nodiscard]] virtual std::error_code remplacer(std::string_view chemin,
                                                     std::string_view octets) = 0;

@@ -1,6 +1,7 @@
 #include "disquereel.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -54,6 +55,38 @@ std::string_view soudure(std::string_view octets) {
     if (octets.empty() || octets.back() == '\n')
         return {};
     return octets.back() == '\r' ? fin.substr(1) : fin;
+}
+
+/// What has to come between the end of a file of that size and a new line.
+std::error_code mesurersoudure(Appels& appels, Poignee poignee, std::uint64_t taille,
+                               std::string_view& entre) {
+    std::array<char, 1> dernier{};
+    std::size_t lus = 0;
+    if (taille == 0)
+        return {};
+    if (const auto erreur = appels.placer(poignee, taille - 1))
+        return erreur;
+    const auto erreur = appels.lire(poignee, dernier, lus);
+    entre = soudure({dernier.data(), lus});
+    return erreur;
+}
+
+/// Opens a file to append to, empty if it is new, and keeps other programs from it. Waits for none.
+std::error_code saisir(Appels& appels, const std::filesystem::path& cible, Descripteur& fichier) {
+    auto erreur = fichier.ouvrir(cible, Ouverture::Ajout);
+    if (erreur == std::errc::no_such_file_or_directory) {
+        erreur = fichier.ouvrir(cible, Ouverture::Creation);
+        if (erreur && erreur != std::errc::file_exists)
+            return erreur;
+        erreur = fichier.ouvrir(cible, Ouverture::Ajout);
+    }
+    if (erreur)
+        return erreur;
+    bool pris = true;
+    if (appels.verrouiller(fichier.poignee(), pris))
+        return {};  // a disk without locks
+    // Another program may have put a new file in its place before the lock.
+    return pris && fichier.nomme(cible) ? std::error_code() : make_error_code(Ennui::Retenu);
 }
 
 /// Makes the file, empty, or else says whether it can be written.
@@ -115,6 +148,30 @@ std::error_code DisqueReel::ajouter(std::string_view chemin, std::string_view oc
         return erreur;
     contenu.append(soudure(contenu)).append(octets);
     return poser(*appels_, cible, contenu);
+}
+
+std::error_code DisqueReel::deposer(std::string_view chemin, std::string_view octets) {
+    auto cible = systeme(chemin);
+    if (const auto erreur = destination(*appels_, cible))
+        return erreur;
+    Descripteur fichier(*appels_);
+    Etat avant;
+    std::string_view entre;
+    auto erreur = saisir(*appels_, cible, fichier);
+    if (!erreur)
+        erreur = appels_->etat(fichier.poignee(), avant);
+    if (!erreur)
+        erreur = mesurersoudure(*appels_, fichier.poignee(), avant.taille, entre);
+    if (erreur)
+        return erreur;
+    const auto tout = std::string(entre).append(octets);
+    std::size_t ecrits = 0;
+    erreur = appels_->ecrire(fichier.poignee(), tout, ecrits);
+    if (!erreur && ecrits < tout.size())
+        erreur = std::make_error_code(std::errc::no_space_on_device);
+    if (erreur)
+        static_cast<void>(appels_->couper(fichier.poignee(), avant.taille));
+    return erreur;
 }
 
 std::error_code DisqueReel::remplacer(std::string_view chemin, std::string_view octets) {

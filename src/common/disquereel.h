@@ -12,7 +12,8 @@ inline constexpr std::int64_t attentelimite = 5000;
 
 /// The disk of the system. Paths of the rules are relative to `racine`, and get the system's own
 /// separator; an empty root is the working folder. Only regular files are read or written. A change
-/// through a link changes what the link leads to. Every change writes a whole new file,
+/// through a link changes what the link leads to. Every change but `deposer` writes a whole new
+/// file,
 /// `<name>.<number>.tmp`, which then replaces the old one.
 class DisqueReel : public Disque {
   public:
@@ -23,6 +24,8 @@ class DisqueReel : public Disque {
     [[nodiscard]] std::error_code ouvrir(std::string_view chemin,
                                          std::unique_ptr<Flux>& flux) override;
     [[nodiscard]] std::error_code ajouter(std::string_view chemin,
+                                          std::string_view octets) override;
+    [[nodiscard]] std::error_code deposer(std::string_view chemin,
                                           std::string_view octets) override;
     [[nodiscard]] std::error_code remplacer(std::string_view chemin,
                                             std::string_view octets) override;

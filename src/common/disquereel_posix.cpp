@@ -50,6 +50,7 @@ Etat traduire(const struct stat& lu) {
         etat.genre = Genre::Dossier;
     etat.disque = static_cast<std::uint64_t>(lu.st_dev);
     etat.numero = static_cast<std::uint64_t>(lu.st_ino);
+    etat.taille = static_cast<std::uint64_t>(lu.st_size);
     return etat;
 }
 
@@ -61,6 +62,8 @@ int modes(Ouverture mode) {
             return O_RDONLY | toujours;
         case Ouverture::Modification:
             return O_RDWR | toujours;
+        case Ouverture::Ajout:
+            return O_RDWR | O_APPEND | toujours;
         case Ouverture::Creation:
             break;
     }
@@ -95,6 +98,16 @@ class AppelsPosix : public Appels {
             return derniere();
         ecrits = static_cast<std::size_t>(n);
         return {};
+    }
+
+    std::error_code placer(Poignee poignee, std::uint64_t place) override {
+        const auto ou = ::lseek(numero(poignee), static_cast<off_t>(place), SEEK_SET);
+        return ou < 0 ? derniere() : std::error_code();
+    }
+
+    std::error_code couper(Poignee poignee, std::uint64_t taille) override {
+        return issue(
+            recommencer([&] { return ::ftruncate(numero(poignee), static_cast<off_t>(taille)); }));
     }
 
     std::error_code synchroniser(Poignee poignee) override {

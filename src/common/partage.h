@@ -1,6 +1,6 @@
 #pragma once
 
-// The public variables of the menu and of the options, which every form reads.
+// Public variables of the menu and of the options, read by every form.
 
 #include <cstdint>
 #include <string>
@@ -16,23 +16,23 @@ inline constexpr std::string_view revision = "R";
 inline constexpr std::string_view partie;
 }  // namespace modes
 
-/// Behind the title of a list, in `nombase`, when its revision file is worked.
+/// Suffix of `nombase` during a revision run.
 inline constexpr std::string_view titrerevision = " (révisions)";
 
-/// Content of `typ` in the panel of the extensions.
+/// Value of `typ` on the panel of rallonges.
 inline constexpr std::string_view typrallonges = "rallong";
 
-/// The name of the colour that stands for every unknown name.
+/// The colour name that replaces every unknown one.
 inline constexpr std::string_view couleurpardefaut = "Par défaut";
 
 /// Public variables of `Form3` (the menu).
 struct VariablesForm3 {
-    std::string util;                             ///< user name, and the name of the user's folder
-    std::string toue;                             ///< kind of run, one of `modes`
-    std::string typ;                              ///< `typrallonges` or empty
-    std::string nombase;                          ///< title of the list
-    std::string listerevisee;                     ///< file of the list of a revision run
-    bool persomulti = false;                      ///< the personal list has several solutions
+    std::string util;          ///< user name, and the name of the user's folder
+    std::string toue;          ///< kind of run, one of `modes`
+    std::string typ;           ///< `typrallonges` or empty
+    std::string nombase;       ///< title of the list
+    std::string listerevisee;  ///< list file that a revision run belongs to
+    bool persomulti = false;   ///< racks of the personal list have several solutions
     std::string couleurdufond{couleurpardefaut};  ///< name of the background colour
     std::string versionlocale;
     std::string dateversion;

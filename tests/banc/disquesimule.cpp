@@ -54,6 +54,10 @@ std::error_code DisqueSimule::ajouter(std::string_view chemin, std::string_view 
     return ecrit && plein(chemin) ? disqueplein() : DisqueReel::ajouter(chemin, octets);
 }
 
+std::error_code DisqueSimule::deposer(std::string_view chemin, std::string_view octets) {
+    return plein(chemin) ? disqueplein() : DisqueReel::deposer(chemin, octets);
+}
+
 std::error_code DisqueSimule::remplacer(std::string_view chemin, std::string_view octets) {
     ++ecritures_;
     return plein(chemin) ? disqueplein() : DisqueReel::remplacer(chemin, octets);

@@ -33,6 +33,8 @@ class DisqueSimule : public common::DisqueReel {
                                          std::unique_ptr<common::Flux>& flux) override;
     [[nodiscard]] std::error_code ajouter(std::string_view chemin,
                                           std::string_view octets) override;
+    [[nodiscard]] std::error_code deposer(std::string_view chemin,
+                                          std::string_view octets) override;
     [[nodiscard]] std::error_code remplacer(std::string_view chemin,
                                             std::string_view octets) override;
     [[nodiscard]] std::error_code creerdossier(std::string_view chemin) override;

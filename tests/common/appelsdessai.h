@@ -72,6 +72,13 @@ class AppelsDessai : public common::Appels {
                                  ecrits);
         });
     }
+    std::error_code placer(common::Poignee poignee, std::uint64_t place) override {
+        return faire(
+            "placer", [&] { return vrais_.placer(poignee, place); }, false);
+    }
+    std::error_code couper(common::Poignee poignee, std::uint64_t taille) override {
+        return faire("couper", [&] { return vrais_.couper(poignee, taille); });
+    }
     std::error_code synchroniser(common::Poignee poignee) override {
         return faire("synchroniser", [&] {
             const auto erreur = vrais_.synchroniser(poignee);

@@ -1,0 +1,235 @@
+#include "journal.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstring>
+#include <memory>
+
+#include "texte.h"
+
+namespace profiles {
+namespace {
+
+constexpr char separateur = ';';
+constexpr std::string_view findeligne = "\r\n";
+constexpr std::size_t nombredechamps = 7;
+constexpr std::string_view entredateetheure = " - ";
+
+std::string joindre(const std::vector<std::string>& mots) {
+    std::string joints;
+    for (const auto& mot : mots)
+        joints.append(&mot == &mots.front() ? "" : ",").append(mot);
+    return joints;
+}
+
+/// Two digits or more, at a place, as a number; -1 if there is another sign.
+int nombre(std::string_view texte, std::size_t place, std::size_t chiffres) {
+    constexpr int base = 10;
+    int valeur = 0;
+    for (const char c : texte.substr(place, chiffres)) {
+        if (c < '0' || c > '9')
+            return -1;
+        valeur = valeur * base + (c - '0');
+    }
+    return valeur;
+}
+
+/// The day of dd/mm/yyyy, in days since 1 January 1970.
+std::optional<std::int32_t> lirejour(std::string_view texte) {
+    if (texte[2] != '/' || texte[5] != '/')
+        return std::nullopt;
+    const int jour = nombre(texte, 0, 2);
+    const int mois = nombre(texte, 3, 2);
+    const int annee = nombre(texte, 6, 4);
+    if (jour < 1 || mois < 1 || annee < 1)
+        return std::nullopt;
+    const std::chrono::year_month_day date(std::chrono::year(annee),
+                                           std::chrono::month(static_cast<unsigned>(mois)),
+                                           std::chrono::day(static_cast<unsigned>(jour)));
+    if (!date.ok())
+        return std::nullopt;
+    return static_cast<std::int32_t>(std::chrono::sys_days(date).time_since_epoch().count());
+}
+
+/// The second of the day of HH:MM:SS.
+std::optional<std::int32_t> lireseconde(std::string_view texte) {
+    constexpr int heures = 24;
+    constexpr int soixante = 60;
+    if (texte[2] != ':' || texte[5] != ':')
+        return std::nullopt;
+    const int heure = nombre(texte, 0, 2);
+    const int minute = nombre(texte, 3, 2);
+    const int seconde = nombre(texte, 6, 2);
+    if (heure < 0 || heure >= heures || minute < 0 || minute >= soixante || seconde < 0 ||
+        seconde >= soixante)
+        return std::nullopt;
+    return (heure * soixante + minute) * soixante + seconde;
+}
+
+bool liremoment(std::string_view texte, Lignejournal& lue) {
+    constexpr std::size_t largeurdujour = 10;  // dd/mm/yyyy
+    constexpr std::size_t placeheure = largeurdujour + entredateetheure.size();
+    constexpr std::size_t largeurheure = 8;  // HH:MM:SS
+    if (texte.size() != placeheure + largeurheure ||
+        texte.substr(largeurdujour, entredateetheure.size()) != entredateetheure)
+        return false;
+    const auto jour = lirejour(texte);
+    const auto seconde = lireseconde(texte.substr(placeheure));
+    if (!jour || !seconde)
+        return false;
+    lue.jour = *jour;
+    lue.seconde = *seconde;
+    return true;
+}
+
+/// Gives up the oldest lines that wait, past the limit.
+void alleger(std::string& attente) {
+    if (attente.size() <= limiteattente)
+        return;
+    const auto fin = attente.find('\n', attente.size() - limiteattente);
+    attente.erase(0, fin == std::string::npos ? std::string::npos : fin + 1);
+}
+
+/// Cuts the bytes of a file into lines, in the memory of one line.
+class Decoupage {
+  public:
+    Decoupage(const std::function<void(const Lignejournal&)>& voir, Lecturejournal& lecture)
+        : voir_(voir), lecture_(lecture) {}
+
+    /// Where the next bytes of the file go.
+    [[nodiscard]] std::span<char> place() {
+        constexpr std::size_t bloc = 256UL * 1024;
+        if (tampon_.size() < fin_ + bloc)
+            tampon_.resize(fin_ + bloc);
+        return std::span(tampon_).subspan(fin_, bloc);
+    }
+    void prendre(std::size_t octets) {
+        fin_ += octets;
+        std::size_t debut = 0;
+        while (const auto* saut = static_cast<const char*>(
+                   std::memchr(tampon_.data() + debut, '\n', fin_ - debut))) {
+            const auto ici = static_cast<std::size_t>(saut - tampon_.data());
+            donner({tampon_.data() + debut, ici - debut});
+            debut = ici + 1;
+        }
+        std::memmove(tampon_.data(), tampon_.data() + debut, fin_ - debut);
+        fin_ -= debut;
+        if (fin_ > limitelignejournal) {
+            fin_ = 0;
+            trop_ = true;
+        }
+    }
+    /// The end of the file: a last line without its line end is a line too.
+    void finir() {
+        if (fin_ > 0 || trop_)
+            donner({tampon_.data(), fin_});
+    }
+
+  private:
+    void donner(std::string_view ligne) {
+        if (ligne.ends_with('\r'))
+            ligne.remove_suffix(1);
+        const auto lue = trop_ ? std::nullopt : lirelignejournal(ligne);
+        trop_ = false;
+        if (lue)
+            voir_(*lue);
+        ++(lue ? lecture_.lues : lecture_.sautees);
+    }
+
+    const std::function<void(const Lignejournal&)>& voir_;
+    Lecturejournal& lecture_;
+    std::vector<char> tampon_;
+    std::size_t fin_ = 0;
+    bool trop_ = false;  ///< the line under way is too long, and its beginning is gone
+};
+
+}  // namespace
+
+std::string cheminjournal(std::string_view util) {
+    return std::string(util) + "\\journal.txt";
+}
+
+bool Tiragejuge::trouve() const {
+    return std::all_of(solutions.begin(), solutions.end(), [this](const std::string& mot) {
+        return std::find(saisis.begin(), saisis.end(), mot) != saisis.end();
+    });
+}
+
+std::string lignejournal(const Serie& serie, const Tiragejuge& juge) {
+    std::string debut = serie.quand.date();
+    debut.append(entredateetheure).append(serie.quand.heuredujour());
+    for (const auto champ : {serie.liste, serie.mode, std::string_view(juge.tirage)})
+        debut.append(1, separateur).append(champ);
+    debut.append(1, separateur).append(joindre(juge.solutions));
+    debut.append(juge.trouve() ? ";1;" : ";0;");
+    const auto octets = common::essayervers1252(debut);
+    if (!octets)
+        return {};
+    const bool blanc = std::all_of(juge.saisis.begin(), juge.saisis.end(),
+                                   [](const std::string& saisi) { return saisi.empty(); });
+    const auto saisi =
+        blanc ? std::string() : common::essayervers1252(joindre(juge.saisis)).value_or("");
+    return std::string(*octets).append(saisi).append(findeligne);
+}
+
+void journaliser(common::Disque& disque, std::string_view util, const Serie& serie,
+                 std::span<const Tiragejuge> juges, std::string& attente) {
+    for (const auto& juge : juges)
+        attente.append(lignejournal(serie, juge));
+    if (attente.empty())
+        return;
+    if (disque.deposer(cheminjournal(util), attente))
+        alleger(attente);
+    else
+        attente.clear();
+}
+
+std::optional<Lignejournal> lirelignejournal(std::string_view ligne) {
+    std::array<std::string_view, nombredechamps> champs;
+    std::size_t nombre = 0;
+    for (std::size_t debut = 0; debut <= ligne.size(); ++nombre) {
+        if (nombre == nombredechamps)
+            return std::nullopt;
+        const auto fin = std::min(ligne.find(separateur, debut), ligne.size());
+        champs.at(nombre) = ligne.substr(debut, fin - debut);
+        debut = fin + 1;
+    }
+    if (nombre != nombredechamps)
+        return std::nullopt;
+    Lignejournal lue;
+    const auto& [moment, liste, mode, tirage, solutions, trouve, saisi] = champs;
+    const bool sanssolution = solutions.find_first_not_of(',') == std::string_view::npos;
+    if (tirage.empty() || sanssolution || (trouve != "0" && trouve != "1") ||
+        !liremoment(moment, lue))
+        return std::nullopt;
+    lue.liste = liste;
+    lue.mode = mode;
+    lue.tirage = tirage;
+    lue.solutions = solutions;
+    lue.identifiant = {tirage.data(), tirage.size() + 1 + solutions.size()};
+    lue.trouve = trouve == "1";
+    lue.saisi = saisi;
+    return lue;
+}
+
+std::error_code parcourirjournal(common::Disque& disque, std::string_view chemin,
+                                 const std::function<void(const Lignejournal&)>& voir,
+                                 Lecturejournal& lecture) {
+    std::unique_ptr<common::Flux> flux;
+    auto erreur = disque.ouvrir(chemin, flux);
+    if (erreur)
+        return erreur == std::errc::no_such_file_or_directory ? std::error_code() : erreur;
+    Decoupage decoupage(voir, lecture);
+    for (std::size_t lus = 1; lus > 0;) {
+        const auto place = decoupage.place();
+        lus = 0;
+        if ((erreur = flux->lire(place, lus)))
+            return erreur;
+        decoupage.prendre(lus);
+    }
+    decoupage.finir();
+    return {};
+}
+
+}  // namespace profiles
