@@ -8,60 +8,73 @@ namespace ui::qt {
 namespace {
 
 constexpr int statutservi = 200;     // of http
+constexpr int renvoislimite = 20;    // redirections of one transfer
 constexpr qint64 bloc = 1 << 16;     // bytes handed over at once
 constexpr qint64 avance = 4 * bloc;  // bytes that may wait to be handed over
 
-QNetworkRequest requete(const Demande& demande) {
-    QNetworkRequest requete(demande.adresse);
+QNetworkRequest requete(const QUrl& adresse, int silence) {
+    QNetworkRequest requete(adresse);
     requete.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     requete.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
     requete.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
+                         QNetworkRequest::ManualRedirectPolicy);
     requete.setRawHeader("Cache-Control", "no-cache");
     requete.setRawHeader("Pragma", "no-cache");
     // A few packed bytes could unfold into any number of them.
     requete.setRawHeader("Accept-Encoding", "identity");
-    requete.setTransferTimeout(demande.silence);
+    requete.setTransferTimeout(silence);
     return requete;
 }
 
+/// Redirections are followed here, each once its own answer has ended: a reply that is destroyed
+/// while Qt follows one for it leaks what its network thread has not taken yet.
 class TransfertQt : public Transfert {
   public:
-    explicit TransfertQt(const Demande& demande)
-        : demande_(demande), reponse_(reseau_.get(requete(demande))) {
-        auto* reponse = reponse_.get();
-        reponse->setReadBufferSize(avance);
-        QObject::connect(reponse, &QNetworkReply::redirected, reponse,
-                         [this](const QUrl& ailleurs) {
-                             if (demande_.suivre(ailleurs))
-                                 emit reponse_->redirectAllowed();
-                             else
-                                 reponse_->abort();
-                         });
-        QObject::connect(reponse, &QNetworkReply::readyRead, reponse, [this] {
-            if (!lire())
-                reponse_->abort();
-        });
-        QObject::connect(reponse, &QNetworkReply::finished, reponse, [this] {
-            // A ring of redirections ends without an error, at the last of them.
-            const auto statut = reponse_->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-            const bool servi =
-                reponse_->error() == QNetworkReply::NoError && statut.toInt() == statutservi;
-            demande_.finir(servi && lire());
-        });
-    }
+    explicit TransfertQt(const Demande& demande) : demande_(demande) { partir(demande.adresse); }
     TransfertQt(const TransfertQt&) = delete;
     TransfertQt& operator=(const TransfertQt&) = delete;
     ~TransfertQt() override { reponse_->disconnect(); }
 
   private:
-    /// Hands over what has come.
+    void partir(const QUrl& adresse) {
+        reponse_ = reseau_.get(requete(adresse, demande_.silence));
+        reponse_->setReadBufferSize(avance);
+        QObject::connect(reponse_, &QNetworkReply::readyRead, reponse_, [this] {
+            if (!lire())
+                reponse_->abort();
+        });
+        QObject::connect(reponse_, &QNetworkReply::finished, reponse_, [this] { aboutir(); });
+    }
+
+    void aboutir() {
+        const auto cible = reponse_->attribute(QNetworkRequest::RedirectionTargetAttribute);
+        const bool entier = reponse_->error() == QNetworkReply::NoError;
+        if (!entier || !cible.isValid()) {
+            demande_.finir(entier && servi() && lire());
+            return;
+        }
+        const auto ailleurs = reponse_->url().resolved(cible.toUrl());
+        if (++renvois_ > renvoislimite || !demande_.suivre(ailleurs)) {
+            demande_.finir(false);
+            return;
+        }
+        reponse_->disconnect();
+        reponse_->deleteLater();
+        partir(ailleurs);
+    }
+
+    [[nodiscard]] bool servi() const {
+        return reponse_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == statutservi;
+    }
+
+    /// Hands over what has come; what comes with another status is dropped.
     bool lire() {
         const auto longueur = reponse_->header(QNetworkRequest::ContentLengthHeader);
         const auto annonce = longueur.isValid() ? longueur.toLongLong() : -1;
         while (reponse_->bytesAvailable() > 0) {
-            if (!demande_.recevoir(reponse_->read(bloc), annonce))
+            const auto octets = reponse_->read(bloc);
+            if (servi() && !demande_.recevoir(octets, annonce))
                 return false;
         }
         return true;
@@ -69,7 +82,8 @@ class TransfertQt : public Transfert {
 
     Demande demande_;
     QNetworkAccessManager reseau_;
-    std::unique_ptr<QNetworkReply> reponse_;
+    QNetworkReply* reponse_ = nullptr;  // of the manager
+    int renvois_ = 0;
 };
 
 }  // namespace
