@@ -24,6 +24,7 @@ def tous(objet):
 
 def connecternouveau(scene, nom):
     """A first start: a new player is made, then logs in."""
+    scene.devant(BIENVENUE)  # the window manager moves a window until it is there
     scene.cliquer(scene.objets(BIENVENUE)["Nouvel utilisateur ?"])
     boite = attendre(lambda: scene.objets(BIENVENUE).get("Nom du nouvel utilisateur"),
                      "la boîte du nom")

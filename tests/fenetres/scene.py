@@ -118,9 +118,12 @@ class Scene:
             raise Echec("avertissements : " + self.journal())
 
     def journal(self):
-        """What the program wrote on its error output, but for the sound server that is not here."""
+        """What the program wrote on its error output, but for the sound server that is not here and
+        the cell of a table that went away while the scene was reading it."""
         lignes = (self.dossier / "journal").read_text(errors="replace").splitlines()
-        return "\n".join(ligne for ligne in lignes if not ligne.startswith("PulseAudioService"))
+        return "\n".join(ligne for ligne in lignes
+                         if not ligne.startswith(("PulseAudioService",
+                                                  "QAccessibleTable::child: Invalid index")))
 
     # Its files, with a backslash as the program writes them.
 
