@@ -13,8 +13,9 @@ constexpr std::string_view fichierversion = "version_en_ligne.txt";
 constexpr std::string_view fichierlien = "downloadlink.txt";
 constexpr std::string_view fichierinstalleur = "orvane_setup.exe";
 
-constexpr std::int64_t tailledeligne = 1 << 16;          // bytes of the version file, of the link
-constexpr std::int64_t tailleinstalleur = 512LL << 20U;  // bytes
+// Bytes of a file, at most. The lines of the small ones need no limit of their own.
+constexpr std::int64_t tailledetexte = 1 << 16;  // of the version file, of the link file
+constexpr std::int64_t tailleinstalleur = 512LL << 20U;
 
 using Ligne = std::optional<std::string>;
 
@@ -38,14 +39,14 @@ bool memeversion(std::string_view locale, std::string_view publiee) {
 
 void MiseAJour::verifier() {
     const auto chemin = dansdossierprogramme(fichierversion);
-    if (!plateforme_.telecharger(publication_.version, chemin, {.taille = tailledeligne})) {
+    if (!plateforme_.telecharger(publication_.version, chemin, {.taille = tailledetexte})) {
         ouvrirpage(
             "Erreur durant la vérification. Votre navigateur va s'ouvrir sur la page d'Orvane.",
             ui::Icone::Exclamation);
         return;
     }
     const auto [ligne, somme] = premiereslignes(
-        common::liretexte(plateforme_.disque(), chemin, "Vérification de la mise à jour"));
+        common::lirefichier(plateforme_.disque(), chemin, "Vérification de la mise à jour"));
     const auto publiee = ligne.value_or("");
     if (memeversion(form3_.versionlocale, publiee))
         plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
@@ -69,7 +70,7 @@ void MiseAJour::telecharger(const std::optional<std::string>& somme) {
     menu_.aide("Téléchargement en cours");
     plateforme_.laissercourir();
     if (!plateforme_.telecharger(publication_.lien, fichierlien,
-                                 {.sure = true, .taille = tailledeligne})) {
+                                 {.sure = true, .taille = tailledetexte})) {
         ouvrirpage(
             "Erreur durant le téléchargement automatisé, désolé. Votre navigateur va s'ouvrir sur "
             "la page d'Orvane, vous pourrez ensuite télécharger la dernière version.",
@@ -115,7 +116,7 @@ void MiseAJour::ouvrirpage(std::string_view explication, ui::Icone icone) {
 /// a word.
 std::optional<std::string> MiseAJour::lirelien() {
     std::string octets;
-    if (common::essayerliretexte(plateforme_.disque(), fichierlien, octets))
+    if (common::essayerlire(plateforme_.disque(), fichierlien, octets))
         return std::nullopt;
     return premiereslignes(octets).front();
 }

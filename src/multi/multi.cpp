@@ -73,11 +73,12 @@ void Multi::branchersaisie() {
         };
     recherche.entree = [this] { mettredefaut(valider); };
     recherche.clic = [this] { cliquerrecherche(boite_); };
-    valider.clic = [this] {
-        validerrecherche();
-        if (!serie_.ouverte)
-            mettredefaut(Command2);
-    };
+}
+
+void Multi::validerrecherche() {
+    Formserie::validerrecherche();
+    if (!serie_.ouverte)
+        mettredefaut(Command2);
 }
 
 void Multi::coloration() {

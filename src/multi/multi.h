@@ -32,6 +32,7 @@ class Multi : public series::Formserie {
   private:
     void ordonner();
     void branchersaisie();
+    void validerrecherche() override;
 
     // multi_liste.cpp: the list, the criterion.
     void ouvrircritere();

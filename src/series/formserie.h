@@ -84,7 +84,7 @@ class Formserie : public ui::Formulaire {
     /// All boxes in use but one, and all racks but its own, at rest.
     void peindreautres(int rang);
     /// Puts the second line of entry in the current box, and makes the next one current.
-    void validerrecherche();
+    virtual void validerrecherche();
     /// A click in the second line of entry: the first rack at rest, this box in the current colour.
     void cliquerrecherche(int rang);
 

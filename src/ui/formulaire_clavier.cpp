@@ -148,6 +148,10 @@ void Formulaire::coller(std::string_view texteacoller) {
     if (controle == nullptr || !editable(*controle) || controle->verrou() ||
         !controle->pressepapiers)
         return;
+    struct Amas {
+        Controle& boite;
+        ~Amas() { boite.oublieramas(); }  // also where a handler throws
+    } const amas{*controle};
     plateforme_.unseulbip([&] {
         for (const auto& lettre : common::caracteres(texteacoller)) {
             if (focus_ != controle)
