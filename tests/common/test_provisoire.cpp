@@ -44,13 +44,6 @@ class Disquepauvre : public essais::AppelsDessai {
 
 class Provisoire : public testing::Test {
   protected:
-    [[nodiscard]] std::vector<std::string> noms() const {
-        std::vector<std::string> lus;
-        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
-            lus.push_back(entree.path().filename().string());
-        std::sort(lus.begin(), lus.end());
-        return lus;
-    }
     [[nodiscard]] std::ptrdiff_t place(std::string_view appel) const {
         return std::find(appels.journal.begin(), appels.journal.end(), appel) -
                appels.journal.begin();
@@ -85,7 +78,7 @@ TEST_F(Provisoire, un_mode_refuse_est_un_echec_et_ne_change_rien) {
     appels.sansmodes = std::make_error_code(std::errc::operation_not_permitted);
     EXPECT_EQ(disque.remplacer("f.txt", "B"), std::errc::operation_not_permitted);
     EXPECT_EQ(dossier.lire("f.txt"), "A");
-    EXPECT_EQ(noms(), seul);
+    EXPECT_EQ(dossier.noms(), seul);
 }
 
 TEST_F(Provisoire, un_mode_qui_convient_n_est_pas_demande) {
@@ -108,11 +101,11 @@ TEST_F(Provisoire, sans_refus_d_un_nom_pris_un_second_nom_le_fait) {
     appels.sansrefus = true;
     EXPECT_FALSE(disque.ajouter("f.txt", "A\r\n"));
     EXPECT_TRUE(appele("doubler"));
-    EXPECT_EQ(noms(), seul);
+    EXPECT_EQ(dossier.noms(), seul);
     auto cible = dossier.chemin() / "f.txt";
     EXPECT_EQ(common::poser(appels, cible, "B", true), std::errc::file_exists);
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
-    EXPECT_EQ(noms(), seul);
+    EXPECT_EQ(dossier.noms(), seul);
 }
 
 TEST_F(Provisoire, sans_seconds_noms_un_nom_pris_est_refuse_aussi) {
@@ -123,7 +116,7 @@ TEST_F(Provisoire, sans_seconds_noms_un_nom_pris_est_refuse_aussi) {
     auto cible = dossier.chemin() / "f.txt";
     EXPECT_EQ(common::poser(appels, cible, "B", true), std::errc::file_exists);
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
-    EXPECT_EQ(noms(), seul);
+    EXPECT_EQ(dossier.noms(), seul);
 }
 
 TEST_F(Provisoire, un_premier_nom_qui_reste_n_est_pas_un_echec) {
@@ -131,7 +124,7 @@ TEST_F(Provisoire, un_premier_nom_qui_reste_n_est_pas_un_echec) {
     appels.suppressionrefusee = true;
     EXPECT_FALSE(disque.ajouter("f.txt", "A\r\n"));
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
-    EXPECT_EQ(noms().size(), 2U);
+    EXPECT_EQ(dossier.noms().size(), 2U);
 }
 
 /// Killed before each of its changes, an append leaves nothing, or the whole file; and its next
@@ -149,10 +142,10 @@ TEST_F(Provisoire, tue_entre_ses_deux_noms_il_laisse_l_avant_ou_l_apres) {
         });
         const bool fait = disque.existe("f.txt");
         EXPECT_EQ(dossier.lire("f.txt"), fait ? "A\r\n" : "");
-        deuxnoms = deuxnoms || (fait && noms().size() == 2U);
+        deuxnoms = deuxnoms || (fait && dossier.noms().size() == 2U);
         EXPECT_FALSE(disque.ajouter("f.txt", "B\r\n"));
         EXPECT_EQ(dossier.lire("f.txt"), fait ? "A\r\nB\r\n" : "B\r\n");
-        EXPECT_EQ(noms(), seul);
+        EXPECT_EQ(dossier.noms(), seul);
     }
     EXPECT_TRUE(deuxnoms);
 }
