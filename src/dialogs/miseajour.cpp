@@ -19,7 +19,7 @@ constexpr std::int64_t tailleinstalleur = 512LL << 20U;
 
 using Ligne = std::optional<std::string>;
 
-/// The first two lines of a file's bytes, whole; nothing for one that it has not.
+/// The first two lines of a file; nothing for a line that it lacks.
 std::array<Ligne, 2> premiereslignes(std::string_view octets) {
     common::Lignes lignes(octets);
     std::array<Ligne, 2> lues;
@@ -60,8 +60,8 @@ bool MiseAJour::proposer(std::string_view publiee) {
                                 " est disponible. Voulez-vous la télécharger ?");
 }
 
-/// Fetches the link, then what it leads to, which has to have the published sum if there is one. A
-/// link that cannot be fetched or read leaves the busy pointer on the menu.
+/// Downloads the link, then the installer, which must match the published sum if there is one. If
+/// the link fails, the menu keeps its busy pointer.
 void MiseAJour::telecharger(const std::optional<std::string>& somme) {
     plateforme_.message(
         "Le programme va télécharger la nouvelle version, cela peut prendre quelques secondes.",
@@ -92,8 +92,7 @@ void MiseAJour::telecharger(const std::optional<std::string>& somme) {
             ui::Icone::Information);
 }
 
-/// Hands over to the installer and ends the program, unless a file that was downloaded cannot be
-/// deleted.
+/// Opens the installer and ends the program, unless a downloaded file cannot be deleted.
 void MiseAJour::installer() {
     plateforme_.message(
         "Orvane va maintenant se fermer et l'installation de la mise à jour va débuter. Suivez les "
@@ -112,8 +111,8 @@ void MiseAJour::ouvrirpage(std::string_view explication, ui::Icone icone) {
     plateforme_.ouvrir(publication_.page);
 }
 
-/// The address in the link file; nothing if it cannot be read. This failure ends the check without
-/// a word.
+/// The address in the link file; nothing if it cannot be read, which ends the check without a
+/// message.
 std::optional<std::string> MiseAJour::lirelien() {
     std::string octets;
     if (common::essayerlire(plateforme_.disque(), fichierlien, octets))
