@@ -10,7 +10,7 @@ namespace assets {
 
 namespace {
 
-constexpr double lisere = 1.3;  // light rim that parts a mark from any colour under it
+constexpr double lisere = 1.3;  // light rim that sets a mark off from any colour under it
 constexpr Couleur blanc = rvb(0xFFFFFF);
 
 struct Ligne {
@@ -48,7 +48,7 @@ struct Signe {
     Contour contour;
     Teinte teinte;
     std::vector<Ligne> lignes;
-    bool nouveau = false;  // a sparkle in the left half: the word has come in
+    bool nouveau = false;  // a sparkle in the left half, for a new word
 };
 
 Contour carre(double debut, double fin, double rayon) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The pictures of the program: drawing, file and size.
+// The pictures of the program.
 
 #include <string>
 #include <vector>
@@ -9,9 +9,9 @@
 
 namespace assets {
 
-/// A file of the folder `images`: PNG if its name ends in .png, otherwise a bitmap. Marks and
-/// badges come in three variants: nominal size, and with twice and four times as many pixels each
-/// way, marked by "@2x" and "@4x" before the extension.
+/// A picture of the folder `images`: a PNG file if its name ends in .png, otherwise a BMP file.
+/// Marks and badges have three files each: one at nominal size, one twice and one four times as
+/// wide and high, with "@2x" and "@4x" before the extension.
 struct Tableau {
     std::string nom;
     Dessin dessin;
@@ -19,12 +19,13 @@ struct Tableau {
     int hauteur;
 };
 
+/// All pictures.
 [[nodiscard]] std::vector<Tableau> tableaux();
 
 /// The bytes of the picture's file.
 [[nodiscard]] std::string fichier(const Tableau& tableau);
 
-/// A letter tile with side 1 and its points in the corner.
+/// A letter tile with sides of length 1, and the points of the letter in its corner.
 [[nodiscard]] Dessin jeton(char lettre, int valeur);
 
 /// The picture of the login form: a rack whose tiles spell the name of the program.

@@ -10,30 +10,31 @@
 
 namespace assets {
 
-/// Pixels row by row from the top, four bytes each: red, green, blue, opacity (not premultiplied).
+/// The pixels are stored row by row from the top, four bytes each: red, green, blue and opacity
+/// (not premultiplied).
 struct Image {
     int largeur = 0;
     int hauteur = 0;
     std::vector<std::uint8_t> pixels;
 };
 
-/// Paints a drawing, stretched to `largeur` by `hauteur` pixels, with smooth edges.
+/// Paints a drawing, stretched to `largeur` by `hauteur` pixels, with antialiased edges.
 [[nodiscard]] Image peindre(const Dessin& dessin, int largeur, int hauteur);
 
-/// A bitmap file with 32 bits a pixel, opacity included (version 4 header, rows from the bottom).
+/// The bytes of a BMP file: 32 bits a pixel with opacity, version 4 header, rows from the bottom.
 [[nodiscard]] std::string bmp(const Image& image);
 
-/// A PNG file with 32 bits a pixel.
+/// The bytes of a PNG file: 32 bits a pixel, with opacity.
 [[nodiscard]] std::string png(const Image& image);
 
-/// A picture in 16 greys, row by row from the top: 0 is black, 15 white.
+/// A picture in 16 greys, stored row by row from the top, a byte each: 0 is black, 15 white.
 struct Gris {
     int largeur = 0;
     int hauteur = 0;
     std::vector<std::uint8_t> niveaux;
 };
 
-/// A PNG file with 4 bits a pixel.
+/// The bytes of a PNG file: 4 bits a pixel, in greys.
 [[nodiscard]] std::string png(const Gris& image);
 
 }  // namespace assets

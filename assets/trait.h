@@ -1,7 +1,7 @@
 #pragma once
 
-// Strokes: every drawing consists of thick lines, open or filled. Lengths are in units of the
-// drawing; x runs to the right, y down.
+// Drawings, which are made of strokes: thick lines, open or filled. Lengths are in units of the
+// drawing; x grows to the right, y downwards.
 
 #include <cstdint>
 #include <vector>
@@ -13,8 +13,8 @@ struct Point {
     double y = 0;
 };
 
-/// An arc of an ellipse between two angles in degrees, 0 to the right and 90 down. With radii of 0
-/// it is a corner.
+/// An arc of an ellipse, from the angle `debut` to `fin`, in degrees: 0 is to the right, 90 is
+/// down. With both radii 0 it is a single point, a corner.
 struct Arc {
     Point centre;
     double rayonx = 0;
@@ -37,34 +37,36 @@ struct Couleur {
             opacite};
 }
 
-/// A line through `points`, widened by `rayon` on each side. A filled one is closed, and covers
-/// what it encloses too. Its colour runs from `haut` at the top to `bas` at the bottom.
+/// A line through `points`, `rayon` wide on each side. A filled line is closed, and its inside is
+/// painted too. The colour changes evenly from `haut` at the top to `bas` at the bottom.
 struct Trait {
     std::vector<Point> points;
     bool plein = false;
     double rayon = 0;
     Couleur haut;
     Couleur bas;
-    double flou = 0;  // width over which the edge fades; 0 is a sharp edge
+    double flou = 0;  // width over which the edge fades; 0: a sharp edge
 };
 
+/// Strokes on an area of this size, each painted over those before it.
 struct Dessin {
     double largeur = 0;
     double hauteur = 0;
     std::vector<Trait> traits;
 };
 
-/// How a drawing is placed in another: rotated about its centre, scaled, its centre at `milieu`.
+/// How a drawing is placed in another: rotated about its centre, scaled, and moved so that its
+/// centre is at `milieu`.
 struct Pose {
     Point milieu;
     double echelle = 1;
     double angle = 0;  // degrees, clockwise
 };
 
-/// The points of a line that follows the arcs in turn.
+/// The points of a line that follows the arcs, one after the other.
 [[nodiscard]] std::vector<Point> courbe(const std::vector<Arc>& arcs);
 
-/// Distance from `point` to the edge of the stroke; negative inside.
+/// The distance from `point` to the edge of the stroke; negative inside the stroke.
 [[nodiscard]] double distance(const Trait& trait, Point point);
 
 /// Draws `partie` over `dessin`.

@@ -14,7 +14,6 @@
 #include "fabrication.h"
 #include "fichier.h"
 #include "listes.h"
-#include "octetsdefichier.h"
 #include "options.h"
 #include "recherche.h"
 #include "sortie.h"

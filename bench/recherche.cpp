@@ -15,7 +15,7 @@
 
 #include "chantier.h"
 #include "disquereel.h"
-#include "octetsdefichier.h"
+#include "fichier.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "motsenvigueur.h"
 
 #include "faute.h"
+#include "fichier.h"
 #include "listes.h"
-#include "octetsdefichier.h"
 
 namespace carnet {
 

@@ -15,8 +15,8 @@
 namespace application {
 namespace {
 
-/// A form that comes into being at its first touch, and is loaded at that moment. Unloaded, it
-/// comes back fresh.
+/// A form that is made and loaded when it is first used. After it has been unloaded, the next use
+/// makes a new one.
 template <class F>
 class Piece {
   public:
@@ -32,8 +32,7 @@ class Piece {
         }
         return *form_;
     }
-    /// The form is no longer there for the next touch; it goes once the running event, which may be
-    /// its own, is through.
+    /// Forgets the form at once, and destroys it after the running event, which may be its own.
     void decharger() {
         plateforme_.apres([partant = std::shared_ptr<F>(std::move(form_))] {});
     }

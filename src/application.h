@@ -8,8 +8,8 @@
 
 namespace application {
 
-/// The program: holds the shared variables, makes each of the seven forms at its first touch and
-/// joins them. It knows no window: the platform shows the forms.
+/// The program: holds the shared variables, makes each of the seven forms when it is first used,
+/// and gives it the others. It knows nothing of windows; the platform shows the forms.
 class Application {
   public:
     explicit Application(ui::Plateforme& plateforme);
@@ -19,7 +19,7 @@ class Application {
 
     /// Starts the program: shows the first form.
     void demarrer();
-    /// What the forms know of one another, for whoever drives the program from outside.
+    /// The faces of the forms, for a test or a benchmark that drives the program.
     [[nodiscard]] ui::Voisins& voisins();
 
   private:

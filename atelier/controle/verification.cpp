@@ -13,6 +13,7 @@
 #include "fichier.h"
 #include "lignestexte.h"
 #include "listes.h"
+#include "nombre.h"
 #include "verification_rangee.h"
 
 namespace atelier {
@@ -23,8 +24,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view action = "Vérification";
 constexpr std::string_view findeligne = "\r\n";
 /// Most lines of notes that the makers of the lists put in the file.
-constexpr std::size_t lignesnotesmax = 20001;
-constexpr std::size_t seizebits = 32767;
+constexpr std::size_t seizebits = common::plusgrand16;
 
 /// Rows that the help of the menu names, and one that it says is not there.
 struct Exemple {
@@ -68,6 +68,14 @@ class Verificateur {
         constats.push_back({gravite, chemin.string(), ligne, std::move(ennui)});
     }
 
+    void borner(const fs::path& chemin, std::size_t nombre, std::string_view quoi,
+                std::size_t limite) {
+        if (nombre > limite)
+            dire(Gravite::faute, chemin, 0,
+                 std::to_string(nombre) + " " + std::string(quoi) + " ; la limite est de " +
+                     std::to_string(limite));
+    }
+
     void liste(const fs::path& chemin, const std::string& octets, Sorte sorte) {
         finsdeligne(chemin, octets);
         Rangees rangees(sorte);
@@ -81,9 +89,7 @@ class Verificateur {
         const bool plusieurs = sorte == Sorte::multi || (sorte == Sorte::perso && solutions > 1);
         const auto limite = plusieurs ? common::rangeesmulti : common::rangeesform1;
         const auto nombre = lignes.numero();
-        if (nombre > limite)
-            dire(Gravite::faute, chemin, 0,
-                 std::to_string(nombre) + " lignes ; la limite est de " + std::to_string(limite));
+        borner(chemin, nombre, "lignes", limite);
         if (plusieurs && nombre * std::max<std::size_t>(2, solutions) > seizebits)
             dire(Gravite::faute, chemin, 0,
                  "trop de solutions en tout ; la limite est de " + std::to_string(seizebits));
@@ -107,10 +113,7 @@ class Verificateur {
             else if (!vus.insert(ligne).second)
                 dire(Gravite::faute, chemin, lignes.numero(), "ce mot est déjà dans la liste");
         }
-        if (lignes.numero() > places)
-            dire(Gravite::faute, chemin, 0,
-                 std::to_string(lignes.numero()) + " mots ; la limite est de " +
-                     std::to_string(places));
+        borner(chemin, lignes.numero(), "mots", places);
     }
 
     void notes(const fs::path& chemin) {
@@ -133,10 +136,7 @@ class Verificateur {
         }
         if (lignes.numero() % 2 != 0)
             dire(Gravite::faute, chemin, lignes.numero(), "il manque la note du dernier mot");
-        if (lignes.numero() > lignesnotesmax)
-            dire(Gravite::faute, chemin, 0,
-                 std::to_string(lignes.numero()) + " lignes ; la limite est de " +
-                     std::to_string(lignesnotesmax));
+        borner(chemin, lignes.numero(), "lignes", common::lignesinfosourismulti);
     }
 
     void catalogue(const fs::path& dossier) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The sources, read, and what the rules of the lists need of them.
+// The sources as they were read, and what the recipes need to know of them.
 
 #include <optional>
 #include <string>
@@ -26,7 +26,7 @@ struct Chemins {
 
 class Chantier {
   public:
-    /// Reads everything. `progression` is told of each step before it begins. Throws
+    /// Reads everything. Calls `progression` before each step. Throws
     /// `common::Faute` for a source that cannot be read.
     Chantier(const Chemins& chemins, const std::optional<Dictionnaire>& dictionnaire,
              Nouveautes nouveautes, const Progression& progression);

@@ -19,7 +19,7 @@ struct Fichier {
     std::string octets;
 };
 
-/// Told what is being made, in French.
+/// Called with what is about to be made, in French.
 using Progression = std::function<void(std::string_view)>;
 
 /// The rows of part `rang`, from 0, of a list cut into `parties` parts, whose sizes differ by one

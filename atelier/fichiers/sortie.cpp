@@ -84,6 +84,8 @@ void deplacer(const fs::path& source, const fs::path& cible) {
 
 /// Takes over what only the old folder has.
 void reprendre(const fs::path& ancien, const fs::path& nouveau) {
+    if (!fs::exists(ancien))
+        return;
     std::error_code erreur;
     for (const auto& entree : fs::directory_iterator(ancien, erreur)) {
         const auto cible = nouveau / entree.path().filename();
@@ -102,7 +104,6 @@ void echanger(const fs::path& nouveau, const fs::path& place) {
         deplacer(nouveau, place);
         return;
     }
-    reprendre(place, nouveau);
     if (::renameat2(AT_FDCWD, nouveau.c_str(), AT_FDCWD, place.c_str(), RENAME_EXCHANGE) == 0)
         return;
     // A disk that cannot exchange: the old folder steps aside first, and comes back on a failure.
@@ -136,8 +137,13 @@ std::error_code ecrirefichier(const fs::path& chemin, std::string_view octets) {
     return {};
 }
 
-void installer(const std::vector<Fichier>& fichiers, const fs::path& dossier,
-               const Ecrire& ecrire) {
+std::error_code abriter(const fs::path& dossier) {
+    const Descripteur ouvert(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return ouvert.numero() < 0 || ::syncfs(ouvert.numero()) != 0 ? derniere() : std::error_code();
+}
+
+void installer(const std::vector<Fichier>& fichiers, const fs::path& dossier, const Ecrire& ecrire,
+               const Abriter& mettrealabri) {
     std::error_code erreur;
     fs::create_directories(dossier, erreur);
     verifier(dossier, erreur);
@@ -149,7 +155,11 @@ void installer(const std::vector<Fichier>& fichiers, const fs::path& dossier,
         verifier(dossier / fichier.chemin, ecrire(chemin, fichier.octets));
     }
     const fs::path listes(common::dossierlistes);
-    if (fs::exists(neufs.chemin() / listes))
+    const bool deslistes = fs::exists(neufs.chemin() / listes);
+    if (deslistes)
+        reprendre(dossier / listes, neufs.chemin() / listes);
+    verifier(dossier, mettrealabri(neufs.chemin()));
+    if (deslistes)
         echanger(neufs.chemin() / listes, dossier / listes);
     for (const auto& fichier : fichiers) {
         const fs::path chemin(fichier.chemin);
@@ -159,6 +169,8 @@ void installer(const std::vector<Fichier>& fichiers, const fs::path& dossier,
         verifier((dossier / chemin).parent_path(), erreur);
         deplacer(neufs.chemin() / chemin, dossier / chemin);
     }
+    // The files are in place: names that cannot be brought onto the disk take nothing back.
+    static_cast<void>(mettrealabri(dossier));
 }
 
 }  // namespace atelier

@@ -19,11 +19,17 @@ using Ecrire = std::function<std::error_code(const std::filesystem::path&, std::
 [[nodiscard]] std::error_code ecrirefichier(const std::filesystem::path& chemin,
                                             std::string_view octets);
 
+/// Returns once all that was written in a folder would survive a power cut.
+using Abriter = std::function<std::error_code(const std::filesystem::path&)>;
+
+/// The `Abriter` of the disk: one call for the whole file system of the folder.
+[[nodiscard]] std::error_code abriter(const std::filesystem::path& dossier);
+
 /// Writes all files under temporary names in `dossier`, then puts them in place. The folder of the
 /// lists is replaced in one step, and keeps the files that the new one lacks (a player's own
 /// lists); the other files are replaced one by one. Creates `dossier` if it is missing. Throws
-/// `common::Faute`; nothing in `dossier` is changed unless all files could be written.
+/// `common::Faute`; nothing in `dossier` is changed unless all files are on the disk whole.
 void installer(const std::vector<Fichier>& fichiers, const std::filesystem::path& dossier,
-               const Ecrire& ecrire = ecrirefichier);
+               const Ecrire& ecrire = ecrirefichier, const Abriter& mettrealabri = abriter);
 
 }  // namespace atelier

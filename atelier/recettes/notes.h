@@ -7,13 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "listes.h"
 #include "thesaurus.h"
 #include "vocabulaire.h"
 
 namespace atelier {
 
-/// Most notes in the file, since each correction reads all of it.
-constexpr std::size_t notesmax = 10000;
+/// Most notes in the file, two lines each, that both forms can read.
+constexpr std::size_t notesmax = common::lignesinfosourismulti / 2;
 
 struct Note {
     std::string mot;    ///< capitals

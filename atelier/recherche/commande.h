@@ -10,8 +10,9 @@
 
 namespace recherche {
 
-/// Writes what a search finds to `sortie`, a row or a word a line, and to `erreurs` what is left
-/// out or why there is nothing. False for a search that is refused; `sortie` then gets nothing.
+/// Writes to `sortie` what a search finds, one row or word on each line, and to `erreurs` what is
+/// left out, or why nothing is found. False for a search that is refused: `sortie` then gets
+/// nothing.
 [[nodiscard]] bool commander(std::string_view criteres, const Contexte& contexte,
                              std::uint64_t graine, std::ostream& sortie, std::ostream& erreurs);
 

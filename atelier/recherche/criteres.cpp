@@ -128,6 +128,15 @@ void sans(std::string_view valeur, const Contexte& /*contexte*/, Demande& demand
     suites(valeur, false, demande);
 }
 
+/// The names that a table knows, for a report.
+template <class Table>
+std::string noms(const Table& table) {
+    std::string enligne;
+    for (const auto& entree : table)
+        enligne.append(enligne.empty() ? "" : ", ").append(entree.nom);
+    return enligne;
+}
+
 void nature(std::string_view valeur, const Contexte& /*contexte*/, Demande& demande) {
     unsigned voulues = 0;
     unsigned exclues = 0;
@@ -138,10 +147,7 @@ void nature(std::string_view valeur, const Contexte& /*contexte*/, Demande& dema
         const auto* trouvee = std::find_if(natures.begin(), natures.end(),
                                            [&](const Nature& n) { return n.nom == nom; });
         if (trouvee == natures.end()) {
-            std::string noms;
-            for (const auto& n : natures)
-                noms.append(noms.empty() ? "" : ", ").append(n.nom);
-            throw Ennui(entreguillemets(nom) + " n'en est pas une ; on attend " + noms);
+            throw Ennui(entreguillemets(nom) + " n'en est pas une ; on attend " + noms(natures));
         }
         (nie ? exclues : voulues) |= trouvee->bit;
     }
@@ -337,10 +343,7 @@ class Lecteur {
         const auto* cle = std::find_if(lescles.begin(), lescles.end(),
                                        [&](const Cle& c) { return c.nom == nom_; });
         if (cle == lescles.end()) {
-            std::string noms;
-            for (const auto& c : lescles)
-                noms.append(noms.empty() ? "" : ", ").append(c.nom);
-            throw Ennui("critère inconnu ; on attend " + noms);
+            throw Ennui("critère inconnu ; on attend " + noms(lescles));
         }
         if (egal == std::string::npos || egal + 1 == mot.size())
             throw Ennui("il manque une valeur ; on attend " + nom_ + "=...");

@@ -24,14 +24,14 @@ struct Refus {
     [[nodiscard]] std::string texte() const { return critere + " : " + ennui + "."; }
 };
 
-/// Both ends belong to it.
+/// A range, both ends included.
 struct Plage {
     std::uint32_t min = 0;
     std::uint32_t max = 0;
     [[nodiscard]] bool contient(std::size_t valeur) const { return valeur >= min && valeur <= max; }
 };
 
-/// The word of that place passes.
+/// Whether the word at this place in the glossary is kept.
 using Passe = std::function<bool(const Fiche& fiche, std::uint32_t place)>;
 
 enum class Forme : std::uint8_t { liste, mots };
@@ -52,7 +52,7 @@ struct Demande {
 using Motsdeliste = std::variant<std::vector<std::string>, std::string>;
 using Lireliste = std::function<Motsdeliste(std::string_view fichier)>;
 
-/// What criteria look at beside the word.
+/// What criteria need to know beside the word.
 struct Contexte {
     const Glossaire& glossaire;
     Lireliste liste;  ///< any list, whole or a part, reference lists included

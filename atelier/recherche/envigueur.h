@@ -15,7 +15,7 @@
 
 namespace recherche {
 
-/// File that says it, in the folder of the lists (format: docs/formats.md).
+/// The file that remembers it, in the folder of the lists (format: docs/formats.md).
 inline constexpr std::string_view fichierenvigueur = "dictionnaire.dat";
 
 struct Envigueur {
@@ -29,10 +29,10 @@ struct Envigueur {
 };
 
 [[nodiscard]] std::string octets(const Envigueur& envigueur);
-/// Nothing for bytes that say nothing of the kind.
+/// Reads the bytes of that file; nothing if they are damaged.
 [[nodiscard]] std::optional<Envigueur> lireenvigueur(std::string_view octets);
 
-/// The name of a file as it is remembered: what Windows-1252 lacks is "?".
+/// A file name as it is remembered: characters that Windows-1252 lacks become "?".
 [[nodiscard]] std::string nomretenu(std::string_view fichier);
 
 /// What is put beside the lists: the words, and what they are. Sets `envigueur.mots`.

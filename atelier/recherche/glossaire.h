@@ -21,7 +21,7 @@ namespace recherche {
 /// File of the words, in the folder of the lists (format: docs/formats.md).
 inline constexpr std::string_view fichierglossaire = "mots.dat";
 
-/// Something that a word may be, by the definitions of the lists.
+/// A property of words, as the lists define it.
 struct Nature {
     std::string_view nom;
     std::uint16_t bit = 0;
@@ -54,34 +54,36 @@ struct Fiche {
     [[nodiscard]] std::string_view texte() const { return mot.texte(); }
 };
 
-/// Orders of the results that depend on the words alone. Ties go by the alphabet.
+/// Orders of the results that depend on the words alone. Words that are equal come in alphabetical
+/// order.
 enum class Ordre : std::uint8_t { alphabet, difficulte, probabilite, poids, hasard };
 
-/// Number of ways to draw the letters of a word from a full bag without jokers.
+/// The number of ways to draw the letters of a word from a full bag without jokers.
 [[nodiscard]] std::uint64_t tirages(std::string_view mot);
 
 class Glossaire {
   public:
     Glossaire(const atelier::Vocabulaire& vocabulaire, const atelier::Difficulte& difficulte);
 
-    /// The words that `octets` made of; nothing if the bytes are cut or changed.
+    /// Reads the bytes that `octets` returned; nothing if they are cut or changed.
     [[nodiscard]] static std::optional<Glossaire> lire(std::string_view octets);
+    /// These words as the bytes of a file.
     [[nodiscard]] std::string octets() const;
 
-    /// By the alphabet.
+    /// In alphabetical order.
     [[nodiscard]] std::span<const Fiche> fiches() const { return fiches_; }
-    /// Places of all words in an order other than by chance.
+    /// The places of all words, in an order other than by chance.
     [[nodiscard]] std::span<const std::uint32_t> places(Ordre ordre) const {
         return ordres_.at(static_cast<std::size_t>(ordre));
     }
     /// Number of different racks.
     [[nodiscard]] std::size_t tirages() const { return debuts_.size() - 1; }
-    /// Places of the words on a rack, by the alphabet.
+    /// The places of the words on a rack, in alphabetical order.
     [[nodiscard]] std::span<const std::uint32_t> surtirage(std::uint32_t tirage) const {
         return std::span(partirage_)
             .subspan(debuts_[tirage], debuts_[tirage + 1] - debuts_[tirage]);
     }
-    /// Place of a word, or nothing.
+    /// The place of a word, or nothing.
     [[nodiscard]] std::optional<std::uint32_t> chercher(std::string_view mot) const;
 
   private:

@@ -11,13 +11,13 @@ namespace recherche {
 
 class Motif {
   public:
-    /// Takes capitals and signs. `ennui` says in French what is wrong; the empty text: nothing.
+    /// Reads capitals and signs. `ennui` tells in French what is wrong; it is empty if nothing is.
     Motif(std::string_view texte, std::string& ennui);
 
     [[nodiscard]] bool convient(std::string_view mot) const;
 
   private:
-    /// Letters that may stand at a place; 0 is a run of any letters.
+    /// The letters allowed at each place; 0: any number of any letters.
     using Place = std::uint32_t;
 
     [[nodiscard]] static bool accepte(Place place, char lettre);

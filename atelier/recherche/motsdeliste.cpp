@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "catalogue.h"
+#include "fichier.h"
 #include "lignes.h"
 #include "listes.h"
-#include "octetsdefichier.h"
 #include "recherche.h"
 #include "valeurs.h"
 #include "verification_rangee.h"

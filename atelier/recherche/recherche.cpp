@@ -5,12 +5,13 @@
 
 #include "contenu.h"
 #include "listes.h"
+#include "nombre.h"
 
 namespace recherche {
 namespace {
 
 /// `nbsolutions` times rows of the form for several solutions is a number of 16 bits.
-constexpr std::size_t seizebits = 32767;
+constexpr std::size_t seizebits = common::plusgrand16;
 
 bool passe(const Demande& demande, const Fiche& fiche, std::uint32_t place) {
     return std::all_of(demande.criteres.begin(), demande.criteres.end(),

@@ -15,8 +15,8 @@
 
 namespace recherche {
 
-/// Places of the words that pass, in the order asked for. `graine` seeds an order by chance whose
-/// text names no seed.
+/// The places of the words that were found, in the order asked for. `graine` seeds an order by
+/// chance that names no seed.
 [[nodiscard]] std::vector<std::uint32_t> chercher(const Glossaire& glossaire,
                                                   const Demande& demande, std::uint64_t graine);
 

@@ -14,23 +14,24 @@
 
 namespace recherche {
 
-/// Caught by the reader of the search, which adds the name of the criterion.
+/// What is wrong with a value. The reader of the search catches it and adds the name of the
+/// criterion.
 struct Ennui : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// A text in guillemets.
+/// The text in French quotation marks.
 [[nodiscard]] std::string entreguillemets(std::string_view texte);
 
-/// Digits only, at most `max`.
+/// A number written in digits only, at most `max`.
 [[nodiscard]] std::uint64_t nombre(std::string_view texte, std::uint64_t max);
-/// `N` or `A-B`. Something of it lies between the bounds.
+/// `N` or `A-B`, which must overlap `bornes`.
 [[nodiscard]] Plage plage(std::string_view texte, const Plage& bornes);
 /// Capitals of a text of letters in any case, with or without accents.
 [[nodiscard]] std::string capitales(std::string_view texte);
-/// The same with signs among them that are kept.
+/// The same for a text that also has some of these signs, which are kept.
 [[nodiscard]] std::string capitales(std::string_view texte, std::string_view signes);
-/// Texts between commas, none of them empty.
+/// The texts between commas, none of which may be empty.
 [[nodiscard]] std::vector<std::string_view> liste(std::string_view texte);
 
 /// Letters in hand, jokers among them.
@@ -38,7 +39,7 @@ class Reserve {
   public:
     explicit Reserve(std::string_view lettresetjokers);
     [[nodiscard]] std::size_t taille() const { return taille_; }
-    /// The letters, with the jokers, make the word.
+    /// Whether the letters, with the jokers, make the word.
     [[nodiscard]] bool fait(const Fiche& fiche) const;
 
   private:

@@ -1,7 +1,7 @@
 #pragma once
 
-// Decisions that no rule gives: words kept, verbs that everybody uses, and the regular endings of
-// the three kinds of verbs.
+// Decisions that follow from no rule: words kept, verbs that everybody uses, and the regular
+// endings of the three kinds of verbs.
 
 #include <span>
 #include <string_view>

@@ -267,7 +267,9 @@ class LecteurLexique {
     void conjuguer(const Ajout& ajout) {
         const auto modele = modeles_.find(ajout.modele);
         if (modele == modeles_.end())
-            return;
+            throw common::Faute(common::rapportligne(
+                action, fichierajouts, ajout.ligne,
+                "« " + ajout.modele + " » n'est pas un verbe du lexique « " + chemin_ + " »"));
         auto entree = modele->second;
         entree.mot = ajout.mot;
         entree.points = *points(ajout.mot);

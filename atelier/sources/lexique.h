@@ -66,9 +66,9 @@ struct Lexique {
 };
 
 /// Makes all forms from the text of a dictionary (format: hunspell) and its affixes, with the
-/// changes of `retouches`. An added verb is left out if the dictionary lacks the verb that it is
-/// conjugated like. Reports call the text `chemin`. Throws `common::Faute`, with the line, for a
-/// text that is not a dictionary or is cut short.
+/// changes of `retouches`. Reports call the text `chemin`. Throws `common::Faute`, with the line,
+/// for a text that is not a dictionary or is cut short, and for an added verb if the dictionary
+/// lacks the verb that it is conjugated like.
 [[nodiscard]] Lexique lirelexique(std::string_view texte, std::string_view chemin,
                                   const Affixes& affixes, const Thesaurus& thesaurus,
                                   const Retouches& retouches);

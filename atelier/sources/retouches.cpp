@@ -44,6 +44,8 @@ class LignesUtiles {
         return std::nullopt;
     }
 
+    [[nodiscard]] std::size_t numero() const { return lignes_.numero(); }
+
     [[noreturn]] void faute(const std::string& ennui) const {
         throw common::Faute(common::rapportligne(action, fichier_, lignes_.numero(), ennui));
     }
@@ -127,12 +129,13 @@ void Retouches::lireecartes(std::string_view texte) {
 }
 
 void Retouches::lireajouts(std::string_view texte) {
-    LignesUtiles lignes(texte, "ajouts.txt");
+    LignesUtiles lignes(texte, fichierajouts);
     while (const auto mots = lignes.suivante()) {
         const auto capitales = lignes.capitales((*mots)[0]);
         const auto autre = (*mots)[2];
         auto& ajout = ajouts_.emplace_back();
         ajout.mot = (*mots)[0];
+        ajout.ligne = lignes.numero();
         ajout.nature = lignes.nature((*mots)[1]);
         if (mots->nombre() > 3)
             lignes.faute("il y a un mot de trop");

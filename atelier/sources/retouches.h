@@ -2,6 +2,7 @@
 
 // Changes to the lexicon by hand: entries set aside, words added, words refused.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -22,7 +23,10 @@ struct Ajout {
     Nature nature = Nature::autre;
     std::vector<Forme> formes;  ///< none for a verb
     std::string modele;         ///< for a verb: the verb of the lexicon that it is conjugated like
+    std::size_t ligne = 0;      ///< of `fichierajouts`, from 1
 };
+
+inline constexpr std::string_view fichierajouts = "ajouts.txt";
 
 class Retouches {
   public:

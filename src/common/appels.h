@@ -33,6 +33,7 @@ struct Etat {
     std::uint64_t disque = 0;
     std::uint64_t numero = 0;
     std::uint64_t taille = 0;  ///< bytes
+    std::uint32_t droits = 0;  ///< permission bits, as POSIX has them
 };
 
 class Appels {
@@ -66,12 +67,17 @@ class Appels {
     [[nodiscard]] virtual std::error_code etat(const Chemin& chemin, Etat& etat) = 0;
     /// The target of a symbolic link, as written in it; empty for any other file and for none.
     [[nodiscard]] virtual std::error_code lien(const Chemin& chemin, Chemin& cible) = 0;
-    /// Gives a new file the mode of an existing one, and its owner where the system allows it.
-    [[nodiscard]] virtual std::error_code copierdroits(const Chemin& modele, Poignee neuf) = 0;
+    /// Gives a new file the owner and the group of an existing one, or else the group alone.
+    [[nodiscard]] virtual std::error_code leguer(const Chemin& modele, Poignee neuf) = 0;
+    /// Sets the permission bits of an open file.
+    [[nodiscard]] virtual std::error_code changerdroits(Poignee poignee, std::uint32_t droits) = 0;
     /// Renames a file or folder, replacing what has the new name.
     [[nodiscard]] virtual std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) = 0;
-    /// Renames a file; `file_exists` if something has the new name.
+    /// Renames a file; `file_exists` if something has the new name. `invalid_argument` or
+    /// `function_not_supported` on a disk that cannot refuse a name that is taken.
     [[nodiscard]] virtual std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) = 0;
+    /// Gives a file a second name; `file_exists` if something has it.
+    [[nodiscard]] virtual std::error_code doubler(const Chemin& ancien, const Chemin& nouveau) = 0;
     /// Deletes a file or an empty folder.
     [[nodiscard]] virtual std::error_code supprimer(const Chemin& chemin) = 0;
     [[nodiscard]] virtual std::error_code creerdossier(const Chemin& chemin) = 0;

@@ -15,9 +15,9 @@ class Ennuis : public std::error_category {
             case Ennui::PasUnFichier:
                 return "ce n'est pas un fichier ordinaire";
             case Ennui::Retenu:
-                return "un autre programme le retient ; la limite d'attente est de 5 secondes. "
-                       "Fermez "
-                       "l'autre programme et recommencez";
+                return "un autre programme le retient ; la limite d'attente est de " +
+                       std::to_string(attentelimite / 1000) +
+                       " secondes. Fermez l'autre programme et recommencez";
             case Ennui::LigneTropLongue:
                 break;
         }

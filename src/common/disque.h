@@ -14,6 +14,9 @@
 
 namespace common {
 
+/// How long a change waits for another program that has locked the file, in milliseconds.
+inline constexpr std::int64_t attentelimite = 5000;
+
 /// What this program refuses of a file, beside the system's own reasons.
 enum class Ennui : std::uint8_t {
     PasUnFichier = 1,  ///< a pipe, a device...: not a regular file

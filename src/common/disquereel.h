@@ -7,14 +7,10 @@
 
 namespace common {
 
-/// How long a change waits for another program that has locked the file, in milliseconds.
-inline constexpr std::int64_t attentelimite = 5000;
-
 /// The disk of the system. Paths of the rules are relative to `racine`, and get the system's own
 /// separator; an empty root is the working folder. Only regular files are read or written. A change
 /// through a link changes what the link leads to. Every change but `deposer` writes a whole new
-/// file,
-/// `<name>.<number>.tmp`, which then replaces the old one.
+/// file, `<name>.<number>.tmp`, which then replaces the old one.
 class DisqueReel : public Disque {
   public:
     /// `appels` must outlive the disk and the files and locks that it hands out.

@@ -51,6 +51,7 @@ Etat traduire(const struct stat& lu) {
     etat.disque = static_cast<std::uint64_t>(lu.st_dev);
     etat.numero = static_cast<std::uint64_t>(lu.st_ino);
     etat.taille = static_cast<std::uint64_t>(lu.st_size);
+    etat.droits = lu.st_mode & bitsdemode;
     return etat;
 }
 
@@ -149,15 +150,19 @@ class AppelsPosix : public Appels {
         return erreur == std::errc::no_such_file_or_directory ? std::error_code() : erreur;
     }
 
-    std::error_code copierdroits(const Chemin& modele, Poignee neuf) override {
+    std::error_code leguer(const Chemin& modele, Poignee neuf) override {
         struct stat lu {};
         if (::stat(modele.c_str(), &lu) != 0)
             return derniere();
         // Only the system's administrator may give a file away; another can leave it to a group of
-        // his own, and otherwise keeps what he has made.
-        if (::fchown(numero(neuf), lu.st_uid, lu.st_gid) != 0) [[maybe_unused]]
-            const int laisse = ::fchown(numero(neuf), meme, lu.st_gid);
-        return issue(::fchmod(numero(neuf), lu.st_mode & bitsdemode));
+        // his own.
+        if (::fchown(numero(neuf), lu.st_uid, lu.st_gid) == 0)
+            return {};
+        return issue(::fchown(numero(neuf), meme, lu.st_gid));
+    }
+
+    std::error_code changerdroits(Poignee poignee, std::uint32_t droits) override {
+        return issue(::fchmod(numero(poignee), droits));
     }
 
     std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
@@ -165,14 +170,12 @@ class AppelsPosix : public Appels {
     }
 
     std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) override {
-        if (::renameat2(AT_FDCWD, ancien.c_str(), AT_FDCWD, nouveau.c_str(), RENAME_NOREPLACE) == 0)
-            return {};
-        if (errno != EINVAL && errno != ENOSYS)
-            return derniere();
-        // A disk that cannot: a second name, then the first one goes.
-        if (::link(ancien.c_str(), nouveau.c_str()) == 0)
-            return issue(::unlink(ancien.c_str()));
-        return errno == EEXIST ? derniere() : renommer(ancien, nouveau);
+        return issue(
+            ::renameat2(AT_FDCWD, ancien.c_str(), AT_FDCWD, nouveau.c_str(), RENAME_NOREPLACE));
+    }
+
+    std::error_code doubler(const Chemin& ancien, const Chemin& nouveau) override {
+        return issue(::link(ancien.c_str(), nouveau.c_str()));
     }
 
     std::error_code supprimer(const Chemin& chemin) override {

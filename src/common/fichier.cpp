@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "faute.h"
-#include "octetsdefichier.h"
 #include "texte.h"
 
 namespace common {

@@ -1,7 +1,7 @@
 #pragma once
 
-// Whole text files: reading them, appending lines to them, rewriting them, and the reports of what
-// fails on the way.
+// Whole files: reading them, appending lines to them, rewriting them, and the reports of what fails
+// on the way.
 
 #include <cstddef>
 #include <span>
@@ -24,6 +24,10 @@ namespace common {
                                     std::string_view action, std::size_t limite = limiteligne);
 /// The words for a line that is over its limit, in French.
 [[nodiscard]] std::string lignetroplongue(std::size_t limite);
+/// The bytes of a file of any kind, whose lines have no limit, for a caller that can do without
+/// them: on failure `contenu` is what could be read.
+[[nodiscard]] std::error_code essayerlire(Disque& disque, std::string_view chemin,
+                                          std::string& contenu);
 /// The bytes of a file of any kind. Throws `Faute`.
 [[nodiscard]] std::string lirefichier(Disque& disque, std::string_view chemin,
                                       std::string_view action);

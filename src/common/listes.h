@@ -42,7 +42,9 @@ inline constexpr std::array listesreference{listeods5, listeods6, listeods7,
 
 /// Notes on words, beside the program: the word on one line, its note on the next.
 inline constexpr std::string_view fichierinfosouris = "infosouris.txt";
+/// Most lines of the notes: on the form of racks with one solution, and on that of several.
 inline constexpr std::size_t lignesinfosouris = 500001;
+inline constexpr std::size_t lignesinfosourismulti = 20001;
 
 /// Racks of a series: on the form of racks with one solution, and on that of several.
 inline constexpr int tiragesform1 = 30;

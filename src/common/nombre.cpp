@@ -34,11 +34,11 @@ std::size_t longueurnombre(std::string_view texte) {
 }
 
 std::int16_t verifie(double entier, std::string_view quoi) {
-    constexpr double bas = std::numeric_limits<std::int16_t>::min();
-    constexpr double haut = std::numeric_limits<std::int16_t>::max();
-    if (!(entier >= bas && entier <= haut)) {
+    constexpr auto bas = std::numeric_limits<std::int16_t>::min();
+    if (!(entier >= bas && entier <= plusgrand16)) {
         throw Faute(std::string(quoi) + " : la valeur " + textenombre(entier) +
-                    " sort des limites admises (de -32768 à 32767).");
+                    " sort des limites admises (de " + std::to_string(bas) + " à " +
+                    std::to_string(plusgrand16) + ").");
     }
     return static_cast<std::int16_t>(entier);
 }

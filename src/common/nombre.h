@@ -4,10 +4,14 @@
 // and files. The decimal separator is always a point.
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
 namespace common {
+
+/// The largest 16-bit integer.
+inline constexpr std::int16_t plusgrand16 = std::numeric_limits<std::int16_t>::max();
 
 /// Numeric value of a text: the longest number at its start (blanks, an optional sign, digits, at
 /// most one point, no exponent), or 0 if there is none. Never infinite.

@@ -6,10 +6,9 @@
 namespace common {
 
 void VariablesDialog2::affecterechantillons(std::int16_t nbser) {
-    // 32767 racks in series of 30.
-    constexpr std::string_view quoi =
-        "Taille des échantillons, 1092 séries au plus (options, ligne 4 de « settings.dat »)";
-    const auto taille = [nbser, quoi](int parserie, int seule) {
+    const auto quoi = "Taille des échantillons, " + std::to_string(plusgrand16 / tiragesform1) +
+                      " séries au plus (options, ligne 4 de « settings.dat »)";
+    const auto taille = [nbser, &quoi](int parserie, int seule) {
         const std::int64_t produit = nbser >= 2 ? std::int64_t{parserie} * nbser : seule;
         return entier16(produit, quoi);
     };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "provisoire.h"
+
 namespace common {
 namespace {
 
@@ -9,12 +11,8 @@ namespace fs = std::filesystem;
 
 /// A file can be made there. Asking for its mode would not tell of a disk that is read-only.
 bool inscriptible(Appels& appels, const fs::path& dossier) {
-    const auto essai = dossier / (".orvane." + std::to_string(appels.programme()) + ".tmp");
-    Poignee poignee = sanspoignee;
-    if (appels.ouvrir(essai, Ouverture::Creation, poignee))
-        return false;
-    appels.fermer(poignee);
-    return !appels.supprimer(essai);
+    Provisoire essai(appels);
+    return !essai.creer(dossier / ".orvane") && !essai.retirer();
 }
 
 }  // namespace

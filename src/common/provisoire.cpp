@@ -27,7 +27,8 @@ bool estprovisoirede(const std::string& nom, const std::string& cible) {
                        [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// Whoever writes a provisional file has it locked: one that can be locked is nobody's.
+/// Whoever writes a temporary file has it locked: one that can be locked is nobody's. One that is
+/// the file itself is a second name of it, which `nommer` had no time to take away.
 void balayer(Appels& appels, const fs::path& cible) {
     std::vector<fs::path> noms;
     if (appels.lister(cible.parent_path(), noms))
@@ -38,8 +39,10 @@ void balayer(Appels& appels, const fs::path& cible) {
         const auto reste = cible.parent_path() / nom;
         Descripteur fichier(appels);
         bool pris = false;
-        if (!fichier.ouvrir(reste, Ouverture::Modification) &&
-            !appels.verrouiller(fichier.poignee(), pris) && pris && fichier.nomme(reste))
+        if (fichier.ouvrir(reste, Ouverture::Modification))
+            continue;
+        if (fichier.nomme(cible) ||
+            (!appels.verrouiller(fichier.poignee(), pris) && pris && fichier.nomme(reste)))
             static_cast<void>(appels.supprimer(reste));
     }
 }
@@ -59,72 +62,16 @@ std::error_code ouvrirlibre(Appels& appels, const fs::path& chemin, Ouverture mo
     return erreur;
 }
 
-/// A file that waits to take the place of another; gone unless it does.
-class Provisoire {
-  public:
-    explicit Provisoire(Appels& appels) : appels_(appels), fichier_(appels) {}
-    Provisoire(const Provisoire&) = delete;
-    Provisoire& operator=(const Provisoire&) = delete;
-    ~Provisoire() {
-        if (!chemin_.empty())
-            static_cast<void>(appels_.supprimer(chemin_));
-    }
+std::error_code pasunfichier(Genre genre) {
+    return genre == Genre::Dossier ? std::make_error_code(std::errc::is_a_directory)
+                                   : make_error_code(Ennui::PasUnFichier);
+}
 
-    [[nodiscard]] std::error_code creer(const fs::path& cible) {
-        std::error_code erreur;
-        for (int n = 0; n < essaisdunom; ++n) {
-            auto chemin = cible;
-            chemin += "." + std::to_string(appels_.programme() + n) + std::string(extension);
-            erreur = fichier_.ouvrir(chemin, Ouverture::Creation);
-            if (erreur == std::errc::file_exists)
-                continue;
-            if (erreur)
-                return erreur;
-            // Another program may have taken it for a left one before the lock. Where a disk has no
-            // locks nobody does.
-            bool pris = true;
-            const bool sansverrous =
-                static_cast<bool>(appels_.verrouiller(fichier_.poignee(), pris));
-            if (sansverrous || (pris && fichier_.nomme(chemin))) {
-                chemin_ = chemin;
-                return {};
-            }
-            if (pris)
-                static_cast<void>(appels_.supprimer(chemin));
-        }
-        return erreur ? erreur : std::make_error_code(std::errc::device_or_resource_busy);
-    }
-    [[nodiscard]] std::error_code remplir(std::string_view octets) {
-        while (!octets.empty()) {
-            std::size_t ecrits = 0;
-            if (const auto erreur = appels_.ecrire(fichier_.poignee(), octets, ecrits))
-                return erreur;
-            if (ecrits == 0)
-                return std::make_error_code(std::errc::no_space_on_device);
-            octets.remove_prefix(ecrits);
-        }
-        return {};
-    }
-    [[nodiscard]] std::error_code prendreledroit(const fs::path& modele) {
-        return appels_.copierdroits(modele, fichier_.poignee());
-    }
-    [[nodiscard]] std::error_code placer(const fs::path& cible, bool neuf) {
-        if (const auto erreur = appels_.synchroniser(fichier_.poignee()))
-            return erreur;
-        if (const auto erreur =
-                neuf ? appels_.nommer(chemin_, cible) : appels_.renommer(chemin_, cible))
-            return erreur;
-        chemin_.clear();
-        // The change is made: a folder that cannot be synchronised takes nothing back.
-        static_cast<void>(appels_.synchroniserdossier(cible.parent_path()));
-        return {};
-    }
-
-  private:
-    Appels& appels_;
-    Descripteur fichier_;
-    fs::path chemin_;
-};
+/// The disk has no such call.
+bool sanscetappel(const std::error_code& erreur) {
+    return erreur == std::errc::function_not_supported || erreur == std::errc::not_supported ||
+           erreur == std::errc::operation_not_supported;
+}
 
 }  // namespace
 
@@ -143,8 +90,7 @@ std::error_code Descripteur::ouvrir(const fs::path& chemin, Ouverture mode) {
     if (etat.genre == Genre::Fichier)
         return {};
     fermer();
-    return etat.genre == Genre::Dossier ? std::make_error_code(std::errc::is_a_directory)
-                                        : make_error_code(Ennui::PasUnFichier);
+    return pasunfichier(etat.genre);
 }
 
 void Descripteur::fermer() {
@@ -196,25 +142,123 @@ std::error_code tenir(Appels& appels, const fs::path& chemin, Descripteur& tenu)
     return {};
 }
 
-std::error_code poser(Appels& appels, const fs::path& cible, std::string_view octets, bool neuf) {
+std::error_code Provisoire::creer(const fs::path& cible) {
+    cible_ = cible;
     Etat ancien;
-    auto erreur = neuf ? std::make_error_code(std::errc::no_such_file_or_directory)
-                       : appels.etat(cible, ancien);
-    const bool remplace = !erreur;
-    if (erreur && erreur != std::errc::no_such_file_or_directory)
+    const auto absence = appels_.etat(cible, ancien);
+    if (absence && absence != std::errc::no_such_file_or_directory)
+        return absence;
+    if (!absence && ancien.genre != Genre::Fichier)
+        return pasunfichier(ancien.genre);
+    balayer(appels_, cible);
+    const auto erreur = ouvrir();
+    return erreur || absence ? erreur : heriter(ancien);
+}
+
+/// Creates the file under a name that is free, and locks it.
+std::error_code Provisoire::ouvrir() {
+    std::error_code erreur;
+    for (int n = 0; n < essaisdunom; ++n) {
+        auto chemin = cible_;
+        chemin += "." + std::to_string(appels_.programme() + n) + std::string(extension);
+        erreur = fichier_.ouvrir(chemin, Ouverture::Creation);
+        if (erreur == std::errc::file_exists)
+            continue;
+        if (erreur)
+            return erreur;
+        // Another program may have taken it for a left one before the lock. Where a disk has no
+        // locks nobody does.
+        bool pris = true;
+        const bool sansverrous = static_cast<bool>(appels_.verrouiller(fichier_.poignee(), pris));
+        if (sansverrous || (pris && fichier_.nomme(chemin))) {
+            chemin_ = chemin;
+            return {};
+        }
+        if (pris)
+            static_cast<void>(appels_.supprimer(chemin));
+    }
+    return erreur ? erreur : std::make_error_code(std::errc::device_or_resource_busy);
+}
+
+/// Takes over the owner and the permissions, before there is a byte that others should not read.
+std::error_code Provisoire::heriter(const Etat& ancien) {
+    // A file that cannot be given away stays with whoever has made it.
+    static_cast<void>(appels_.leguer(cible_, fichier_.poignee()));
+    Etat neuf;
+    if (const auto erreur = appels_.etat(fichier_.poignee(), neuf))
         return erreur;
-    if (remplace && ancien.genre != Genre::Fichier)
-        return ancien.genre == Genre::Dossier ? std::make_error_code(std::errc::is_a_directory)
-                                              : make_error_code(Ennui::PasUnFichier);
-    balayer(appels, cible);
+    if (neuf.droits == ancien.droits)
+        return {};
+    const auto erreur = appels_.changerdroits(fichier_.poignee(), ancien.droits);
+    return sanscetappel(erreur) ? std::error_code() : erreur;
+}
+
+std::error_code Provisoire::remplir(std::string_view octets) {
+    while (!octets.empty()) {
+        std::size_t ecrits = 0;
+        if (const auto erreur = appels_.ecrire(fichier_.poignee(), octets, ecrits))
+            return erreur;
+        if (ecrits == 0)
+            return std::make_error_code(std::errc::no_space_on_device);
+        octets.remove_prefix(ecrits);
+    }
+    return {};
+}
+
+std::error_code Provisoire::placer() {
+    auto erreur = appels_.synchroniser(fichier_.poignee());
+    if (!erreur)
+        erreur = appels_.renommer(chemin_, cible_);
+    if (!erreur)
+        achever();
+    return erreur;
+}
+
+std::error_code Provisoire::placerneuf() {
+    auto erreur = appels_.synchroniser(fichier_.poignee());
+    if (!erreur)
+        erreur = nommer();
+    if (!erreur)
+        achever();
+    return erreur;
+}
+
+/// Gives the file its name, unless something has it.
+std::error_code Provisoire::nommer() {
+    auto erreur = appels_.nommer(chemin_, cible_);
+    if (erreur != std::errc::invalid_argument && !sanscetappel(erreur))
+        return erreur;
+    // A disk that cannot: a second name, then the first one goes, or is left to the next change.
+    erreur = appels_.doubler(chemin_, cible_);
+    if (!erreur) {
+        static_cast<void>(appels_.supprimer(chemin_));
+        return {};
+    }
+    Etat etat;
+    if (erreur == std::errc::file_exists || !appels_.etat(cible_, etat))
+        return std::make_error_code(std::errc::file_exists);
+    return appels_.renommer(chemin_, cible_);
+}
+
+void Provisoire::achever() {
+    chemin_.clear();
+    // The change is made: a folder that cannot be synchronised takes nothing back.
+    static_cast<void>(appels_.synchroniserdossier(cible_.parent_path()));
+}
+
+std::error_code Provisoire::retirer() {
+    const auto erreur = chemin_.empty() ? std::error_code() : appels_.supprimer(chemin_);
+    chemin_.clear();
+    return erreur;
+}
+
+std::error_code poser(Appels& appels, const fs::path& cible, std::string_view octets, bool neuf) {
     Provisoire provisoire(appels);
-    erreur = provisoire.creer(cible);
+    auto erreur = provisoire.creer(cible);
     if (!erreur)
         erreur = provisoire.remplir(octets);
-    if (!erreur && remplace)
-        erreur = provisoire.prendreledroit(cible);
     if (!erreur)
-        erreur = provisoire.placer(cible, neuf);
+        erreur = neuf ? provisoire.placerneuf() : provisoire.placer();
     return erreur;
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int nblabel2 = 10;
 constexpr int nblabel3 = 4;
-/// `Label1` holds three headings more, whose background is transparent.
+/// The other three headings in `Label1` have a transparent background.
 constexpr int nblabel1colores = 3;
 
 void finir(ui::Controle& boite, std::int16_t valeur) {
@@ -123,7 +123,7 @@ options::Saisie Dialog2::saisie() const {
 void Dialog2::change(options::Champ champ) {
     const auto boites = saisie();
     if (const auto dit = options::message(champ, boites))
-        message_.texte = std::string(*dit);
+        message_.texte = *dit;
     if (!options::repercute(champ, boites))
         return;
     if (champ == options::Champ::Temps)
@@ -165,7 +165,7 @@ void Dialog2::cliquerok() {
     partir();
 }
 
-/// The boxes become the settings, in memory and on disk.
+/// Makes the contents of the boxes the settings, in memory and on disk.
 void Dialog2::ranger() {
     const auto boites = saisie();
     const auto entier = [](const std::string& boite) {

@@ -14,29 +14,30 @@ namespace dialogs {
 
 /// Dialog2: the options (thresholds of the result colours, clock, samples, colour, sound, assisted
 /// entry). It stays in front of the other forms without blocking them. The settings themselves are
-/// public variables that outlive it; it is made afresh from them at each opening.
+/// in `common::VariablesDialog2`; each opening makes a new form from them.
 ///
 /// `Text1(0)` and `Text1(1)` are the green and the red threshold, `Text2` the seconds a word,
 /// `Text3` the series of a sample, `Combo1` the colour, `Check1` the sound, `Check2` the assisted
 /// entry, `Label4` the message area.
 class Dialog2 : public ui::Formulaire {
   public:
-    /// What it reads, sets and calls of the others.
+    /// What it reads and sets, and the other forms that it calls.
     struct Voisins {
         common::VariablesForm3& form3;
         common::VariablesDialog2& dialog2;
         ui::FaceMenu& menu;
         ui::FaceSerie& multi;
     };
-    /// `decharger` makes the form go away, and the next touch make it anew.
+    /// `decharger` destroys the form; the next use makes a new one.
     Dialog2(ui::Plateforme& plateforme, const Voisins& voisins, std::function<void()> decharger);
 
-    /// Takes everything from the variables. Throws `Faute` if a time or a sample passes 16 bits.
+    /// Fills the form from the settings. Throws `Faute` if the time of a series or the size of a
+    /// sample exceeds 16 bits.
     void charger();
 
     /// The check box `Check1` ("Son") is ticked.
     [[nodiscard]] bool check1() const { return son_.coche(); }
-    /// Puts a colour name in `Combo1` and applies it to the forms.
+    /// Chooses a colour by its name, as a choice in `Combo1` does.
     void choisircouleur(std::string_view nomdecouleur);
     /// Opens the form in front of the others, without blocking them.
     void ouvrir();

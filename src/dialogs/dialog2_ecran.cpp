@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "dialog2.h"
+#include "listes.h"
 
 namespace dialogs {
 namespace {
@@ -53,41 +54,56 @@ constexpr int resultat(int numero) {
 struct Libelle {
     std::string_view nom;
     int index;
-    std::string_view texte;
+    std::string texte;
     int haut;
 };
 
-constexpr std::array titres{
-    Libelle{"Label1", 0, "Seuils de pourcentages", ligneseuils},
-    Libelle{"Label1", 1, "Chronomètre", lignechrono},
-    Libelle{"Label1", 2, "Taille des échantillons", ligneechantillons},
-    Libelle{"Label1", 3, "Couleur du fond", lignecouleur},
-    Libelle{"Label1", 4, "Son", ligneson},
-    Libelle{"Label1", 5, "Saisie assistée", ligneassistance},
-};
+auto titres() {
+    return std::array{
+        Libelle{"Label1", 0, "Seuils de pourcentages", ligneseuils},
+        Libelle{"Label1", 1, "Chronomètre", lignechrono},
+        Libelle{"Label1", 2, "Taille des échantillons", ligneechantillons},
+        Libelle{"Label1", 3, "Couleur du fond", lignecouleur},
+        Libelle{"Label1", 4, "Son", ligneson},
+        Libelle{"Label1", 5, "Saisie assistée", ligneassistance},
+    };
+}
 /// The headings from this one on stand beside their control, on a transparent background.
 constexpr int premiertitrefondu = 3;
 
-constexpr std::array libelles{
-    Libelle{"Label2", 0, "Vert à partir de", ligne(ligneseuils, 1)},
-    Libelle{"Label2", 1, "Rouge en dessous de", ligne(ligneseuils, 2)},
-    Libelle{"Label2", 2, "Temps moyen par mot =", ligne(lignechrono, 1)},
-    Libelle{"Label2", 3, "Temps pour 30 mots = ", ligne(lignechrono, 2)},
-    Libelle{"Label2", 4,
-            "Echantillon de base (séries de 30 tirages) =", ligne(ligneechantillons, 1)},
-    Libelle{"Label2", 5, "Nombre de mots solution unique =", resultat(0)},
-    Libelle{"Label2", 6, "Nombre de mots duos =", resultat(1)},
-    Libelle{"Label2", 7, "Nombre de mots trios =", resultat(2)},
-    Libelle{"Label2", 8, "Nombre de mots quatuors =", resultat(3)},
-    Libelle{"Label2", 9, "Nombre de mots quintets =", resultat(4)},
-};
+/// How many racks a series has.
+std::string tirages() {
+    return std::to_string(common::tiragesform1) + " tirages";
+}
+std::string entre(const options::Bornes& bornes) {
+    return " (de " + std::to_string(bornes.bas) + " à " + std::to_string(bornes.haut) + ")";
+}
 
-constexpr std::array unites{
-    Libelle{"Label3", 0, "%", ligne(ligneseuils, 1)},
-    Libelle{"Label3", 1, "%", ligne(ligneseuils, 2)},
-    Libelle{"Label3", 2, "secondes (de 2 à 15)", ligne(lignechrono, 1)},
-    Libelle{"Label3", 3, "série(s) (de 1 à 30)", ligne(ligneechantillons, 1)},
-};
+auto libelles() {
+    return std::array{
+        Libelle{"Label2", 0, "Vert à partir de", ligne(ligneseuils, 1)},
+        Libelle{"Label2", 1, "Rouge en dessous de", ligne(ligneseuils, 2)},
+        Libelle{"Label2", 2, "Temps moyen par mot =", ligne(lignechrono, 1)},
+        Libelle{"Label2", 3, "Temps pour " + std::to_string(common::tiragesform1) + " mots = ",
+                ligne(lignechrono, 2)},
+        Libelle{"Label2", 4,
+                "Echantillon de base (séries de " + tirages() + ") =", ligne(ligneechantillons, 1)},
+        Libelle{"Label2", 5, "Nombre de mots solution unique =", resultat(0)},
+        Libelle{"Label2", 6, "Nombre de mots duos =", resultat(1)},
+        Libelle{"Label2", 7, "Nombre de mots trios =", resultat(2)},
+        Libelle{"Label2", 8, "Nombre de mots quatuors =", resultat(3)},
+        Libelle{"Label2", 9, "Nombre de mots quintets =", resultat(4)},
+    };
+}
+
+auto unites() {
+    return std::array{
+        Libelle{"Label3", 0, "%", ligne(ligneseuils, 1)},
+        Libelle{"Label3", 1, "%", ligne(ligneseuils, 2)},
+        Libelle{"Label3", 2, "secondes" + entre(options::bornestemps), ligne(lignechrono, 1)},
+        Libelle{"Label3", 3, "série(s)" + entre(options::bornesbase), ligne(ligneechantillons, 1)},
+    };
+}
 
 /// A control that exists already; `nomaccessible` tells what a box holds. A label is told by its
 /// text.
@@ -95,7 +111,7 @@ struct Place {
     std::string_view nom;
     int index;
     ui::Cadrage cadre;
-    std::string_view nomaccessible;
+    std::string nomaccessible;
 };
 
 constexpr ui::Cadrage boite(int haut) {
@@ -112,29 +128,31 @@ constexpr ui::Cadrage bouton(int rangdepuisladroite) {
             ligneboutons, largeurbouton, hauteurbouton};
 }
 
-constexpr std::array places{
-    Place{"Text1", 0, boite(ligne(ligneseuils, 1)), "Vert à partir de, en pourcentage"},
-    Place{"Text1", 1, boite(ligne(ligneseuils, 2)), "Rouge en dessous de, en pourcentage"},
-    Place{"Text2", -1, boite(ligne(lignechrono, 1)), "Temps moyen par mot, en secondes"},
-    Place{"tps30mots", -1, calcul(ligne(lignechrono, 2)), ""},
-    Place{"Text3", -1, boite(ligne(ligneechantillons, 1)),
-          "Echantillon de base, en séries de 30 tirages"},
-    Place{"nbechan", 0, calcul(resultat(0)), ""},
-    Place{"nbechan", 1, calcul(resultat(1)), ""},
-    Place{"nbechan", 2, calcul(resultat(2)), ""},
-    Place{"nbechan", 3, calcul(resultat(3)), ""},
-    Place{"nbechan", 4, calcul(resultat(4)), ""},
-    Place{"Combo1", -1, choix(lignecouleur), "Couleur du fond"},
-    Place{"Check1", -1, choix(ligneson), ""},
-    Place{"Check2", -1, choix(ligneassistance), ""},
-    Place{"Label4", -1, {marge, lignemessage, largeurforme - 2 * marge, hauteurboite}, ""},
-    Place{"OKButton", -1, bouton(1), ""},
-    Place{"Command1", -1, bouton(0), ""},
-};
+auto places() {
+    return std::array{
+        Place{"Text1", 0, boite(ligne(ligneseuils, 1)), "Vert à partir de, en pourcentage"},
+        Place{"Text1", 1, boite(ligne(ligneseuils, 2)), "Rouge en dessous de, en pourcentage"},
+        Place{"Text2", -1, boite(ligne(lignechrono, 1)), "Temps moyen par mot, en secondes"},
+        Place{"tps30mots", -1, calcul(ligne(lignechrono, 2)), ""},
+        Place{"Text3", -1, boite(ligne(ligneechantillons, 1)),
+              "Echantillon de base, en séries de " + tirages()},
+        Place{"nbechan", 0, calcul(resultat(0)), ""},
+        Place{"nbechan", 1, calcul(resultat(1)), ""},
+        Place{"nbechan", 2, calcul(resultat(2)), ""},
+        Place{"nbechan", 3, calcul(resultat(3)), ""},
+        Place{"nbechan", 4, calcul(resultat(4)), ""},
+        Place{"Combo1", -1, choix(lignecouleur), "Couleur du fond"},
+        Place{"Check1", -1, choix(ligneson), ""},
+        Place{"Check2", -1, choix(ligneassistance), ""},
+        Place{"Label4", -1, {marge, lignemessage, largeurforme - 2 * marge, hauteurboite}, ""},
+        Place{"OKButton", -1, bouton(1), ""},
+        Place{"Command1", -1, bouton(0), ""},
+    };
+}
 
 ui::Controle& etiquette(ui::Formulaire& form, const Libelle& libelle, int gauche, int largeur) {
     auto& controle = form.ajouter(ui::Genre::Etiquette, libelle.nom, libelle.index);
-    controle.texte = std::string(libelle.texte);
+    controle.texte = libelle.texte;
     controle.placer({gauche, libelle.haut, largeur, hauteurtexte});
     return controle;
 }
@@ -153,7 +171,7 @@ void Dialog2::disposer() {
     largeur = largeurforme;
     hauteur = hauteurforme;
     message_.couleur = couleurdumessage;
-    for (const auto& titre : titres) {
+    for (const auto& titre : titres()) {
         const bool fondu = titre.index >= premiertitrefondu;
         auto& pose =
             etiquette(*this, titre, marge, fondu ? largeurlibelle : largeurforme - 2 * marge);
@@ -162,17 +180,17 @@ void Dialog2::disposer() {
         pose.aspect = ui::Aspect::Titre;
         pose.fondu = fondu;
     }
-    for (const auto& libelle : libelles)
+    for (const auto& libelle : libelles())
         etiquette(*this, libelle, marge, largeurlibelle);
-    for (const auto& unite : unites)
+    for (const auto& unite : unites())
         etiquette(*this, unite, colonneunite, largeurunite);
     int index = 0;
     for (const int haut : {lignechrono, ligneechantillons, lignecouleur, lignemessage})
         filet(*this, index++, haut - ecartsousfilet);
-    for (const auto& place : places) {
+    for (const auto& place : places()) {
         auto& pose = controle(place.nom, place.index);
         pose.placer(place.cadre);
-        pose.accessible = std::string(place.nomaccessible);
+        pose.accessible = place.nomaccessible;
     }
 }
 

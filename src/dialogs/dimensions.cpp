@@ -10,7 +10,8 @@
 namespace dialogs {
 namespace {
 
-/// A picture format: how its files begin, and where the two sides stand, in four bytes each.
+/// A picture format: the first bytes of its files, and the places of width and height, four bytes
+/// each.
 struct Format {
     std::string_view signature;
     std::size_t largeur;

@@ -7,15 +7,15 @@
 
 namespace dialogs {
 
-/// Size of a picture, in pixels.
+/// The size of a picture, in pixels.
 struct Dimensions {
     int largeur = 0;
     int hauteur = 0;
     friend bool operator==(const Dimensions&, const Dimensions&) = default;
 };
 
-/// The size that the head of a BMP or PNG file tells. Nothing if the file cannot be read, is no
-/// such picture, or tells a side outside 1 to `cotemaximal`.
+/// The size of a picture, from the header of its BMP or PNG file. Nothing if the file cannot be
+/// read, is no such picture, or has a side outside 1 to `cotemaximal`.
 [[nodiscard]] std::optional<Dimensions> dimensions(common::Disque& disque, std::string_view chemin);
 inline constexpr int cotemaximal = 10000;
 

@@ -4,7 +4,7 @@
 
 namespace dialogs {
 
-/// Makes Escape do what the form's close box does, whichever control has the focus.
+/// Makes Escape close the form as its close box does, whichever control has the focus.
 inline void fermerparechap(ui::Formulaire& form) {
     form.toucheenfoncee = [&form](ui::Touche& touche) {
         if (touche.code != ui::touches::echap)

@@ -13,12 +13,13 @@ constexpr std::string_view fichierversion = "version_en_ligne.txt";
 constexpr std::string_view fichierlien = "downloadlink.txt";
 constexpr std::string_view fichierinstalleur = "orvane_setup.exe";
 
-constexpr std::int64_t tailledeligne = 1 << 16;          // bytes of the version file, of the link
-constexpr std::int64_t tailleinstalleur = 512LL << 20U;  // bytes
+// Bytes of a file, at most. The lines of the small ones need no limit of their own.
+constexpr std::int64_t tailledetexte = 1 << 16;  // of the version file, of the link file
+constexpr std::int64_t tailleinstalleur = 512LL << 20U;
 
 using Ligne = std::optional<std::string>;
 
-/// The first two lines of a file's bytes, whole; nothing for one that it has not.
+/// The first two lines of a file; nothing for a line that it lacks.
 std::array<Ligne, 2> premiereslignes(std::string_view octets) {
     common::Lignes lignes(octets);
     std::array<Ligne, 2> lues;
@@ -38,14 +39,14 @@ bool memeversion(std::string_view locale, std::string_view publiee) {
 
 void MiseAJour::verifier() {
     const auto chemin = dansdossierprogramme(fichierversion);
-    if (!plateforme_.telecharger(publication_.version, chemin, {.taille = tailledeligne})) {
+    if (!plateforme_.telecharger(publication_.version, chemin, {.taille = tailledetexte})) {
         ouvrirpage(
             "Erreur durant la vérification. Votre navigateur va s'ouvrir sur la page d'Orvane.",
             ui::Icone::Exclamation);
         return;
     }
     const auto [ligne, somme] = premiereslignes(
-        common::liretexte(plateforme_.disque(), chemin, "Vérification de la mise à jour"));
+        common::lirefichier(plateforme_.disque(), chemin, "Vérification de la mise à jour"));
     const auto publiee = ligne.value_or("");
     if (memeversion(form3_.versionlocale, publiee))
         plateforme_.message("Votre logiciel est à jour.", ui::Icone::Information);
@@ -59,8 +60,8 @@ bool MiseAJour::proposer(std::string_view publiee) {
                                 " est disponible. Voulez-vous la télécharger ?");
 }
 
-/// Fetches the link, then what it leads to, which has to have the published sum if there is one. A
-/// link that cannot be fetched or read leaves the busy pointer on the menu.
+/// Downloads the link, then the installer, which must match the published sum if there is one. If
+/// the link fails, the menu keeps its busy pointer.
 void MiseAJour::telecharger(const std::optional<std::string>& somme) {
     plateforme_.message(
         "Le programme va télécharger la nouvelle version, cela peut prendre quelques secondes.",
@@ -69,7 +70,7 @@ void MiseAJour::telecharger(const std::optional<std::string>& somme) {
     menu_.aide("Téléchargement en cours");
     plateforme_.laissercourir();
     if (!plateforme_.telecharger(publication_.lien, fichierlien,
-                                 {.sure = true, .taille = tailledeligne})) {
+                                 {.sure = true, .taille = tailledetexte})) {
         ouvrirpage(
             "Erreur durant le téléchargement automatisé, désolé. Votre navigateur va s'ouvrir sur "
             "la page d'Orvane, vous pourrez ensuite télécharger la dernière version.",
@@ -91,8 +92,7 @@ void MiseAJour::telecharger(const std::optional<std::string>& somme) {
             ui::Icone::Information);
 }
 
-/// Hands over to the installer and ends the program, unless a file that was downloaded cannot be
-/// deleted.
+/// Opens the installer and ends the program, unless a downloaded file cannot be deleted.
 void MiseAJour::installer() {
     plateforme_.message(
         "Orvane va maintenant se fermer et l'installation de la mise à jour va débuter. Suivez les "
@@ -111,11 +111,11 @@ void MiseAJour::ouvrirpage(std::string_view explication, ui::Icone icone) {
     plateforme_.ouvrir(publication_.page);
 }
 
-/// The address in the link file; nothing if it cannot be read. This failure ends the check without
-/// a word.
+/// The address in the link file; nothing if it cannot be read, which ends the check without a
+/// message.
 std::optional<std::string> MiseAJour::lirelien() {
     std::string octets;
-    if (common::essayerliretexte(plateforme_.disque(), fichierlien, octets))
+    if (common::essayerlire(plateforme_.disque(), fichierlien, octets))
         return std::nullopt;
     return premiereslignes(octets).front();
 }

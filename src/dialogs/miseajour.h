@@ -12,21 +12,21 @@
 
 namespace dialogs {
 
-/// Two versions are the same when their numeric values are: "2.680" is "2.68", "2,68" is 2.
+/// Two versions are the same if their numeric values (`common::valeur`) are equal: "2.680" is
+/// "2.68", but "2,68" is 2.
 [[nodiscard]] bool memeversion(std::string_view locale, std::string_view publiee);
 
-/// Where the update check looks.
+/// The addresses that the update check uses.
 struct Publication {
     std::string version{common::adresses::version};      ///< address of the version file
     std::string lien{common::adresses::lien};            ///< address of the link file
-    std::string page{common::adresses::telechargement};  ///< what the browser opens
+    std::string page{common::adresses::telechargement};  ///< page that the browser opens
 };
 
-/// The update check: compares the program's version with the published one, and on the player's
-/// word downloads the installer, opens it and ends the program. All of it runs in one call. The
-/// version file goes to the program's folder; the link and the installer go to the working folder,
-/// and come from a safe address only (`ui::Exigence`). What is published, and where it lies, is
-/// told in docs/formats.md.
+/// The update check: compares the program's version with the published one and, if the player
+/// agrees, downloads the installer, opens it and ends the program. The version file is saved in the
+/// program's folder; the link and the installer are saved in the working folder and must come from
+/// a safe address (`ui::Exigence::sure`). docs/formats.md describes the published files.
 class MiseAJour {
   public:
     MiseAJour(ui::Plateforme& plateforme, const common::VariablesForm3& form3, ui::FaceMenu& menu,
@@ -36,7 +36,7 @@ class MiseAJour {
           menu_(menu),
           publication_(std::move(publication)) {}
 
-    /// Throws `Faute` if the version file that was downloaded cannot be read.
+    /// Runs the whole check. Throws `Faute` if the downloaded version file cannot be read.
     void verifier();
 
   private:

@@ -9,13 +9,13 @@
 namespace dialogs::options {
 namespace {
 
-struct Bornes {
-    double bas;
-    double haut;
-    [[nodiscard]] bool contient(double v) const { return v >= bas && v <= haut; }
-    /// Between the bounds stretched by one, these left out.
-    [[nodiscard]] bool frole(double v) const { return v > bas - 1 && v < haut + 1; }
-};
+bool contient(const Bornes& bornes, double v) {
+    return v >= bornes.bas && v <= bornes.haut;
+}
+/// Less than one beyond a bound, or within them.
+bool frole(const Bornes& bornes, double v) {
+    return v > bornes.bas - 1 && v < bornes.haut + 1;
+}
 
 constexpr std::string_view rien;
 constexpr std::string_view ordrevert = "Le 1er % doit être supérieur à celui d'en dessous !";
@@ -23,30 +23,27 @@ constexpr std::string_view ordrerouge = "Le 2ème % doit être inférieur à cel
 
 using Texte = std::string Saisie::*;
 
-/// A box: where its text stands, its bounds, and what it says outside them.
+/// A box: where its text stands, its bounds, and how its messages word them.
 struct Regle {
     Texte texte;
     Bornes bornes;
-    std::string_view trop;
-    std::string_view troppeu;
+    int unites;              ///< how many of the messages' unit make one of the box's
+    std::string_view unite;  ///< of the messages
     std::string_view ordre;  ///< message on the order of the thresholds, empty for the other boxes
     [[nodiscard]] bool seuil() const { return !ordre.empty(); }
+    [[nodiscard]] std::string refus(std::string_view debut, int borne) const {
+        return std::string(debut) + std::to_string(borne * unites) + std::string(unite) + " !";
+    }
+    [[nodiscard]] std::string trop() const { return refus("Pas plus de ", bornes.haut); }
+    [[nodiscard]] std::string troppeu() const { return refus("Pas moins de ", bornes.bas); }
 };
 
 /// By `Champ`.
 constexpr std::array<Regle, 4> regles{{
-    {&Saisie::vert, {10, 100}, "Pas plus de 100% !", "Pas moins de 10% !", ordrevert},
-    {&Saisie::rouge, {5, 100}, "Pas plus de 100% !", "Pas moins de 5% !", ordrerouge},
-    {&Saisie::temps,
-     {2, 15},
-     "Pas plus de 15 secondes par mot !",
-     "Pas moins de 2 secondes par mot !",
-     rien},
-    {&Saisie::base,
-     {1, 30},
-     "Pas plus de 900 mots par échantillon !",
-     "Pas moins de 30 mots par échantillon !",
-     rien},
+    {&Saisie::vert, bornesvert, 1, "%", ordrevert},
+    {&Saisie::rouge, bornesrouge, 1, "%", ordrerouge},
+    {&Saisie::temps, bornestemps, 1, " secondes par mot", rien},
+    {&Saisie::base, bornesbase, common::tiragesform1, " mots par échantillon", rien},
 }};
 
 const Regle& regle(Champ champ) {
@@ -63,16 +60,16 @@ bool ordrerompu(const Saisie& saisie) {
 
 }  // namespace
 
-std::optional<std::string_view> message(Champ champ, const Saisie& saisie) {
+std::optional<std::string> message(Champ champ, const Saisie& saisie) {
     const auto& r = regle(champ);
     const double v = lue(r, saisie);
-    std::optional<std::string_view> dit;
+    std::optional<std::string> dit;
     if (r.seuil())
         dit = rien;
     if (v > r.bornes.haut)
-        dit = r.trop;
+        dit = r.trop();
     if (v < r.bornes.bas && !(saisie.*r.texte).empty())
-        dit = r.troppeu;
+        dit = r.troppeu();
     if (r.seuil() && ordrerompu(saisie))
         dit = r.ordre;
     if (repercute(champ, saisie))
@@ -82,26 +79,25 @@ std::optional<std::string_view> message(Champ champ, const Saisie& saisie) {
 
 bool repercute(Champ champ, const Saisie& saisie) {
     const auto& r = regle(champ);
-    return !r.seuil() && r.bornes.frole(lue(r, saisie));
+    return !r.seuil() && frole(r.bornes, lue(r, saisie));
 }
 
 Verdict valider(const Saisie& saisie) {
     Verdict verdict;
-    // The order is tested twice, once in the words of each box; the second message stays.
+    // Both boxes would complain about the order; the message of the second one stays.
     if (ordrerompu(saisie))
         verdict = {false, ordrerouge};
     const bool dansbornes = std::all_of(regles.begin(), regles.end(), [&](const Regle& r) {
-        return r.bornes.contient(lue(r, saisie));
+        return contient(r.bornes, lue(r, saisie));
     });
     verdict.accepte = verdict.accepte && dansbornes;
     return verdict;
 }
 
 std::string tempsdeserie(double secondesparmot) {
-    // 32767 seconds for 30 words.
-    constexpr std::string_view quoi =
-        "Temps d'une série de 30 mots, à 1092 secondes par mot au plus (options, ligne 3 de "
-        "« settings.dat »)";
+    const auto quoi = "Temps d'une série de " + std::to_string(common::tiragesform1) + " mots, à " +
+                      std::to_string(common::plusgrand16 / common::tiragesform1) +
+                      " secondes par mot au plus (options, ligne 3 de « settings.dat »)";
     return common::CalcDuree(common::entier16(secondesparmot * common::tiragesform1, quoi));
 }
 

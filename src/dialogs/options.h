@@ -1,7 +1,8 @@
 #pragma once
 
 // The rules of the options: what a change of a box says, when OK accepts, and the texts that are
-// computed from the boxes. Numbers are read from the boxes as the numeric value of their text.
+// computed from the boxes. The number in a box is the numeric value of its text
+// (`common::valeur`).
 
 #include <array>
 #include <cstddef>
@@ -10,11 +11,12 @@
 #include <string>
 #include <string_view>
 
+#include "listes.h"
 #include "partage.h"
 
 namespace dialogs::options {
 
-/// The four boxes, as their texts stand.
+/// The texts of the four boxes.
 struct Saisie {
     std::string vert;   ///< `Text1(0)`, percent
     std::string rouge;  ///< `Text1(1)`, percent
@@ -24,27 +26,39 @@ struct Saisie {
 
 enum class Champ : std::uint8_t { Vert, Rouge, Temps, Base };
 
-/// What the message area takes when a box has changed; nothing: it keeps what it shows.
-[[nodiscard]] std::optional<std::string_view> message(Champ champ, const Saisie& saisie);
+/// What OK accepts of a box, both bounds included, in the unit of the box.
+struct Bornes {
+    int bas;
+    int haut;
+};
+inline constexpr Bornes bornesvert{10, 100};
+inline constexpr Bornes bornesrouge{5, 100};
+inline constexpr Bornes bornestemps{2, 15};
+inline constexpr Bornes bornesbase{1, 30};
 
-/// The value of the box is shown at once in what is computed from it. Its bounds are one beyond
-/// those of the messages, so that 1.5 or 15.5 passes here until OK refuses it. A threshold is shown
-/// nowhere else.
+/// The message that a change of a box leads to; nothing: the message area keeps what it shows.
+[[nodiscard]] std::optional<std::string> message(Champ champ, const Saisie& saisie);
+
+/// Whether what is computed from the box follows its value at once. A value passes here that is
+/// less than one beyond a bound, such as 1.5 or 15.5 seconds, though OK refuses it. Nothing is
+/// computed from a threshold.
 [[nodiscard]] bool repercute(Champ champ, const Saisie& saisie);
 
-/// What OK makes of the boxes.
+/// The outcome of OK.
 struct Verdict {
     bool accepte = true;
-    std::optional<std::string_view> message;  ///< for the message area; nothing: it stays
+    std::optional<std::string_view> message;  ///< nothing: the message area keeps what it shows
 };
 [[nodiscard]] Verdict valider(const Saisie& saisie);
 
-/// The time of a series of 30 words, as mm:ss. Throws `Faute` past 16 bits.
+/// The time of a series of `common::tiragesform1` words, as mm:ss. Throws `Faute` if it has more
+/// seconds than 16 bits hold.
 [[nodiscard]] std::string tempsdeserie(double secondesparmot);
 
-constexpr std::size_t nbtailles = 5;
-/// The sizes of a sample as shown, from one solution a rack to five. Sets the sample sizes of
-/// `variables` for `nbser` series. Throws `Faute` past 16 bits.
+/// Sample sizes: one for each number of solutions a rack may have.
+constexpr std::size_t nbtailles = common::solutionsmulti;
+/// The sizes of a sample of `nbser` series as shown, from one solution a rack up. Sets those of
+/// `variables` too. Throws `Faute` if one is over 16 bits.
 [[nodiscard]] std::array<std::string, nbtailles> tailles(common::VariablesDialog2& variables,
                                                          std::int16_t nbser);
 

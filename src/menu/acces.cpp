@@ -5,7 +5,7 @@
 namespace menu {
 namespace {
 
-// Twips: a line of wide buttons, and under it a line of narrower ones for each group.
+// Twips. The first-level buttons make one line; under it each group has a line of narrower ones.
 constexpr int marge = 150;
 constexpr int ecart = 90;
 constexpr int largeurgroupe = 2628;
@@ -14,7 +14,7 @@ constexpr int hauteurgroupe = 600;
 constexpr int hautseconds = 1410;
 constexpr int hauteurseconds = 510;
 
-/// Puts the buttons of one group after the other, those of a group within it at their end.
+/// Places the buttons of a group from left to right, then those of the group inside it.
 class Rang {
   public:
     explicit Rang(std::vector<Acces>& acces) : acces_(acces) {}

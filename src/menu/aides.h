@@ -1,7 +1,7 @@
 #pragma once
 
-// The texts that the help box (`Label11`) and the message line (`Label13`) show beside those of the
-// catalogue. Lines of one text are separated by a line feed.
+// What the help box (`Label11`) and the message line (`Label13`) show: texts of the catalogue, and
+// texts of their own. A line feed separates the lines of a text.
 
 #include <cstddef>
 #include <string>
@@ -11,11 +11,13 @@
 
 namespace menu {
 
-/// How the list of a row was made (`Command14`); empty without a panel, or if the row has no text.
+/// Over "Tout" (`Command14`) of a row: how its list was made. Empty without a panel, or if the row
+/// has no text.
 [[nodiscard]] std::string_view aidetout(const Panneau* panneau, std::size_t rangee);
-/// What the list of a row is for (`Label1`); empty without a panel, or if the row has no text.
+/// Over the name of a row (`Label1`): what its list is for. Empty in the same cases.
 [[nodiscard]] std::string_view aidelibelle(const Panneau* panneau, std::size_t rangee);
-/// The text of a control that has one, whatever the panel and row; empty for the others.
+/// The text of a control, named by its design name, whose help is the same on every panel; empty
+/// for any other control.
 [[nodiscard]] std::string_view aidefixe(std::string_view controle);
 /// The greeting at start-up.
 [[nodiscard]] std::string bienvenue(std::string_view util);

@@ -1,8 +1,7 @@
 #pragma once
 
-// The catalogue: the word lists that the menu offers, as data without a control. A panel is one row
-// of one table, with everything that is told of it; panels, rows, captions and files never change
-// while the program runs.
+// The catalogue: the word lists that the menu offers, as constant data. All that is known of a
+// panel stands in one row of one table.
 
 #include <cstddef>
 #include <cstdint>
@@ -30,10 +29,10 @@ enum class Ecran : std::uint8_t {
 struct Rangee {
     std::string_view libelle;   ///< caption, UTF-8
     std::string_view fichier;   ///< name in the folder of the lists, with its extension
-    std::size_t parties = 0;    ///< 0, or 2 to 4: the parts are named a to d
-    std::size_t solutions = 1;  ///< of a rack, 1 to 5
+    std::size_t parties = 0;    ///< 0, or 2 to 4, named from a to d
+    std::size_t solutions = 1;  ///< of a rack, 1 to `common::solutionsmulti`
     Insigne insigne = Insigne::aucun;
-    /// What the help box shows, lines separated by a line feed; empty: it keeps what it shows.
+    /// Texts of the help box, lines separated by a line feed. Empty: the box stays as it is.
     std::string_view aidetout{};     ///< over "Tout": how the list was made
     std::string_view aidelibelle{};  ///< over its caption: what the list is for
 
@@ -42,10 +41,10 @@ struct Rangee {
     }
 };
 
-/// A set of second-level buttons that are shown together. Each group has a button that shows it;
-/// that of the high-value letter stands among the racks with one solution.
+/// A set of second-level buttons that are shown together. Each group has a button that shows it: a
+/// first-level button, but for the high-value letters, whose button is one of the group `uniques`.
 enum class Groupe : std::uint8_t {
-    aucun,  ///< the button is always shown
+    aucun,  ///< no group: a first-level button
     uniques,
     chere,
     multiples,
@@ -57,8 +56,8 @@ struct Bouton {
     std::string_view nom;  ///< design name
     int index = -1;        ///< in its control array, -1 if it stands alone
     std::string_view libelle;
-    Groupe groupe = Groupe::aucun;  ///< it stands among these
-    int largeur = 0;                ///< twips; 0: the width of the buttons that are always shown
+    Groupe groupe = Groupe::aucun;  ///< the group that it belongs to
+    int largeur = 0;                ///< twips; 0: the width of the first-level buttons
 };
 
 /// The button that shows the buttons of a group.
@@ -67,38 +66,39 @@ struct Boutondegroupe {
     Groupe montre{};
 };
 
+/// A page of the menu: its button, its lists, and what is special about it.
 struct Panneau {
-    std::string_view cle;  ///< what tells it from the others
+    std::string_view cle;  ///< unique, for code and tests; no player sees it
     Bouton bouton;         ///< opens it
     std::span<const Rangee> rangees{};
     bool total = false;         ///< the sum of the sizes is shown
     std::string_view typ{};     ///< what `typ` holds while one of its lists is worked
-    std::size_t etape = 0;      ///< at which a sample of its lists is launched, from 0
-    std::string_view aide{};    ///< what its opening writes in the help box; empty: nothing
-    bool personnel = false;     ///< its last row, one more, is the user's own list
-    bool images = false;        ///< it shows the buttons of the two pictures (`Command11`)
-    bool nombredecale = false;  ///< the sizes stand a little to the right
-    /// The rows with parts share the first part buttons, in order; otherwise a row has its own.
+    std::size_t etape = 0;      ///< stage at which a sample is launched, from 0 (lancement.h)
+    std::string_view aide{};    ///< shown in the help box when the panel opens; empty: none
+    bool personnel = false;     ///< the user's own list follows these rows
+    bool images = false;        ///< shows the buttons of the two pictures (`Command11`)
+    bool nombredecale = false;  ///< the column of sizes stands a little to the right
+    /// The first row with parts takes the first set of part buttons, the second one the second, and
+    /// so on. Otherwise each row takes the set with its own number.
     bool partiesserrees = false;
 };
 
-/// All panels, in the order of the menu. The row of the user's own list, which has no fixed name,
-/// is in none of them.
+/// All panels, in the order of the menu, without the row of the user's own list.
 [[nodiscard]] std::span<const Panneau> panneaux();
 
-/// The panel of a key, or nothing.
+/// The panel with this key; null if there is none.
 [[nodiscard]] const Panneau* panneau(std::string_view cle);
 
 /// The buttons that show a group, in the order of the menu.
 [[nodiscard]] std::span<const Boutondegroupe> boutonsdegroupe();
 
-/// The letter of a part, from 0.
+/// The letter of part `partie`: 0 is a.
 [[nodiscard]] char lettredepartie(std::size_t partie);
 
-/// The file of a part of a list: "_" and its letter stand before the extension.
+/// The file of a part of the list `fichier`, which has an extension: `3lc.txt` becomes `3lc_a.txt`.
 [[nodiscard]] std::string fichierdepartie(std::string_view fichier, std::size_t partie);
 
-/// Every fixed file of the catalogue: each list, followed by its parts.
+/// The files of all lists, each followed by the files of its parts.
 [[nodiscard]] std::vector<std::string> fichiersfixes();
 
 }  // namespace menu

@@ -1,6 +1,6 @@
 #pragma once
 
-// The size of a list: the lines of its file, counted over blocks of bytes.
+// The size of a list is the number of lines of its file, counted block by block.
 
 #include <cstddef>
 #include <string_view>
@@ -10,22 +10,23 @@
 
 namespace menu {
 
-/// Counts lines, and the semicolons of the last one. A last line without a line end is a line; a
-/// line end at the very end starts no further one.
+/// Counts the lines of a file, and the semicolons of its last line. A last line may lack its line
+/// end; a line end at the end of the file starts no new line.
 class Compteur {
   public:
+    /// Takes the next bytes of the file.
     void voir(std::string_view bloc);
     [[nodiscard]] std::size_t lignes() const { return sauts_ + (entamee_ ? 1 : 0); }
     [[nodiscard]] std::size_t pointsvirgules() const { return entamee_ ? courants_ : termines_; }
 
   private:
     std::size_t sauts_ = 0;
-    std::size_t termines_ = 0;  ///< semicolons of the line that ended last
-    std::size_t courants_ = 0;  ///< and of the one that has no end yet
-    bool entamee_ = false;      ///< there is such a line
+    std::size_t termines_ = 0;  ///< semicolons of the last line that has ended
+    std::size_t courants_ = 0;  ///< semicolons of the line that has not
+    bool entamee_ = false;      ///< there is a line that has not ended
 };
 
-/// Counts a file in one pass. A failure is returned: the counter is then good for nothing.
+/// Feeds a whole file to `compteur`. After a failure, which is returned, its counts mean nothing.
 [[nodiscard]] std::error_code compter(common::Disque& disque, std::string_view chemin,
                                       Compteur& compteur);
 

@@ -12,7 +12,7 @@ namespace {
 
 using ui::Genre;
 
-/// Who the menu runs for when no name was chosen at login.
+/// The user when no name was chosen at login.
 constexpr std::string_view utilisateurdesecours = "Ferdo";
 
 }  // namespace
@@ -110,7 +110,7 @@ void Form3::annoncer(std::string_view annonce) {
     fondmessage_.visible = !annonce.empty();
 }
 
-/// A row without a result shows no ground either.
+/// A row without a result shows no background either.
 void Form3::ecrireresultat(std::size_t rangee, const Resultat& resultat) {
     auto& ligne = lignes_[rangee];
     ligne.date.texte = resultat.date;
@@ -119,7 +119,7 @@ void Form3::ecrireresultat(std::size_t rangee, const Resultat& resultat) {
     decrire(ligne.resultat);
 }
 
-/// What the colour of a result says is heard too.
+/// Tells assistive technologies what the colour of a result means.
 void Form3::decrire(ui::Controle& resultat) {
     resultat.description =
         std::string(resultat.texte().empty() ? "" : nomdelateinte(resultat.couleur()));

@@ -22,7 +22,7 @@ namespace menu {
 /// `Label13` the message line.
 class Form3 : public ui::Formulaire {
   public:
-    /// What it reads, sets and calls of the others.
+    /// What it reads and sets, and the other forms that it calls.
     struct Voisins {
         common::VariablesForm3& form3;
         common::VariablesDialog2& dialog2;
@@ -39,7 +39,7 @@ class Form3 : public ui::Formulaire {
     void charger();
     /// Refreshes the results of the panel on show from `hist.dat`; does nothing without a panel.
     void maj();
-    /// Takes everything off the table, before any group or panel.
+    /// Hides everything that belongs to a group or a panel.
     void effacerpanneau();
     /// The file exists.
     [[nodiscard]] bool Verification(std::string_view chemin);
@@ -48,7 +48,7 @@ class Form3 : public ui::Formulaire {
     void donnerfond(ui::Couleur couleur);
     /// The check box `app` ("Apprentissage") is ticked.
     [[nodiscard]] bool app() const { return app_.coche(); }
-    /// Writes the help box.
+    /// Shows a text in the help box.
     void aide(std::string_view texteaide);
     /// The busy pointer, or the normal one.
     void patienter(bool attente);
@@ -111,9 +111,9 @@ class Form3 : public ui::Formulaire {
 
     Voisins voisins_;
     Controles acces_;    ///< in the order of `lesacces`
-    Controles entetes_;  ///< what is on show with any panel
+    Controles entetes_;  ///< shown with every panel
     std::vector<Ligne> lignes_;
-    Controles verbes_;  ///< badges: as many of each as a panel can need
+    Controles verbes_;  ///< badges, as many of each kind as a panel can need
     Controles cheres_;
     Controles images_;  ///< `Command11`
     ui::Controle& perso_;

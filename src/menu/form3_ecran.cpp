@@ -13,7 +13,7 @@ using ui::Genre;
 constexpr int largeurdessin = 13800;
 constexpr int hauteurdessin = 9870;
 
-// The table: rows of this height, the first one at this place, and the columns.
+// The table: height of a row, place of the first row, columns.
 constexpr int hauteurligne = 720;
 constexpr int hautlignes = 2760;
 constexpr int hautparties = 3015;
@@ -49,12 +49,13 @@ constexpr ui::Couleur encreentete{0x4A4438};
 constexpr ui::Cadrage cadrepied{45, 8505, 7395, 1290};
 constexpr ui::Cadrage cadreaide{120, 8600, 7215, 1000};
 constexpr ui::Cadrage cadremessage{120, 9240, 7215, 495};
-/// Under the message line: from the end of the second line of help, so that no line is half hidden.
+/// Covers the end of the help box behind the message line. It starts below the second line of help,
+/// so that no line is half hidden.
 constexpr ui::Cadrage cadrefondmessage{75, 9150, 7335, 615};
 constexpr std::string_view policeaide = "Times New Roman";
 
-/// The ground of a result: on it green, orange and red stand out alike, whatever background the
-/// player has chosen.
+/// The background of a result. Green, orange and red stand out equally on it, whatever colour the
+/// player has chosen for the form.
 constexpr ui::Couleur fonddesresultats{0x101418};
 
 int haut(std::size_t rangee) {
@@ -153,7 +154,8 @@ Form3::Controles Form3::poserinsignes(std::string_view nom, std::size_t combien,
     return insignes;
 }
 
-/// The two pictures of racks, beside the row that their panel does not have: its result stays free.
+/// The buttons of the two pictures of racks take the place of the launch buttons in the last row,
+/// which their panel does not use.
 Form3::Controles Form3::poserimages() {
     constexpr int ecart = 90;
     constexpr int largeurimage = (colonnerevision + largeurlancement - colonnetout - ecart) / 2;

@@ -1,4 +1,4 @@
-// The events of the menu: what each control does when it is clicked or passed over.
+// The events of the menu: what a click on each control does, and what hovering over it shows.
 
 #include "aides.h"
 #include "form3.h"
@@ -16,7 +16,7 @@ void Form3::brancher() {
     for (auto* image : images_)
         image->clic = [this, image] { voisins_.apropos.montrerimage(image->index()); };
     persook_.clic = [this] { verifierpersonnel(); };
-    // Enter anywhere else must not check a file that nobody is naming.
+    // Enter checks the personal list only while the player is naming it.
     perso_.entree = [this] { mettredefaut(persook_); };
     perso_.sortie = [this] { sansdefaut(); };
     options_.clic = [this] { voisins_.options.ouvrir(); };

@@ -7,7 +7,7 @@
 
 namespace menu {
 
-/// Makes the revision file of a row's list if it is missing; gives its path.
+/// The path of the revision file of a row's list, which is created if it is missing.
 std::string Form3::preparerrevision(std::size_t rangee) {
     auto chemin = common::cheminrevision(voisins_.form3.util, listes_.at(rangee).fichier);
     common::toucher(plateforme().disque(), chemin, "Préparation du fichier de révisions");
@@ -42,8 +42,8 @@ void Form3::jouerrevision(std::size_t rangee) {
     lancer(ecran(*panneau_, rangee, variables.persomulti), preparerrevision(rangee));
 }
 
-/// `typ` is left as it stands. The result that is emptied goes by the index of the button, which in
-/// one panel is not its row.
+/// Does not set `typ`. Empties the result of the row whose number is the index of the button; on
+/// one panel that is another row than the one that is launched.
 void Form3::jouerpartie(std::size_t index, std::size_t partie) {
     const auto rangee = rangeedepartie(*panneau_, index, partie);
     if (!rangee)
@@ -57,7 +57,7 @@ void Form3::jouerpartie(std::size_t index, std::size_t partie) {
            common::cheminliste(fichierdepartie(listes_.at(*rangee).fichier, partie)));
 }
 
-/// The stages go on after a launch, with the menu hidden.
+/// A launch hides the menu, and the stages after it still run.
 void Form3::jouerechantillon(std::size_t rangee) {
     auto& variables = voisins_.form3;
     auto& tailles = voisins_.dialog2;

@@ -1,4 +1,4 @@
-// The panels: one mechanism opens any of them from the catalogue.
+// The panels: how a row of the catalogue becomes what the menu shows.
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@
 namespace menu {
 namespace {
 
-/// What the name of a button adds for those who cannot see its row.
+/// What assistive technologies are told of a button, beside its caption: its row.
 std::string de(std::string_view libelle) {
     return libelle.empty() ? std::string() : " : " + std::string(libelle);
 }
@@ -135,7 +135,8 @@ void Form3::montrerinsignes(const Panneau& panneau) {
     }
 }
 
-/// "Valid" means that the file can be read to its end. Its kind is read off its last line.
+/// "Valid" means that the file can be read to its end. The semicolons of its last line tell whether
+/// its racks have several solutions.
 void Form3::verifierpersonnel() {
     const auto nom = perso_.texte();
     Compteur compteur;

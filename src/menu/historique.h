@@ -8,9 +8,9 @@
 
 namespace menu {
 
-/// The line that a record of `hist.dat` makes in the history of a row: the record without " - "
-/// and the file for the whole list, without its extension for a part; nothing for another list.
-/// The record is bytes of Windows-1252, the line UTF-8.
+/// A record of `hist.dat` as a line of the history of a row. A record of the whole list loses its
+/// file name and the " - " before it, a record of a part only the extension; a record of another
+/// list gives nothing. The record is in Windows-1252, the line in UTF-8.
 [[nodiscard]] std::optional<std::string> lignehistorique(std::string_view record,
                                                          const Liste& liste);
 

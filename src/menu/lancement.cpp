@@ -7,9 +7,9 @@
 namespace menu {
 namespace {
 
-/// The stages up to this one compare the list of any panel with the sample size of so many
-/// solutions: one at the first. A later one is for the panels launched at it, and compares with the
-/// sample size of the row's own.
+/// These first stages run for every panel: stage 0 compares with the sample size for one solution,
+/// stage 1 with that for two, and so on. A later stage runs only for the panels that are launched
+/// at it, and compares with the sample size for the solutions of the row.
 constexpr std::size_t etapescommunes = 3;
 
 using Taille = std::int16_t common::VariablesDialog2::*;

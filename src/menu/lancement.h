@@ -1,6 +1,6 @@
 #pragma once
 
-// What a click on a launch button comes to: the form, and for a sample the stages.
+// Which form a launch opens, and the stages through which the launch of a sample goes.
 
 #include <array>
 #include <cstddef>
@@ -11,18 +11,19 @@
 
 namespace menu {
 
-/// The form on which a row is worked. While the personal list has several solutions every row of
-/// its panel goes to `Multi`.
+/// The form for the list of a row. While the racks of the personal list have several solutions, all
+/// lists of its panel go to `Multi`.
 [[nodiscard]] Ecran ecran(const Panneau& panneau, std::size_t rangee, bool persomulti);
 
-/// What a stage of the launch of a sample does.
+/// What one stage of the launch of a sample does.
 struct Etape {
-    bool refus = false;              ///< writes that the sample is larger than the base
-    std::optional<Ecran> lancement;  ///< launches the list on this form
+    bool refus = false;              ///< shows that the sample is larger than the list
+    std::optional<Ecran> lancement;  ///< launches the list on this form; none: does not launch it
 };
 using Etapes = std::array<Etape, nbetapes>;
-/// The stages, each run whatever the ones before did: `base` is the size of the list, which has to
-/// be strictly greater than the sample size that the stage compares.
+/// The outcome of each stage. All stages run, whatever the earlier ones did. A stage compares
+/// `base`, the size of the list, with one of the sample sizes `tailles`: a list that is not larger
+/// than the sample is refused.
 [[nodiscard]] Etapes etapes(const Panneau& panneau, std::size_t rangee, bool persomulti,
                             double base, const common::VariablesDialog2& tailles);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The other lists. For the catalogue alone.
+// The other lists. Included by catalogue.cpp alone.
 
 #include <array>
 #include <string_view>

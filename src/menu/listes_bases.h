@@ -1,6 +1,6 @@
 #pragma once
 
-// The lists of the two panels of techniques. For the catalogue alone.
+// The lists of the two panels of techniques. Included by catalogue.cpp alone.
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The lists of racks with two to five solutions. For the catalogue alone.
+// The lists of racks with two to five solutions. Included by catalogue.cpp alone.
 
 #include <array>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-// The lists of racks with one solution. For the catalogue alone.
+// The lists of racks with one solution. Included by catalogue.cpp alone.
 
 #include <array>
 #include <string_view>
@@ -16,7 +16,7 @@ inline constexpr std::string_view exhaustifnombreux =
     "Exhaustif, c'est pour ça qu'il y en a autant !";
 inline constexpr std::string_view exhaustifsansconjugaison =
     "Exhaustif sans conjugaison, c'est pour ça qu'il y en a autant !";
-/// By weight, as the rows of the three panels have them.
+/// The rows by weight, which three panels share.
 inline constexpr std::array<std::string_view, 8> poids{
     "Les tirages les plus lourds sans lettre chère. Plusieurs lettres semi-chères donc. Ca ne sort "
     "pas souvent mais ça fait mal.",

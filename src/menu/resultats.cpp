@@ -20,7 +20,8 @@ constexpr std::size_t reperedunom = 5;  // from the end of a name
 constexpr std::string_view suite = "% - ";
 constexpr std::string_view moyenne = "Ts";
 
-/// The last bytes of a text as one number, the last one foremost; zeros before its start.
+/// The last eight bytes of a text as one number, the last byte being the highest; a shorter text is
+/// filled up with zeros.
 std::uint64_t bout(std::string_view texte) {
     std::array<char, sizeof(std::uint64_t)> octets{};
     if (texte.size() >= octets.size())
@@ -44,7 +45,7 @@ double pourcentage(std::string_view record) {
     return common::valeur(profiles::balayer(record).value_or(profiles::Balayage{}).pourcentage);
 }
 
-/// dd/mm/yyyy at the start of a date, as yyyy/mm/dd.
+/// The date as yyyy/mm/dd, from a text that begins with dd/mm/yyyy.
 std::string jour(std::string_view date) {
     return common::milieu(date, 7, 4) + "/" + common::milieu(date, 4, 2) + "/" +
            common::milieu(date, 1, 2);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the menu works with for the panel on show: the lists of its rows, as files.
+// The table of the panel on show: its sizes, and the list files of its rows.
 
 #include <cstddef>
 #include <optional>
@@ -15,13 +15,13 @@ namespace menu {
 inline constexpr std::size_t nblignes = 8;   ///< rows of the menu
 inline constexpr std::size_t nbparties = 4;  ///< parts of a list, at most
 inline constexpr std::size_t nbetapes = 5;   ///< stages of the launch of a sample
-/// Badges of each kind: the rows of a panel that can have one.
+/// Badges of each kind: as many as rows of a panel can have one.
 inline constexpr std::size_t nbverbes = 5;
 inline constexpr std::size_t nbcheres = nblignes;
 /// The row of the user's own list, in the panel that has one.
 inline constexpr std::size_t rangeepersonnelle = nblignes - 1;
 
-/// The list of a row: its file, and in how many parts it can be worked (0, or 2 to 4).
+/// The list of a row: its file, and its number of parts (0, or 2 to 4).
 struct Liste {
     std::string fichier;
     std::size_t parties = 0;
@@ -32,11 +32,11 @@ struct Liste {
 [[nodiscard]] std::vector<Liste> listesdupanneau(const Panneau& panneau,
                                                  std::string_view personnel);
 
-/// Index of the part buttons that serve a row.
+/// The index (as in `coma(index)`) of the part buttons that a row uses.
 [[nodiscard]] std::size_t boutondepartie(const Panneau& panneau, std::size_t rangee);
 
-/// The row of a part button, by its index and its part (0 is a); nothing where the list of the row
-/// has no such part.
+/// The row that uses the part button of an index and a part (0 is a); nothing if no list has this
+/// part there.
 [[nodiscard]] std::optional<std::size_t> rangeedepartie(const Panneau& panneau, std::size_t index,
                                                         std::size_t partie);
 

@@ -108,7 +108,8 @@ Correction corriger(series::Serie& serie, Ratages& ratages, Saisis saisis, std::
             continue;
         ++correction.justes;
         const int rang = serie.place(place).rang;
-        // Equal, not at least: a threshold lowered below a count that is reached takes nothing out.
+        // Equal, not at least: lowering the threshold below a count already reached eliminates
+        // nothing.
         if (!critere.secondes && critere.seuil == serie.rangees.reussir(rang))
             serie.rangees.eliminer(rang);
     }

@@ -1,7 +1,6 @@
 #pragma once
 
-// The correction of the series of racks with several solutions, on the value that both windows
-// share.
+// The correction of a series of racks with several solutions, as functions of a `series::Serie`.
 
 #include <cstdint>
 #include <string>
@@ -12,16 +11,17 @@
 
 namespace multi {
 
-/// The words of a series, by box, as they stand.
+/// What the answer boxes of a series hold, by box.
 using Saisis = std::vector<std::string>;
 
-/// The seconds criterion, at the departure from a box: judges its whole rack, which is right in
-/// time or not. `ratages` takes up what it missed.
+/// Judges the rack of a box that is left under the seconds criterion: whether all its words are
+/// right, and were in time. `tempsmot` are the seconds spent in the box. What was missed is added
+/// to `ratages`.
 [[nodiscard]] series::Correction jugerboite(series::Serie& serie, Ratages& ratages, Saisis saisis,
                                             int boite, std::int16_t tempsmot);
 
-/// Closes the series and judges all its racks. Under the seconds criterion the last rack, whose box
-/// may never be left, is judged once more before the others.
+/// Closes the series and judges all its racks. Under the seconds criterion it first judges the rack
+/// of the current box, which the player may not have left.
 [[nodiscard]] series::Correction corriger(series::Serie& serie, Ratages& ratages, Saisis saisis,
                                           std::int16_t tempsmot);
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The judgement of a rack: from the words that were typed, in any order, to what each box shows and
-// what the run has missed.
+// The judgement of a rack with several solutions, typed in any order: what each box then shows, and
+// what is counted as missed in the run.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,13 +16,14 @@
 
 namespace multi {
 
-/// A table of a run has no room left.
+/// The table of a run that is full.
 enum class Debordement : std::uint8_t { Aucun, Motsfaux, Tiragesfaux };
 
 /// What a run has missed so far.
 class Ratages {
   public:
-    /// Solutions missed (`motsfaux`), one entry each time, and different racks (`tiragesfaux`).
+    /// Most entries of `motsfaux`, one each time a solution is missed, and most different racks
+    /// missed (`tiragesfaux`).
     static constexpr std::size_t limitemots = 3001;
     static constexpr std::size_t limitetirages = 1501;
 
@@ -32,27 +33,28 @@ class Ratages {
     [[nodiscard]] bool tiragedejarate(const std::string& tirage) const {
         return tiragesfaux_.contains(tirage);
     }
-    /// False, and nothing is counted, if there is no room.
+    /// Count a missed solution, a missed rack. False if there is no room: nothing is counted.
     [[nodiscard]] bool raterlemot(const std::string& mot);
     [[nodiscard]] bool raterletirage(const std::string& tirage);
 
   private:
     std::unordered_set<std::string> motsfaux_;
-    std::size_t nbmotsfaux_ = 0;  ///< entries, the same word each time that it is missed
+    std::size_t nbmotsfaux_ = 0;  ///< entries, counting a word each time it is missed
     std::unordered_set<std::string> tiragesfaux_;
 };
 
-/// What becomes of one box of a rack.
+/// How one box of a rack was judged.
 struct Boitejugee {
     bool bonne = false;
-    std::string texte;  ///< in place of a wrong or missing word, the expected one
-    std::optional<std::string> infobulle;  ///< none: it keeps the one that it has
+    std::string texte;  ///< the word typed, or the expected one if it is wrong or missing
+    std::optional<std::string> infobulle;  ///< none: the box keeps the one that it has
     friend bool operator==(const Boitejugee&, const Boitejugee&) = default;
 };
 
-/// What becomes of a rack.
+/// How a rack was judged.
 struct Verdict {
-    /// As many matches as solutions, a word typed twice making two.
+    /// The boxes hold as many right words as the rack has solutions. A word typed twice counts
+    /// twice.
     bool juste = false;
     std::vector<Boitejugee> boites;  ///< of the words 1 to n
     series::Etattirage etat{};       ///< of the rack
@@ -60,19 +62,19 @@ struct Verdict {
     Debordement debordement = Debordement::Aucun;
 };
 
-/// A rack to judge, as its boxes stand and as it shows.
+/// A rack to judge: what it shows, and what its boxes hold.
 struct Rack {
     std::string texte;
     series::Etattirage etat{};
-    std::vector<std::string> saisis;     ///< word by word, at least as many as solutions
-    std::vector<std::string> solutions;  ///< of the row
+    std::vector<std::string> saisis;     ///< what the boxes hold; at least as many as solutions
+    std::vector<std::string> solutions;  ///< those of the row, empty ones included
 };
 
-/// How many solutions a rack is judged on: those before the first empty one.
+/// The number of solutions that are judged: those before the first empty one.
 [[nodiscard]] std::size_t nombrejuge(std::span<const std::string> solutions);
 
-/// Judges a rack; `ratages` takes up what it missed. A second judgement of what the first one
-/// shows finds a right rack.
+/// Judges a rack, and adds what was missed to `ratages`. Judging again what the first judgement
+/// left in the boxes finds a right rack.
 [[nodiscard]] Verdict corrigertirage(const Rack& rack, Ratages& ratages);
 
 }  // namespace multi

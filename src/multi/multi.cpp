@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "listes.h"
 #include "parcours.h"
 #include "rangeesmulti.h"
 
@@ -34,7 +35,7 @@ const series::Gabarit gabaritmulti{
     .enmoinsde = "Eliminer un tirage trouvé en moins de",
     .troptard = "NO",
     .limites = {5001, 10001, 10001, 4001, 20001, 2001},
-    .limitenotes = 20001,
+    .limitenotes = common::lignesinfosourismulti,
     .lignesdemots = series::Lignesdemots::Toutes,
     .notessurletirage = false,
     .limitetotal = std::nullopt,
@@ -73,11 +74,12 @@ void Multi::branchersaisie() {
         };
     recherche.entree = [this] { mettredefaut(valider); };
     recherche.clic = [this] { cliquerrecherche(boite_); };
-    valider.clic = [this] {
-        validerrecherche();
-        if (!serie_.ouverte)
-            mettredefaut(Command2);
-    };
+}
+
+void Multi::validerrecherche() {
+    Formserie::validerrecherche();
+    if (!serie_.ouverte)
+        mettredefaut(Command2);
 }
 
 void Multi::coloration() {

@@ -10,18 +10,21 @@
 
 namespace multi {
 
-/// Size of the sample of a list: what the options ask for its number of solutions, cut down to the
-/// list. Throws `Faute` for a list, or a sample, that is too large.
+/// The size of a sample, in racks: `demandee`, or the size of the list if that is smaller. Throws
+/// `Faute` for a list of more than `common::rangeesmulti` rows, or a sample of more than
+/// `limiteechantillon`.
 [[nodiscard]] int tailleechantillon(const series::Serie& serie, int demandee);
 
-/// Solutions of the run, each rack counted as a full one. Throws `Faute` past 16 bits.
+/// The solutions of a run, as if each rack had the most of its list. Throws `Faute` if they exceed
+/// 16 bits.
 [[nodiscard]] std::int16_t totaldessolutions(const series::Serie& serie);
 
 /// Multi: the series of racks with several solutions.
 ///
-/// The window: `tirage` are the racks, top to bottom, each with its answers (`solution`) to the
-/// right of it, one column a solution; the other parts bear the names that they have on `Form1`,
-/// but for `nbftotal`, the faults out of the solutions of the run. There is no compact mode.
+/// The window: `tirage` are the racks, from top to bottom; to the right of each stand the boxes for
+/// its answers (`solution`), one column for each solution. The other parts have the same names as
+/// on `Form1`, except `nbftotal`: the faults, out of the solutions of the run. There is no compact
+/// mode.
 class Multi : public series::Formserie {
   public:
     Multi(ui::Plateforme& plateforme, const Voisins& voisins);
@@ -32,6 +35,7 @@ class Multi : public series::Formserie {
   private:
     void ordonner();
     void branchersaisie();
+    void validerrecherche() override;
 
     // multi_liste.cpp: the list, the criterion.
     void ouvrircritere();
@@ -54,7 +58,7 @@ class Multi : public series::Formserie {
     [[nodiscard]] ui::Controle& boite(int place, std::size_t mot) const;
 
     Ratages ratages_;
-    std::int16_t nbmotstotal_ = 0;  ///< solutions of the run, each rack counted as a full one
+    std::int16_t nbmotstotal_ = 0;  ///< as `totaldessolutions`
 };
 
 }  // namespace multi

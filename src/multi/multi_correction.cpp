@@ -24,7 +24,7 @@ series::Correction Multi::jugerdepart(int boite) {
     return jugerboite(serie_, ratages_, reponses(), boite, chronos.tempsmot());
 }
 
-/// Marks and notes of the words that the boxes show by now.
+/// Shows the marks and notes of the words that the boxes show after the correction.
 void Multi::annoterboites() {
     std::vector<int> boites(static_cast<std::size_t>(serie_.boitesutiles));
     std::iota(boites.begin(), boites.end(), 0);

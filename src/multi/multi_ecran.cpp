@@ -61,7 +61,7 @@ constexpr std::array decolonne{
     Place{"quitter", -1, {0, 7340, largeurcolonne, 535}},
 };
 
-/// Left edge of the column: behind the answers, and not short of the right edge of the notes.
+/// The left edge of the column: right of the answers, and of the notes.
 int gauchedecolonne(int colonnes) {
     return std::max(boite0.gauche + colonnes * pascolonne,
                     notes.gauche + notes.largeur - largeurcolonne);
@@ -92,7 +92,7 @@ void Multi::disposer() {
     rangernotes(false);
 }
 
-/// Puts the column, and the window's right edge, where the number of answers a rack wants them.
+/// Moves the column, and the right edge of the window, to the right of the answers.
 void Multi::disposercolonne() {
     const int colonne = gauchedecolonne(static_cast<int>(serie_.nbsolutions()));
     largeur = colonne + largeurcolonne + marge;

@@ -60,7 +60,7 @@ void Multi::commencer(std::string_view chemin) {
     nouvelleserie();
 }
 
-/// Shows the criterion where the user may set it. Hidden, it stays in force as it was.
+/// Shows the criterion if the user may set it. A hidden criterion stays in force.
 void Multi::ouvrircritere() {
     const bool libre = criterelibre();
     for (auto* controle : {&seuiltxt, &Command4, &Label5, &Label6})
@@ -68,7 +68,7 @@ void Multi::ouvrircritere() {
     seuiltxt.actif = libre;
 }
 
-/// The size that the options tell for this number of solutions.
+/// The sample size in the options, for the number of solutions of the list.
 int Multi::taillevoulue() const {
     const auto& options = voisins_.dialog2;
     const std::array tailles{options.nbechduo, options.nbechtri, options.nbechqua,
@@ -76,7 +76,7 @@ int Multi::taillevoulue() const {
     return tailles.at(serie_.nbsolutions() - minsolutions);
 }
 
-/// The limit stays as it stands; only the words change, and the place of what follows them.
+/// The threshold stays; only the words change, and the place of what follows them.
 void Multi::changercritere() {
     constexpr int deplacement = 950;
     constexpr int gaucheseuil = 1800;

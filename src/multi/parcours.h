@@ -6,12 +6,13 @@
 
 namespace multi {
 
-/// Racks of a series. Box i holds an answer to the rack i modulo this.
+/// Racks of a series. Box i is for an answer to rack i modulo `nbtirages`.
 inline constexpr int nbtirages = common::tiragesmulti;
 
-/// The box to which a key leads from box `rang`, with `nbsolutions` boxes a rack; none for a key
-/// that does not move. Enter and Right go through the boxes of a rack and on to the next rack, Left
-/// goes back among them; Down and Up follow the racks, column after column.
+/// The box to which a key (`ui::touches`) leads from box `rang`, when each rack has `nbsolutions`
+/// boxes; none for a key that does not move. Enter and Right go through the boxes of a rack, then
+/// to the next rack; Left goes the other way. Down and Up go through a column, then to the next
+/// one.
 [[nodiscard]] std::optional<int> parcours(int rang, int code, int nbsolutions);
 
 }  // namespace multi

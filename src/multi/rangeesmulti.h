@@ -1,7 +1,6 @@
 #pragma once
 
-// The rows of `Multi`: racks with several solutions, in the store that the series forms share.
-// List format: docs/formats.md.
+// The rows of `Multi`: racks with several solutions. docs/formats.md describes the lists.
 
 #include <cstddef>
 #include <span>
@@ -14,26 +13,26 @@
 
 namespace multi {
 
-/// Most rows of a list; a sample is drawn of `common::rangeesmulti` at most.
+/// Most rows of a list. A sample is drawn from `common::rangeesmulti` rows at most.
 inline constexpr std::size_t limiterangees = 10000;
-/// Solutions of a rack: fewest boxes that a list shows for them, and most that a row may hold.
+/// Fewest boxes that a rack gets, and most solutions that it may have.
 inline constexpr std::size_t minsolutions = 2;
 inline constexpr std::size_t maxsolutions = common::solutionsmulti;
-/// Largest sample.
+/// Most racks of a sample.
 inline constexpr int limiteechantillon = 901;
 
-/// Solutions per rack of the list `chemin`, whose rows are in the store: the largest count of a
-/// row, never under `minsolutions`. Throws `Faute`, naming the line, for a row of more than
-/// `maxsolutions`.
+/// The boxes for each rack of a list: the most solutions that a row has, `minsolutions` at least.
+/// Throws `Faute`, naming the list `chemin` and the line, for a row with more than `maxsolutions`.
 [[nodiscard]] std::size_t nbsolutionsdelaliste(const series::Rangees& rangees,
                                                std::string_view chemin);
 
-/// How many solutions stand behind the rack of a row, and which: cut at each ";", of which one at
-/// the very end opens no further solution. An empty one between two ";" counts.
+/// The solutions of a row, and their number. `suite` is what follows the rack: solutions separated
+/// by ";". A ";" at the end starts no new solution; nothing between two ";" is an empty solution.
 [[nodiscard]] std::size_t nombredesolutions(std::string_view suite);
 [[nodiscard]] std::vector<std::string> solutions(std::string_view suite);
 
-/// A row in list format: rack, then ";" and a solution `nombre` times, empty where there is none.
+/// A row in list format: the rack, then `nombre` times ";" and a solution, empty where there is
+/// none.
 [[nodiscard]] std::string lignederangee(std::string_view tirage,
                                         std::span<const std::string> solutions, std::size_t nombre);
 

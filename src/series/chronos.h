@@ -13,44 +13,46 @@ namespace series {
 [[nodiscard]] std::string texteserie(std::int32_t secondes);
 /// Text of the total clock: hours, ":", minutes and seconds in two digits each.
 [[nodiscard]] std::string textetotal(std::int32_t secondes);
-/// Time used by a series, from the text on its clock: the first character alone counts as minutes,
-/// the last two as seconds. Throws `Faute` past 16 bits.
+/// The time used of `tempsserie` seconds, as mm:ss, from what the clock shows: its first character
+/// is the minutes left, its last two the seconds. Throws `Faute` if the time exceeds 16 bits.
 [[nodiscard]] std::string dureeutilisee(std::int32_t tempsserie, std::string_view texteduchrono);
 
 /// The clocks of a series form, their controls and their pause: `temps` counts the series down,
 /// `tempstot` the list up, `tempsmot` the seconds in the current box.
 class Chronos {
   public:
-    /// `limitetotal`: seconds that the total clock cannot reach, if it has such a limit.
+    /// `limitetotal`: seconds that the total clock must not reach; none: no limit.
     Chronos(ui::Formulaire& formulaire, std::optional<std::int32_t> limitetotal);
 
-    /// Runs at the tick that brings the series to its end.
+    /// Runs when the time of the series is up.
     std::function<void()> auterme;
-    /// Runs at the tick that brings the list to the limit of the total clock, which stays as it
-    /// was.
+    /// Runs in place of the tick that would bring the total clock to its limit.
     std::function<void()> alalimite;
-    /// Runs at a click of the pause button, which begins a pause or ends it.
+    /// Runs when the pause button is clicked, to begin a pause or to end it.
     std::function<void()> surpause;
 
-    /// Gives a series its time; the display waits for the next tick.
+    /// Sets the time of a series, in seconds; the display follows at the next tick.
     void donner(std::int32_t secondes);
     /// Starts the series clock, and the total clock if it is off.
     void lancer();
     void arreterserie() { Timer1.actif = false; }
     void arretertotal() { Timer2.actif = false; }
-    /// The total counts again from 0; the clock goes on if it runs.
+    /// Sets the total back to 0; its clock goes on if it runs.
     void remettretotal() { tempstotal_ = 0; }
 
-    /// The time of a box starts.
+    /// Starts to count the seconds in a box.
     void entrerboite();
     void quitterboite() { Timer3.actif = false; }
+    /// Seconds in the current box.
     [[nodiscard]] std::int16_t tempsmot() const { return tempsmot_; }
 
-    /// Holds the clocks during a pause. Its end starts that of the series again if it is open.
+    /// Stops the clocks for a pause, or starts them after it, that of the series only if the series
+    /// is open.
     void tenir(bool enpause, bool serieouverte);
-    /// Shows whether the series, or the list, is over.
+    /// Paint the clock of the series, of the list, as running or as over.
     void peindreserie(bool finie) { peindre(temps, finie); }
     void peindretotal(bool fini) { peindre(tempstot, fini); }
+    /// The time used by the series, as `dureeutilisee`.
     [[nodiscard]] std::string utilise() const {
         return dureeutilisee(tempsserie_, texteserie(tempsaffiche_));
     }
@@ -74,7 +76,7 @@ class Chronos {
     std::optional<std::int32_t> limitetotal_;
     std::int32_t tempsrestant_ = 0;
     std::int32_t tempsserie_ = 0;
-    std::int32_t tempsaffiche_ = 240;  ///< what `temps` shows, by design four minutes
+    std::int32_t tempsaffiche_ = 240;  ///< what `temps` shows; four minutes in the design
     std::int32_t tempstotal_ = 0;
     std::int16_t tempsmot_ = 0;
 };

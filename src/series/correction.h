@@ -1,7 +1,7 @@
 #pragma once
 
-// What a correction finds, as a value that the window shows and writes; and the rules of the
-// series of racks with one solution.
+// The outcome of a correction, as a value that the window shows and writes to disk; and the
+// correction of a series of racks with one solution.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,16 +16,16 @@
 
 namespace series {
 
-/// What becomes of an answer box.
+/// How an answer box was judged.
 struct Boitecorrigee {
     int boite = 0;
     Etatreponse etat{};
     std::string texte;
     std::optional<std::string> infobulle;  ///< none: it keeps the one that it has
-    bool barree = false;
+    bool barree = false;                   ///< the text is struck through
 };
 
-/// What becomes of the rack of a place.
+/// How the rack of a place was judged.
 struct Tiragecorrige {
     int place = 0;
     std::optional<Etattirage> etat;        ///< none: it looks as it did
@@ -33,33 +33,34 @@ struct Tiragecorrige {
     std::optional<std::string> infobulle;  ///< none: it keeps the one that it has
 };
 
-/// A rack answered wrong, and its row as the revision file takes it.
+/// A rack answered wrong, and its row in the format of the revision file.
 struct Ratee {
     int place = 0;
     std::string ligne;
     friend bool operator==(const Ratee&, const Ratee&) = default;
 };
 
-/// A table of the run has no room for what the rack of a place missed. Nothing behind it is judged,
-/// and the rack itself does not go to the revision file.
+/// A table of the run is full, so that what was missed of a rack cannot be counted. The racks after
+/// it are not judged, and it does not go to the revision file itself.
 struct Tablepleine {
     int place = 0;
-    std::string_view quoi;  ///< in French, in the plural
-    std::size_t limite = 0;
+    std::string_view quoi;   ///< the entries of the table, in French, in the plural
+    std::size_t limite = 0;  ///< most entries
 };
 
-/// What a correction found. A box or a rack that is judged twice stands twice, in order.
+/// The outcome of a correction. A box or a rack that was judged twice is listed twice, in order.
 struct Correction {
     std::vector<Boitecorrigee> boites;
     std::vector<Tiragecorrige> tirages;
     int nombre = 0;              ///< racks of the series
     int justes = 0;              ///< right ones
     std::optional<bool> atemps;  ///< seconds criterion: the last box judged was right in time
-    std::vector<Ratee> ratees;   ///< to add to the revision file, where errors go there
+    std::vector<Ratee> ratees;   ///< for the revision file, if missed racks are added to it
     std::optional<Tablepleine> pleine;
 };
 
-/// Of these rows, those that the file lacks, each once; their places are marked as being in it.
+/// The rows of `ratees` that the revision file lacks, each once. `presentes[i]`: the file has row
+/// i. Marks the places of all of them as being in the file.
 [[nodiscard]] std::vector<std::string> nouvellesrevisions(Serie& serie,
                                                           std::span<const Ratee> ratees,
                                                           const std::vector<bool>& presentes);
@@ -70,23 +71,25 @@ class Motsfaux {
     static constexpr std::size_t limite = 5001;
 
     [[nodiscard]] std::int64_t nombre() const { return static_cast<std::int64_t>(lignes_.size()); }
-    /// False, and nothing is counted, if there is no room.
+    /// Counts a row. False if there is no room: nothing is counted.
     [[nodiscard]] bool ajouter(const std::string& ligne);
 
   private:
     std::unordered_set<std::string> lignes_;
 };
 
-/// Judges a box of one solution under the seconds criterion, as `retenir` tells; `tempsmot` are the
-/// seconds spent in the current box.
+/// Judges a box under the seconds criterion; the result is that of `retenir`. `tempsmot` are the
+/// seconds spent in the box.
 std::optional<bool> jugerboite(Serie& serie, int boite, std::string_view reponse,
                                std::int16_t tempsmot);
-/// Closes the series and judges its answers, box by box. `motsfaux` takes up the wrong rows. Under
-/// the seconds criterion the last box, which may never be left, is judged as at a departure.
+/// Closes the series, judges its answers (`reponses`, by box) and adds the wrong rows to
+/// `motsfaux`. Under the seconds criterion it also judges the last box as if the player had left
+/// it.
 [[nodiscard]] Correction corriger(Serie& serie, Motsfaux& motsfaux,
                                   std::span<const std::string> reponses, std::int16_t tempsmot);
 
-/// The right word is in this box, or in the place of its rack: its definition can be asked for.
+/// Whether the right word shows in this box or, with `surletirage`, in its rack: the player can
+/// then ask for its definition.
 [[nodiscard]] bool montrelemot(const Serie& serie, int boite, bool surletirage);
 
 }  // namespace series

@@ -11,9 +11,9 @@ namespace series {
 enum class Etattirage : std::uint8_t {
     Repos,
     Courant,    ///< its answer box has the focus
-    Solution,   ///< it shows the solution that was missed
+    Solution,   ///< shows the solution that was missed
     Faux,       ///< a wrong word was typed
-    Incomplet,  ///< only blank boxes were wrong
+    Incomplet,  ///< answers are missing, and none is wrong
 };
 
 /// What an answer box shows.
@@ -22,10 +22,10 @@ enum class Etatreponse : std::uint8_t {
     Courante,
     Juste,
     Fausse,
-    Attendue,  ///< it shows a word that was missed
+    Attendue,  ///< shows a word that was missed
 };
 
-/// How a state is seen, and told to assistive technologies: empty where it says nothing.
+/// How a state looks, and what assistive technologies are told of it: empty if nothing.
 struct Apparence {
     ui::Couleur fond;
     std::string_view paroles;

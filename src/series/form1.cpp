@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int32_t dixheures = 36000;
 
-/// Every list of reference as long as it may come with the program.
+/// The reference lists may be as long as those that come with the program.
 Limites placesdeslistes() {
     Limites limites{};
     std::transform(common::listesreference.begin(), common::listesreference.end(), limites.begin(),

@@ -10,19 +10,19 @@
 
 namespace series {
 
-/// Largest sample.
+/// Most racks of a sample.
 inline constexpr int limiteechantillon = 900;
 /// Letters of a solution that extend a rack with a joker, at most.
 inline constexpr std::size_t limitevariantes = 26;
 
-/// Words to look up in the notes for a row: its solution, or in a list of extensions the whole
-/// word; with a joker, one word for each letter of the solution. None where the kind of list
-/// doesn't tell on which side the letters come.
+/// The words of a row to look up in the notes: its solution; in a list of extensions the whole
+/// word, or with a joker one word for each letter of the solution. None if the kind of list does
+/// not tell on which side the letters are added.
 [[nodiscard]] std::vector<std::string> motsdesnotes(std::string_view tirage,
                                                     std::string_view solution, Nature nature);
 
-/// Size of the sample of a list: that of the options, which is not cut down to the list. Throws
-/// `Faute` for more than the list or the largest sample holds.
+/// The size of a sample, in racks: `demandee`. Throws `Faute` if that is more than the list has, or
+/// more than `limiteechantillon`.
 [[nodiscard]] int tailleechantillon(const Serie& serie, int demandee);
 
 /// Form1: the series of racks with one solution.

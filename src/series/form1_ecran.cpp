@@ -127,7 +127,7 @@ void Form1::disposerboites() {
     }
 }
 
-/// The tighter arrangement, for the rest of the run of the program.
+/// The compact layout stays until the program ends.
 void Form1::passercompact() {
     modecompact_ = true;
     Command6.visible = false;
@@ -142,7 +142,7 @@ void Form1::rangernotes(bool listefinie) {
     InfoSourisText.placer(listefinie ? ecran.notesafin : ecran.notes);
 }
 
-/// `seuiltxt` stands behind `Label5`, and `Label6` behind `seuiltxt`.
+/// From left to right: `Label5`, `seuiltxt`, `Label6`.
 void Form1::placercritere() {
     constexpr int ecart = 60;
     Label5.largeur = serie_.critere.secondes ? largeurlabel5secondes : largeurlabel5succes;

@@ -32,7 +32,7 @@ void Form1::commencer(std::string_view chemin) {
     nouvelleserie();
 }
 
-/// Offers the criterion, as it stands, or forces the first success.
+/// Shows the criterion if the user may set it; otherwise sets it to the first success.
 void Form1::ouvrircritere() {
     const bool libre = criterelibre();
     for (auto* controle : {&Command4, &seuiltxt}) {

@@ -17,7 +17,7 @@ void Form1::branchersaisie() {
         const auto entrop = lettresentrop(serie_, boite_, recherche.texte());
         if (entrop == 0)
             return;
-        // One beep a letter that is cut, in one write.
+        // One beep for each letter that is cut; the box is written once.
         if (voisins_.options.check1()) {
             for (auto reste = entrop; reste > 0; --reste)
                 plateforme().bip();

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the two series forms have in common: the window's parts and their plumbing. The state of the
-// list and of its series is a value (`Serie`); the form reads the boxes, asks the rules, and shows
+// What the two series forms have in common: the controls, and how events reach the rules. The state
+// of a list and its series is a value (`Serie`); a form reads the boxes, calls the rules, and shows
 // what they return.
 
 #include <cstddef>
@@ -25,9 +25,8 @@
 
 namespace series {
 
-/// The constants of a window. What never changes while a form lives is a field here, also where it
-/// is a function of its arguments; what a form does, on its own controls and with the tables of its
-/// own run, is a virtual of `Formserie`.
+/// In what the two forms differ. What stays the same as long as a form lives is a field here, pure
+/// functions included; what acts on a form's own controls or tables is a virtual of `Formserie`.
 struct Gabarit {
     std::string_view nom;    ///< design name of the form
     std::string_view titre;  ///< of the window
@@ -36,21 +35,23 @@ struct Gabarit {
     Regles regles;  ///< of its series
     /// The box to which a key leads from a box; none for a key that does not move.
     std::optional<int> (*parcours)(int boite, int code, int nbsolutions) = nullptr;
-    bool videenfaute = false;         ///< a letter typed for a place without a rack is a fault
-    bool longsgardentpolice = false;  ///< with long racks the answers keep the font that they had
+    bool videenfaute = false;         ///< typing in a box whose place has no rack is a fault
+    bool longsgardentpolice = false;  ///< long racks leave the font of the answers as it is
     std::string_view nomdesfautes;    ///< design name of the label of faults
     std::string_view enmoinsde;       ///< `Label5` under the seconds criterion
     std::string_view troptard;        ///< what `voyant` says of a failure under that criterion
     Limites limites{};                ///< most items of each reference list
     std::size_t limitenotes = 0;      ///< most lines of the notes
-    Lignesdemots lignesdemots{};      ///< which lines of the notes are compared
-    bool notessurletirage = false;    ///< a note shows on the rack too
-    std::optional<std::int32_t> limitetotal;  ///< seconds at which the total clock is a fault
+    Lignesdemots lignesdemots{};      ///< which lines of the notes are compared with the words
+    bool notessurletirage = false;    ///< the rack too shows the note as its tooltip
+    std::optional<std::int32_t> limitetotal;  ///< reaching so many seconds in all is a fault
 };
 
+/// A series form: `Form1` or `Multi`. Its operations throw `Faute` for a file that cannot be read
+/// or written, and for what exceeds a limit.
 class Formserie : public ui::Formulaire {
   public:
-    /// What a series form reads and calls of the others.
+    /// What a series form reads, and the other forms that it calls.
     struct Voisins {
         const common::VariablesForm3& form3;
         const common::VariablesDialog2& dialog2;
@@ -58,11 +59,11 @@ class Formserie : public ui::Formulaire {
         ui::FaceOptions& options;
     };
 
-    /// The load operation, once per run of the program.
+    /// Prepares the new form; called once. Throws `Faute` if the picture of a mark cannot be read.
     void charger();
-    /// Brings the labels to the background colour of the form.
+    /// Gives the labels the background colour of the form.
     virtual void coloration();
-    /// Loads a list and draws its first series.
+    /// Loads the list `chemin` and draws its first series.
     virtual void commencer(std::string_view chemin) = 0;
     /// Path of the revision file of the running list.
     [[nodiscard]] std::string getnomfichierderev() const;
@@ -72,58 +73,65 @@ class Formserie : public ui::Formulaire {
   protected:
     Formserie(ui::Plateforme& plateforme, const Voisins& voisins, const Gabarit& gabarit);
 
+    /// Judges the running series and shows the outcome.
     virtual void corrigerserie() = 0;
-    /// The seconds criterion, at the departure from a box.
+    /// Judges a box that is left, under the seconds criterion.
     [[nodiscard]] virtual Correction jugerdepart(int boite) = 0;
-    /// Puts the notes where they stand while a list runs (false) or once it is done (true).
+    /// Moves the box of notes to its place once the list is done, or while it runs.
     virtual void rangernotes(bool listefinie) = 0;
 
     // Entry of answers.
     void afficherlettres() { tuiles.afficher(lettres_.tiragenet()); }
     void peindrecourante(int rang);
-    /// All boxes in use but one, and all racks but its own, at rest.
+    /// Paints all boxes in use except one, and all racks except that of this box, as at rest.
     void peindreautres(int rang);
-    /// Puts the second line of entry in the current box, and makes the next one current.
-    void validerrecherche();
-    /// A click in the second line of entry: the first rack at rest, this box in the current colour.
+    /// Moves the text of the second line of entry to the current box, and makes the next box
+    /// current.
+    virtual void validerrecherche();
+    /// Paints the first rack as at rest and box `rang` as current, after a click in the second line
+    /// of entry.
     void cliquerrecherche(int rang);
 
     // The list.
-    /// Takes a list's rows, for a run that starts.
+    /// Reads the rows of a list, at the start of a run.
     void ouvrirliste(std::string_view chemin);
-    /// Keeps only so many rows, drawn by chance.
+    /// Keeps only `taille` rows, drawn by chance.
     void garderechantillon(int taille);
+    /// Draws a series and opens it.
     void nouvelleserie();
-    /// Takes the eliminated rows out. With none left it closes the list: percent of `base` less
-    /// the faults (none if `base` is 0), record, sound; leaving is all that is left.
+    /// Removes the eliminated rows. If none is left, ends the list: writes its record, with the
+    /// percentage of `base` that was not at fault, and plays the sound. The player can then only
+    /// leave.
     void finserie(std::int64_t base, std::int64_t fautes, const std::string& textedesfautes);
-    /// Seconds given to a series.
+    /// The time for a series, in seconds.
     [[nodiscard]] std::int32_t tempsdeserie() const;
-    /// The series clock at its start, and only the boxes in use on screen.
+    /// Sets the series clock to its start, and shows only the boxes in use.
     void initchrono();
-    /// Font and size of the boxes, from the longest rack of a list.
+    /// Chooses font and size of the boxes, for racks of this many characters.
     void reglerpolices(std::size_t longueur);
-    /// Words the criterion.
+    /// Writes the labels of the criterion.
     void libellercritere();
     /// The user may set the criterion: a revision run, or the menu's "Apprentissage" is ticked.
     [[nodiscard]] bool criterelibre() const;
 
     // The correction.
-    /// Stops the clocks of the series; the next one may be drawn. Racks have all their letters.
+    /// Stops the clocks of the series and lets the player draw the next one. Gives reduced racks
+    /// all their letters back.
     void arreterserie();
-    /// What the boxes hold.
+    /// What the answer boxes hold.
     [[nodiscard]] std::vector<std::string> reponses() const;
-    /// No answer can be changed any more; all racks at rest.
+    /// Locks the answers, and paints all racks as at rest.
     void fermersaisie();
-    /// Shows what was judged and writes the missed rows, in this order. Throws `Faute` for a table
-    /// that was full. `atemps`: what `voyant` says of an answer given in time.
+    /// Shows what was judged, then adds the missed rows to the revision file. Throws `Faute` if a
+    /// table was full. `atemps` is what `voyant` says of an answer given in time.
     void appliquer(const Correction& correction, std::string_view atemps);
-    /// Shows what a correction counted, and the time that the series took.
+    /// Shows the score of a correction, and the time that the series took.
     void afficherscore(const Correction& correction);
-    /// Adds the notes to their boxes and to the text of notes; `boites[i]` is the box of word i.
+    /// Shows the notes of the words, on their boxes and in the box of notes; `boites[i]` is the box
+    /// of word i.
     void montrernotes(std::span<const std::string> mots, std::span<const int> boites);
-    /// Opens the word menu on the row of a rack place, if the series is corrected and the box that
-    /// was clicked holds text.
+    /// Opens the word menu for the row of a place, if the series is corrected and `boite`, which
+    /// was clicked, is not empty.
     void ouvrirmenumot(int place, const ui::Controle& boite, std::string_view mot, bool definition);
 
     Voisins voisins_;
@@ -178,7 +186,7 @@ class Formserie : public ui::Formulaire {
     void quitterserie();
     void basculerpause();
 
-    // Colours and texts, as the value has them.
+    // Show what `serie_` holds.
     void peindretirage(int place, Etattirage etat);
     void peindrereponse(int rang, Etatreponse etat);
     void peindreaurepos(int rang);
@@ -195,11 +203,11 @@ class Formserie : public ui::Formulaire {
     [[nodiscard]] std::optional<int> boitevoisine(int rang, int code) const;
     void focaliserboite(int rang) { donnerfocus(*solution[static_cast<std::size_t>(rang)]); }
     [[nodiscard]] bool assistee() const;
-    /// Fills the pool of letters from a text of a box's rack. Throws `Faute` over its limit.
+    /// Fills the pool of letters from `texte`, a rack of box `rang`. Throws `Faute` for too many.
     void lirelettres(std::string_view texte, int rang);
-    /// All letters of the rack of a box are free again. Throws `Faute` if there is none to take.
+    /// Frees all letters of the rack of a box. Throws `Faute` if its place has no rack.
     void libererlettres(int rang);
-    /// Rebuilds the pool and the rack from what its box holds, under assisted entry.
+    /// Under assisted entry, rebuilds the pool and the rack from what box `rang` holds.
     void recalculerlettres(int rang);
 
     void effacerserie();
@@ -208,7 +216,7 @@ class Formserie : public ui::Formulaire {
     [[nodiscard]] std::string nomenregistre() const;
     void finirliste(const Findeliste& fin, const std::string& textedesfautes);
 
-    /// Missed rows go to the revision file by themselves.
+    /// Missed rows are added to the revision file by themselves.
     [[nodiscard]] bool erreursaurevision() const;
     /// Appends the rows that the revision file lacks, in one write.
     void garderenrevision(std::span<const Ratee> ratees);

@@ -45,7 +45,7 @@ bool Lettres::prendre(std::string_view lettre) {
 
 void Lettres::recalculer(std::string_view reponse) {
     const auto net = tiragenet_;
-    // A rack that was cut at a "-" may hold mark-up still: reading it anew takes that out.
+    // A rack that was cut at a "-" may still hold mark-up: reading it again removes that.
     static_cast<void>(lirelettres(net));
     for (const auto& lettre : common::caracteres(reponse))
         prendre(lettre);

@@ -7,18 +7,19 @@
 
 namespace series {
 
-/// The letters of a rack without its mark-up, and which of them are not typed yet.
+/// The pool of letters: those of a rack, without its mark-up, and which of them are still free.
 class Lettres {
   public:
     /// Most letters that a rack may hold.
     static constexpr std::size_t limite = 15;
 
-    /// Takes a rack text: "+", "(", ")" and the digits 1 to 8 are skipped; with a "-" the rack is
-    /// what stands before the first one, as it stands. False if that is over `limite` letters.
+    /// Takes the letters of a rack. "+", "(", ")" and the digits 1 to 8 are left out; but if the
+    /// text has a "-", the rack is all that stands before the first one, unchanged. False if that
+    /// is more than `limite` letters.
     [[nodiscard]] bool lirelettres(std::string_view texte);
     /// The rack without mark-up.
     [[nodiscard]] const std::string& tiragenet() const { return tiragenet_; }
-    /// Sets a text to show on the tiles, with no letter to play.
+    /// Takes a text that the tiles show, without a letter to play.
     void annoncer(std::string_view texte);
 
     /// Uses up the first free letter equal to `lettre`; false if there is none.

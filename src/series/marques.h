@@ -12,19 +12,19 @@
 
 namespace series {
 
-/// The lists that drive marks, in the order in which they are read.
+/// The reference lists, each of which has a mark, in the order in which they are read.
 enum class Liste : std::size_t { Ods5, Ods6, Ods7, Vbi, Vbt, Inv };
 inline constexpr std::size_t nombredelistes = common::listesreference.size();
 
 /// Most items of each list, in the order of `Liste`.
 using Limites = std::array<std::size_t, nombredelistes>;
 
-/// What one list puts on a box: a full mark, or for a grammar list beside a dated mark the half
-/// one.
+/// The mark of a list: a picture on the box of each of its words. The first three marks are dated:
+/// they tell an edition. Beside a dated mark, the others show their half picture.
 struct Marque {
     std::string_view controle;  ///< full mark
     std::string_view image;
-    std::string_view demicontrole;  ///< half mark, empty for the dated marks
+    std::string_view demicontrole;  ///< half mark; empty for a dated mark
     std::string_view demiimage;
     std::string_view infobulle;
 };
@@ -40,18 +40,19 @@ inline constexpr std::array<Marque, nombredelistes> tabledesmarques = {{
      "Mot invariable !"},
 }};
 
-/// The marks of the boxes of a series form: facts on the word that a box stands for.
+/// The marks on the boxes of a series form.
 class Marques {
   public:
-    /// Makes the marks of `nombre` boxes, hidden, the half ones in front.
+    /// Makes the marks of `nombre` boxes, hidden, with the half marks in front.
     Marques(ui::Formulaire& formulaire, std::size_t nombre, const Limites& limites);
 
-    /// Sets the pictures. Throws `Faute` if one cannot be read.
+    /// Loads the pictures. Throws `Faute` if one cannot be read.
     void charger();
-    /// Puts the marks of a box level with it, from its right edge.
+    /// Places the marks of a box on `controle`, at its right edge.
     void placer(std::size_t boite, const ui::Controle& controle);
     void cacher();
-    /// Reads the lists and shows the marks of the words, word i on box i, where no mark shows.
+    /// Reads the lists and shows the marks of the words, those of word i on box i. Throws `Faute`
+    /// if a list cannot be read or exceeds its limit. All marks are expected to be hidden.
     void montrer(std::span<const std::string> mots);
 
   private:

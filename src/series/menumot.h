@@ -7,25 +7,26 @@
 
 namespace series {
 
-/// The word menu of a corrected box (`MenuContextuel`): the word's definition, and its row into or
-/// out of the revision file.
+/// The word menu of a corrected box (`MenuContextuel`): looks up the definition of the word, adds
+/// its row to the revision file or removes it.
 class Menumot {
   public:
-    /// What the menu works on: the row in list format, and whether it stands in the file.
+    /// The word that the menu is opened for.
     struct Objet {
-        std::string mot;    ///< as shown in the box
-        std::string ligne;  ///< rack, ";", solution(s)
-        bool definition = false;
-        bool enrevision = false;
+        std::string mot;          ///< as shown in the box
+        std::string ligne;        ///< its row, in list format
+        bool definition = false;  ///< the menu offers its definition
+        bool enrevision = false;  ///< the row is in the revision file
     };
 
     explicit Menumot(ui::Formulaire& formulaire);
 
     /// Path of the revision file of the running list.
     std::function<std::string()> fichier;
-    /// Told when the row has come into the file (true) or gone from it.
+    /// Called when the row has been added to the file (true) or removed from it (false).
     std::function<void(bool)> surrevision;
 
+    /// Opens the menu. A choice that fails to read or write the file throws `Faute`.
     void ouvrir(Objet objet);
 
   private:

@@ -7,14 +7,15 @@
 
 namespace series {
 
-/// What becomes of the place of an index that has been drawn.
+/// What fills the place of an index that has been drawn.
 enum class Comblement {
-    Dernier,   ///< the last index left takes it
-    Suivants,  ///< the indices behind it move down, so that the order is kept
+    Dernier,   ///< the last index
+    Suivants,  ///< the indices after it move up by one, which keeps their order
 };
 
-/// Draws `nombre` of the indices 0 to `total`-1 without replacement, in draw order; `nombre` is at
-/// most `total`. Each draw takes the integer part of a uniform number times the indices left.
+/// Draws `nombre` of the indices 0 to `total`-1 without replacement, and returns them in the order
+/// of the draw; `nombre` is at most `total`. Each draw takes the index at the place that a uniform
+/// number times the count of indices left gives, rounded down.
 [[nodiscard]] std::vector<int> tirersansremise(common::Hasard& hasard, int total, int nombre,
                                                Comblement comblement);
 

@@ -14,7 +14,8 @@ inline constexpr std::string_view policedesseries = "Times New Roman";
 /// Font of the answers before the first list.
 inline constexpr std::string_view policedessolutions = "Lucida Sans";
 
-/// Longest rack, in characters, that is shown at the large size; the last row of a list decides.
+/// The rack of the last row of a list decides: up to this many characters, the racks are shown at
+/// the large size. Sizes are in points.
 inline constexpr unsigned longueurgrandetaille = 8;
 inline constexpr double grandetaille = 20;
 inline constexpr double petitetaille = 19;

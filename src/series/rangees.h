@@ -1,7 +1,6 @@
 #pragma once
 
-// The row store of a series form: the rows of a list, each a rack and what follows it. List
-// formats: docs/formats.md.
+// The store of the rows of a list. docs/formats.md describes the lists.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,15 +11,17 @@
 #include <vector>
 
 #include "fichier.h"
+#include "nombre.h"
 
 namespace series {
 
-/// The rows of a list: rack, solutions and right answers given, aligned. An eliminated row keeps
-/// its place, with empty texts, until `compacter`.
+/// The rows of a list: of each its rack, its solutions and how many times it was answered right. A
+/// row has an index (`rang`) from 0. An eliminated row keeps its index, with empty texts, until
+/// `compacter`.
 class Rangees {
   public:
-    /// The ";" that ends the rack stands at this position at most (counted from 1).
-    static constexpr std::size_t positionlimite = 32767;
+    /// The highest position, counted from 1, of the ";" that ends the rack.
+    static constexpr std::size_t positionlimite = common::plusgrand16;
 
     /// `limite`: most rows of a list.
     explicit Rangees(std::size_t limite) : limite_(limite) {}
@@ -31,22 +32,22 @@ class Rangees {
     /// Keeps only these rows, in this order.
     void garder(std::span<const int> rangs);
 
-    /// Rows in the working set (`nbmots`).
+    /// Number of rows, eliminated ones included until `compacter`.
     [[nodiscard]] int nbmots() const { return static_cast<int>(rangees_.size()); }
     [[nodiscard]] std::string tirage(int rang) const;
-    /// What stands behind the rack and its ";": the solution, or the solutions.
+    /// What follows the rack and its ";": the solution, or the solutions.
     [[nodiscard]] std::string suite(int rang) const;
-    /// The same as it stands in the file, in bytes of Windows-1252.
+    /// The same in Windows-1252, as in the file.
     [[nodiscard]] std::string_view octetsdelasuite(int rang) const { return rangee(rang).suite; }
     /// Line of the row in its file, from 1.
     [[nodiscard]] std::size_t ligne(int rang) const { return rangee(rang).ligne; }
     /// Length in characters of the rack of the last line read, 0 for an empty list.
     [[nodiscard]] std::size_t longueurdernier() const { return longueurdernier_; }
 
-    /// Counts one more right answer; the count after it.
+    /// Counts one more right answer to a row, and returns the new count.
     int reussir(int rang) { return ++rangee(rang).reussites; }
     void eliminer(int rang);
-    /// Takes the eliminated rows out; the order stays.
+    /// Removes the eliminated rows; the others keep their order.
     void compacter();
 
   private:

@@ -1,8 +1,7 @@
 #pragma once
 
-// The reference lists and the notes, looked up at a correction: each file is
-// walked once, for the few words of the series; no table of it is built.
-// Formats: docs/formats.md.
+// Looking words up in the reference lists and the notes, at a correction. Each file is read once,
+// for the few words of the series; no table of it is built. docs/formats.md describes the files.
 
 #include <bitset>
 #include <cstddef>
@@ -20,7 +19,7 @@ class Recherche {
   public:
     /// `mots` in UTF-8; an empty word, or one that the files cannot hold, is never found.
     explicit Recherche(std::span<const std::string> mots);
-    /// Ranks in `mots` of the words equal to `octets` (Windows-1252), in order.
+    /// The indices in `mots` of the words equal to `octets` (Windows-1252), in increasing order.
     [[nodiscard]] std::span<const std::size_t> rangs(std::string_view octets) const {
         if (octets.empty() || !peutetre(octets))
             return {};
@@ -30,7 +29,7 @@ class Recherche {
   private:
     static constexpr std::size_t cases = 4096;
 
-    /// A number under `cases`, equal for equal words.
+    /// A hash below `cases`.
     [[nodiscard]] static std::size_t empreinte(std::string_view octets) {
         const auto octet = [&](std::size_t place) {
             return static_cast<std::size_t>(static_cast<unsigned char>(octets[place]));
@@ -44,32 +43,33 @@ class Recherche {
     [[nodiscard]] std::span<const std::size_t> trouver(std::string_view octets) const;
 
     std::vector<std::string> octets_;  ///< the words, sorted
-    std::vector<std::size_t> rangs_;   ///< of each of them
-    std::bitset<cases> filtre_;        ///< their prints
+    std::vector<std::size_t> rangs_;   ///< the index of each of them in `mots`
+    std::bitset<cases> filtre_;        ///< their hashes
 };
 
-/// For each word whether it stands in the list, read by items up to the first empty one. Throws
-/// `Faute` if the file cannot be read or holds more than `limite` items.
+/// Tells for each word whether the list has it. The list is read by items, up to the first empty
+/// one. `nombredemots` is the number of words in `recherche`. Throws `Faute` if the file cannot be
+/// read or has more than `limite` items.
 [[nodiscard]] std::vector<bool> chercherliste(common::Disque& disque, std::string_view chemin,
                                               std::size_t limite, const Recherche& recherche,
                                               std::size_t nombredemots);
 
-/// A note found: the rank of the word looked for, and the text of the note (UTF-8).
+/// A note that was found.
 struct Note {
-    std::size_t mot = 0;
-    std::string texte;
+    std::size_t mot = 0;  ///< index of the word that was looked for
+    std::string texte;    ///< UTF-8
     friend bool operator==(const Note&, const Note&) = default;
 };
 
 /// Which lines of the notes are compared with the words.
 enum class Lignesdemots {
-    Paires,  ///< every second line from the first: words and notes alternate
-    Toutes,  ///< word lines and note lines alike
+    Paires,  ///< lines 1, 3, 5...: a word on one line, its note on the next
+    Toutes,  ///< every line, those of the notes too
 };
 
-/// The notes of the words, in the order of the file; the search ends at the first empty line that
-/// is compared. A word line without a next line is no hit. Throws `Faute` if the file cannot be
-/// read or holds more than `limite` lines.
+/// The notes of the words, in the order of the file. The first empty line that is compared ends the
+/// search; a word on the last line has no note. Throws `Faute` if the file cannot be read or has
+/// more than `limite` lines.
 [[nodiscard]] std::vector<Note> cherchernotes(common::Disque& disque, std::string_view chemin,
                                               std::size_t limite, Lignesdemots lignes,
                                               const Recherche& recherche);

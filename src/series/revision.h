@@ -1,7 +1,7 @@
 #pragma once
 
-// The revision file of a user for a list: one row a line, as in the list.
-// Format: docs/formats.md.
+// The revision file of a user for a list: its missed rows, one on each line, in list format.
+// docs/formats.md describes it.
 
 #include <cstddef>
 #include <span>
@@ -13,27 +13,28 @@
 
 namespace series {
 
-/// Most rows of a revision file that `retirerderevision` can go through.
+/// Most rows of a revision file that a row can be removed from.
 inline constexpr std::size_t limiterevision = 5001;
 
-/// Path of the revision file of a running list: the list itself in a revision run (`toue` "R"),
-/// otherwise "rev-" and the list's name in the user's folder.
+/// The path of the revision file of the running list `fich`: `fich` itself in a revision run (by
+/// `toue`), otherwise `common::cheminrevision`.
 [[nodiscard]] std::string nomfichierderevision(std::string_view fich, std::string_view toue,
                                                std::string_view util);
 
-/// For each row text whether an item of the file equals it. Throws `Faute` if it cannot be read.
+/// Tells for each row whether the file has it. Throws `Faute` if the file cannot be read.
 [[nodiscard]] std::vector<bool> presentsenrevision(common::Disque& disque, std::string_view chemin,
                                                    std::span<const std::string> lignes);
 
-/// The same before these rows are added: the report of a failure says them.
+/// The same, for rows that are to be added: the report of a failure names them.
 [[nodiscard]] std::vector<bool> ajoutsdejapresents(common::Disque& disque, std::string_view chemin,
                                                    std::span<const std::string> lignes);
 
-/// Appends rows, in one write. Throws `Faute`, whose report says the rows.
+/// Appends rows in one write. Throws `Faute`, whose report names the rows.
 void ajouterenrevision(common::Disque& disque, std::string_view chemin,
                        std::span<const std::string> lignes);
 
-/// Rewrites the file without the items equal to a row text. Throws `Faute`, over the limit too.
+/// Removes a row from the file, each time it is there. Throws `Faute` if the file cannot be read or
+/// written, or has more than `limiterevision` rows.
 void retirerderevision(common::Disque& disque, std::string_view chemin, std::string_view ligne);
 
 }  // namespace series

@@ -1,7 +1,7 @@
 #pragma once
 
-// The entry of answers, as rules on a series: which characters a box takes, and what assisted entry
-// shows in the place of a rack.
+// The rules of typing answers: which characters a box takes, and what a rack shows under assisted
+// entry.
 
 #include <cstddef>
 #include <optional>
@@ -12,30 +12,35 @@
 
 namespace series {
 
+/// The capital of a letter a to z; any other character (Windows-1252) unchanged.
 [[nodiscard]] int majuscule(int code);
 
-/// Assisted entry holds the answers of this series to the letters of their racks.
+/// Whether assisted entry is in force: the option is on, the series takes answers, and the answers
+/// of the list are made of the letters of their racks.
 [[nodiscard]] bool saisieassistee(const Serie& serie, bool option);
 
-/// What becomes of a character (Western code page) that is typed in an answer box.
+/// The outcome of typing a character in an answer box.
 struct Frappe {
-    int code = 0;  ///< 0: the character is dropped
-    bool bip = false;
+    int code = 0;      ///< the character to insert (Windows-1252); 0: none
+    bool bip = false;  ///< it was refused with a beep
 };
 
-/// A character that takes the place of a whole answer makes the letters of its rack free again.
+/// Whether typing this character replaces the whole answer, so that the letters of its rack are
+/// free again. `remplacetout`: the box will replace its whole text.
 [[nodiscard]] bool remplacelareponse(int code, bool remplacetout);
-/// Takes or refuses a character; under assisted entry a letter is used up, and comes off the rack.
+/// Takes or refuses a character. Under assisted entry a letter that is taken leaves the pool
+/// `lettres` and the rack. A closed series takes no letter.
 [[nodiscard]] Frappe frapper(Serie& serie, Lettres& lettres, int boite, int code, bool assistee);
-/// Under assisted entry: the letters of the rack less those of what its box holds.
+/// Under assisted entry: rebuilds pool and rack, without the letters of `reponse`, the text of the
+/// box.
 void recalculer(Serie& serie, Lettres& lettres, int boite, std::string_view reponse);
-/// A box is left: its rack has all its letters again if assisted entry is in force, or has reduced
-/// it.
+/// When a box is left: gives its rack all letters back, if assisted entry is in force or has
+/// reduced it before.
 void rendretirage(Serie& serie, const Lettres& lettres, int boite, bool assistee);
-/// Letters that the second line of entry holds beyond those of the rack of a box; in a list of
-/// extensions none is too many.
+/// The number of letters of `texte` beyond the length of the rack of a box; 0 in a list of
+/// extensions.
 [[nodiscard]] std::size_t lettresentrop(const Serie& serie, int boite, std::string_view texte);
-/// There is a rack to judge when this box is left.
+/// Whether there is a rack to judge when this box is left.
 [[nodiscard]] bool ajuger(const Serie& serie, int boite);
 
 /// The box to which a key leads from a box of the series of racks with one solution; none for a key

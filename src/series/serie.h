@@ -1,7 +1,7 @@
 #pragma once
 
-// A list that is worked through, and the series that runs: a value that is copied like any other.
-// It knows no window; chance and disk come in as arguments.
+// A list that the player works through, and its running series, as a value without a window. Chance
+// and disk come in as arguments.
 
 #include <cstddef>
 #include <cstdint>
@@ -19,44 +19,46 @@
 
 namespace series {
 
-/// In what the series of the two windows are meant to differ.
+/// In what the series of the two forms differ.
 struct Regles {
     int nbplaces = 0;               ///< racks of a series, at most
     int nbboites = 0;               ///< answer boxes, at most
     std::size_t limiterangees = 0;  ///< most rows of a list
-    Comblement comblement{};        ///< of the draw of a series
-    /// A row as the revision file has it, in a list of so many solutions a rack.
+    Comblement comblement{};        ///< how a series is drawn
+    /// A row in list format; `nbsolutions` are those of each rack of its list.
     std::string (*enligne)(std::string_view tirage, std::string_view suite,
                            std::size_t nbsolutions) = nullptr;
-    /// Leaving a box gives its rack back in bare letters; otherwise as the list has it.
+    /// When a box is left, its rack comes back without mark-up; otherwise as in the list.
     bool rendlettresnues = false;
-    /// A rack that shows no letter is not judged when its box is left.
+    /// A rack that shows nothing is not judged when its box is left.
     bool jugesiaffiche = false;
-    /// Mark-up that keeps a rack from being rewritten by erasing.
+    /// Under assisted entry, erasing does not rewrite a rack that has one of these characters.
     std::string_view marquesgardees;
 };
 
-/// A rack place of the running series.
+/// A place of the running series, with its rack.
 struct Place {
-    int rang = -1;            ///< row of the list, -1 for a place without a rack
-    std::size_t ligne = 0;    ///< line of that row in the list's file, from 1; 0 for none
-    std::string tirage;       ///< rack of the row
-    std::string suite;        ///< what stands behind it in the row: its solution or solutions
+    int rang = -1;            ///< index of the row in `Serie::rangees`; -1: there is no rack
+    std::size_t ligne = 0;    ///< line of the row in the file of the list, from 1; 0: no rack
+    std::string tirage;       ///< the rack, as in the list
+    std::string suite;        ///< what follows it in the row: its solution or solutions
     std::string texte;        ///< the row in list format
-    std::string affiche;      ///< rack as the window shows it
+    std::string affiche;      ///< what the window shows of the rack
     bool enrevision = false;  ///< the row is in the revision file
-    bool entame = false;      ///< assisted entry wrote what is shown
+    bool entame = false;      ///< assisted entry took letters off what is shown
 };
 
-/// What takes a row out of the list.
+/// When a row is eliminated from the list.
 struct Critere {
-    bool secondes = false;  ///< an answer given in time; otherwise a number of right answers
-    double seuil = 1;       ///< seconds, or right answers
+    bool secondes = false;  ///< when answered in time; otherwise after a number of right answers
+    double seuil = 1;       ///< the seconds, or the right answers
 };
 
-/// A box under the seconds criterion. A failed one stays failed in its series.
+/// What the seconds criterion found of a box. A box that has failed stays so until the next series.
 enum class Rapide : std::uint8_t { Nonjugee, Ratee, Atemps };
 
+/// A list and its running series. Boxes and places are numbered from 0; box i belongs to the place
+/// i modulo `regles.nbplaces`.
 struct Serie {
     explicit Serie(const Regles& desregles);
 
@@ -67,14 +69,14 @@ struct Serie {
     int boitesutiles;                   ///< boxes in use by this list
     std::vector<Place> places;          ///< `regles.nbplaces` of them
     std::vector<Rapide> rapides;        ///< by box
-    std::vector<Etatreponse> verdicts;  ///< by box, of the correction; `Repos` for one not judged
+    std::vector<Etatreponse> verdicts;  ///< by box; `Repos`: not judged
     Critere critere;
-    /// Answers are taken. True before the first list too, as `corriger` is enabled by design.
+    /// Answers are taken. True before the first list too, when `corriger` is enabled.
     bool ouverte = true;
     bool enpause = false;
 
     [[nodiscard]] int placede(int boite) const { return boite % regles.nbplaces; }
-    /// Place of a box.
+    /// The place that a box belongs to.
     [[nodiscard]] Place& place(int boite) {
         return places[static_cast<std::size_t>(placede(boite))];
     }
@@ -85,34 +87,35 @@ struct Serie {
     [[nodiscard]] std::size_t nbsolutions() const {
         return static_cast<std::size_t>(boitesutiles / regles.nbplaces);
     }
-    /// Racks of the running series, or of the next one once `finir` has run.
+    /// The racks of the running series; after `finir`, of the next one.
     [[nodiscard]] int nombre() const;
 };
 
-/// Takes a list's rows, for a run that starts. Throws `Faute` as `Rangees::lire` does.
+/// Reads the rows of a list, at the start of a run. Throws `Faute` as `Rangees::lire` does.
 void ouvrirliste(Serie& serie, common::Disque& disque, std::string_view chemin, Nature nature);
 
-/// Keeps only so many rows, drawn by chance.
+/// Keeps only `taille` rows, drawn by chance; `taille` is at most the number of rows.
 void echantillonner(Serie& serie, common::Hasard& hasard, int taille);
 
-/// Draws a series: places filled from the first, nothing judged, no rack reduced.
+/// Draws a series. Fills the places from the first on, and forgets all verdicts.
 void tirer(Serie& serie, common::Hasard& hasard);
 
-/// Takes a judgement of the seconds criterion; none is told if the box had failed before.
+/// Records whether a box met the seconds criterion, and returns it; nothing if the box had failed
+/// before.
 std::optional<bool> retenir(Serie& serie, int boite, bool bon);
-/// Eliminates the rows whose first box passed the seconds criterion.
+/// Eliminates the rows whose first box met the seconds criterion.
 void eliminerrapides(Serie& serie);
 
-/// Gives every rack that assisted entry has reduced, and that of the box entered last, the text
-/// that it has in the list.
+/// Shows a rack as in the list again if assisted entry has reduced it, or if it belongs to
+/// `derniereboite`, the box entered last.
 void rendretirages(Serie& serie, int derniereboite);
 
-/// The list is done.
+/// The end of a list.
 struct Findeliste {
-    std::optional<double> pourc;  ///< none for a list that was empty from the start
+    std::optional<double> pourc;  ///< percentage of right answers; none if the list was empty
 };
-/// Takes the eliminated rows out; tells the end of the list once none is left. `base` and `fautes`
-/// are those of the whole list.
+/// Removes the eliminated rows, and returns the end of the list if none is left. `base` is what the
+/// percentage is taken of, `fautes` are the faults, both of the whole list.
 [[nodiscard]] std::optional<Findeliste> finir(Serie& serie, std::int64_t base, std::int64_t fautes);
 
 }  // namespace series

@@ -8,22 +8,23 @@
 
 namespace series {
 
-/// The nine letter tiles (`Command1`): they show the current rack, and two clicks swap two of them
-/// on screen, as an aid to thought.
+/// The nine letter tiles (`Command1`) show the current rack. To help thinking, the player swaps two
+/// of them by clicking on one, then on the other.
 class Tuiles {
   public:
     static constexpr std::size_t nombre = 9;
 
     explicit Tuiles(ui::Formulaire& formulaire);
 
-    /// Runs at each click, before the swap.
+    /// Runs at each click on a tile, before the swap.
     std::function<void()> surclic;
 
-    /// Takes the place of tile 0 and the width of a tile as they are now (`tuilegauche`).
+    /// Remembers the place of tile 0 and the width of a tile, to lay the tiles out again.
     void relever();
-    /// Shows a text of 1 to 9 characters, tiles back in order; any other leaves them as they are.
+    /// Shows a text of 1 to `nombre` characters, with the tiles back in order. Any other text
+    /// leaves the tiles as they are.
     void afficher(std::string_view tiragenet);
-    /// No tile is picked for a swap any more.
+    /// Forgets the tile that was clicked first.
     void oublier() { lettre_ = -1; }
     void peindre(ui::Couleur couleur);
 
@@ -35,7 +36,7 @@ class Tuiles {
     std::array<ui::Controle*, nombre> tuiles_{};
     int gauche_ = 0;   ///< of tile 0, in twips
     int largeur_ = 0;  ///< of a tile
-    int lettre_ = -1;  ///< tile picked for a swap, -1 none
+    int lettre_ = -1;  ///< the tile that was clicked first; -1: none
 };
 
 }  // namespace series

@@ -202,6 +202,8 @@ class Controle : public Observe<Champ> {
     /// Collects accepted characters, which `deposer` then inserts all at once.
     void amasser(std::string_view caracteres) { amas_ += caracteres; }
     void deposer();
+    /// Gives up what was collected.
+    void oublieramas() { amas_.clear(); }
     /// The next character typed will replace the whole text, which may be empty.
     [[nodiscard]] bool remplacetout() const { return amas_.empty() && selection() == longueur_; }
     /// Backspace (`avant`) or Delete: removes the selection, or else one character.

@@ -8,6 +8,18 @@
 namespace ui {
 namespace {
 
+/// Leaves nothing collected in a box, also where a handler throws.
+class Amas {
+  public:
+    explicit Amas(Controle& boite) : boite_(boite) {}
+    Amas(const Amas&) = delete;
+    Amas& operator=(const Amas&) = delete;
+    ~Amas() { boite_.oublieramas(); }
+
+  private:
+    Controle& boite_;
+};
+
 bool editable(const Controle& controle) {
     return controle.genre() == Genre::Boite || controle.genre() == Genre::Liste;
 }
@@ -148,6 +160,7 @@ void Formulaire::coller(std::string_view texteacoller) {
     if (controle == nullptr || !editable(*controle) || controle->verrou() ||
         !controle->pressepapiers)
         return;
+    const Amas amas(*controle);
     plateforme_.unseulbip([&] {
         for (const auto& lettre : common::caracteres(texteacoller)) {
             if (focus_ != controle)

@@ -101,14 +101,20 @@ class AppelsDessai : public common::Appels {
         return faire(
             "lien", [&] { return vrais_.lien(chemin, cible); }, false);
     }
-    std::error_code copierdroits(const Chemin& modele, common::Poignee neuf) override {
-        return faire("copierdroits", [&] { return vrais_.copierdroits(modele, neuf); });
+    std::error_code leguer(const Chemin& modele, common::Poignee neuf) override {
+        return faire("leguer", [&] { return vrais_.leguer(modele, neuf); });
+    }
+    std::error_code changerdroits(common::Poignee poignee, std::uint32_t droits) override {
+        return faire("changerdroits", [&] { return vrais_.changerdroits(poignee, droits); });
     }
     std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
         return faire("renommer", [&] { return vrais_.renommer(ancien, nouveau); });
     }
     std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) override {
         return faire("nommer", [&] { return vrais_.nommer(ancien, nouveau); });
+    }
+    std::error_code doubler(const Chemin& ancien, const Chemin& nouveau) override {
+        return faire("doubler", [&] { return vrais_.doubler(ancien, nouveau); });
     }
     std::error_code supprimer(const Chemin& chemin) override {
         return faire("supprimer", [&] { return vrais_.supprimer(chemin); });

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 namespace essais {
 
@@ -27,6 +29,14 @@ class DossierTemporaire {
     [[nodiscard]] const std::filesystem::path& chemin() const { return chemin_; }
     void ecrire(const std::string& nom, const std::string& octets) const {
         std::ofstream(chemin_ / nom, std::ios::binary) << octets;
+    }
+    /// The names in the folder, in order.
+    [[nodiscard]] std::vector<std::string> noms() const {
+        std::vector<std::string> lus;
+        for (const auto& entree : std::filesystem::directory_iterator(chemin_))
+            lus.push_back(entree.path().filename().string());
+        std::sort(lus.begin(), lus.end());
+        return lus;
     }
     [[nodiscard]] std::string lire(const std::string& nom) const {
         std::ifstream flux(chemin_ / nom, std::ios::binary);

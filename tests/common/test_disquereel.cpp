@@ -42,15 +42,6 @@ class Plafond {
 
 class DisqueReel : public testing::Test {
   protected:
-    /// The names in the folder, in order.
-    [[nodiscard]] std::vector<std::string> noms() const {
-        std::vector<std::string> lus;
-        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
-            lus.push_back(entree.path().filename().string());
-        std::sort(lus.begin(), lus.end());
-        return lus;
-    }
-
     essais::DossierTemporaire dossier;
     essais::AppelsDessai appels;
     common::DisqueReel disque{dossier.chemin(), appels};
@@ -245,7 +236,7 @@ TEST_P(Faux, fichier_se_dit_aussitot) {
     EXPECT_EQ(disque.remplacer("f.txt", "A\r\n"), common::Ennui::PasUnFichier);
     EXPECT_EQ(disque.verrouiller("f.txt", verrou), common::Ennui::PasUnFichier);
     EXPECT_EQ(common::raison(common::Ennui::PasUnFichier), "ce n'est pas un fichier ordinaire");
-    EXPECT_EQ(noms(), std::vector<std::string>{"f.txt"});
+    EXPECT_EQ(dossier.noms(), std::vector<std::string>{"f.txt"});
 }
 INSTANTIATE_TEST_SUITE_P(Table, Faux, testing::Values("tube", "prise", "peripherique"),
                          [](const auto& cas) { return std::string(cas.param); });
@@ -423,7 +414,7 @@ TEST_F(DisqueReel, le_reste_d_un_programme_disparu_s_ote_a_la_prochaine_ecriture
     for (const auto& nom : autres)
         dossier.ecrire(nom, "A");
     EXPECT_FALSE(disque.remplacer("f.txt", "B"));
-    EXPECT_EQ(noms(), autres);
+    EXPECT_EQ(dossier.noms(), autres);
     EXPECT_EQ(dossier.lire("f.txt"), "B");
 }
 
@@ -433,7 +424,7 @@ TEST_F(DisqueReel, le_fichier_d_un_programme_au_travail_reste) {
     std::unique_ptr<common::Verrou> verrou;
     ASSERT_FALSE(autre.verrouiller("f.txt.1234.tmp", verrou));
     EXPECT_FALSE(disque.remplacer("f.txt", "B"));
-    EXPECT_EQ(noms(), (std::vector<std::string>{"f.txt", "f.txt.1234.tmp"}));
+    EXPECT_EQ(dossier.noms(), (std::vector<std::string>{"f.txt", "f.txt.1234.tmp"}));
 }
 
 TEST_F(DisqueReel, un_disque_sans_verrous_s_ecrit_et_n_ote_rien) {
@@ -447,7 +438,7 @@ TEST_F(DisqueReel, un_disque_sans_verrous_s_ecrit_et_n_ote_rien) {
     dossier.ecrire("f.txt.1234.tmp", "A");
     EXPECT_FALSE(nu.ajouter("f.txt", "B\r\n"));
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
-    EXPECT_EQ(noms(), (std::vector<std::string>{"f.txt", "f.txt.1234.tmp"}));
+    EXPECT_EQ(dossier.noms(), (std::vector<std::string>{"f.txt", "f.txt.1234.tmp"}));
 }
 
 }  // namespace

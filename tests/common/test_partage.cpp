@@ -31,7 +31,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Partage, une_taille_qui_deborde_est_une_faute) {
     common::VariablesDialog2 v;
-    EXPECT_THROW(v.affecterechantillons(1093), common::Faute);
+    try {
+        v.affecterechantillons(1093);
+        FAIL() << "pas de faute";
+    } catch (const common::Faute& faute) {
+        EXPECT_STREQ(faute.what(),
+                     "Taille des échantillons, 1092 séries au plus (options, ligne 4 de "
+                     "« settings.dat ») : la valeur 32790 sort des limites admises (de -32768 à "
+                     "32767).");
+    }
 }
 
 TEST(Partage, la_couleur_est_par_defaut_jusqu_a_ce_qu_on_la_choisisse) {

@@ -52,4 +52,18 @@ TEST_F(Dossierprogramme, ne_garde_rien_de_l_essai) {
     EXPECT_TRUE(std::filesystem::is_empty(programme.chemin()));
 }
 
+TEST_F(Dossierprogramme, ne_garde_rien_d_un_essai_interrompu) {
+    int morts = 0;
+    for (int statut = essais::tue; statut == essais::tue; ++morts) {
+        statut = essais::enfant([&] {
+            appels.prevoir(essais::Panne::Avant, morts + 1);
+            static_cast<void>(chercher(programme.chemin()));
+            return 0;
+        });
+    }
+    EXPECT_GT(morts, 2);
+    EXPECT_NE(chercher(programme.chemin()), "");
+    EXPECT_TRUE(std::filesystem::is_empty(programme.chemin()));
+}
+
 }  // namespace

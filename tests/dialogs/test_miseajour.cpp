@@ -77,6 +77,20 @@ TEST_F(MiseAJour, un_fichier_de_version_illisible_est_une_faute) {
     EXPECT_THAT(v.plateforme.rapport, HasSubstr("version_en_ligne.txt"));
 }
 
+TEST_F(MiseAJour, les_plus_grands_fichiers_permis_se_lisent) {
+    toutpublier();
+    v.plateforme.reseau.erase(installeur);  // or else the program ends
+    verifier();
+    const auto taille = static_cast<std::size_t>(v.plateforme.exigences["downloadlink.txt"].taille);
+    auto longue = std::string("2.7");
+    longue.resize(taille, '0');
+    publier(longue);
+    v.plateforme.reseau[lien] = std::string(taille, 'x');
+    EXPECT_THAT(verifier(), testing::Contains("telecharger " + v.plateforme.reseau[lien] +
+                                              " > orvane_setup.exe"));
+    EXPECT_EQ(v.plateforme.rapport, "");
+}
+
 TEST_F(MiseAJour, refusee_s_arrete_la) {
     publier("2.7\r\n");
     v.plateforme.reponse = ui::Reponse::Non;

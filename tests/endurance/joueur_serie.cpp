@@ -4,6 +4,7 @@
 #include <array>
 
 #include "joueur.h"
+#include "listes.h"
 
 namespace endurance {
 namespace {
@@ -63,7 +64,7 @@ std::string Joueur::reponse(int boite) {
     if (!multi_)
         return rangee->suite;
     const auto solutions = rangee->solutions();
-    const auto mot = static_cast<std::size_t>(boite / 10);
+    const auto mot = static_cast<std::size_t>(boite / common::tiragesmulti);
     return mot < solutions.size() ? solutions[solutions.size() - 1 - mot] : std::string();
 }
 

@@ -3,15 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "listes.h"
 #include "regles.h"
 
 namespace endurance {
-namespace {
-
-constexpr int boitesform1 = 30;
-constexpr int tiragesmulti = 10;
-
-}  // namespace
 
 int Moment::secondes() const {
     return ordre.nom == "avancer" ? entier(ordre.suite) : 0;
@@ -22,7 +17,7 @@ Suivi::Suivi(bool multi, const common::VariablesForm3& menu,
     : multi_(multi),
       menu_(menu),
       options_(options),
-      nbtirages_(multi ? tiragesmulti : boitesform1) {}
+      nbtirages_(multi ? common::tiragesmulti : common::tiragesform1) {}
 
 const Rangee* Suivi::rangee(int place) const {
     return place >= 0 && place < places() ? &tirees_[static_cast<std::size_t>(place)] : nullptr;
@@ -33,7 +28,7 @@ int Suivi::boites() const {
 }
 
 bool Suivi::assistee() const {
-    return menu_.nombase != "Benjamins uniques" && menu_.typ != "rallong" &&
+    return menu_.nombase != "Benjamins uniques" && menu_.typ != common::typrallonges &&
            options_.saisieassistee != 0;
 }
 
@@ -48,7 +43,7 @@ void Suivi::commencer(const Lancement& lancement, const std::vector<std::string>
     for (const auto& rangee : rangees_)
         ++restantes_[rangee.ligne()];
     base_ = static_cast<int>(rangees_.size());
-    if (menu_.toue == "E") {
+    if (menu_.toue == common::modes::echantillon) {
         const std::array tailles{options_.nbechuni, options_.nbechduo, options_.nbechtri,
                                  options_.nbechqua, options_.nbechqui};
         base_ = std::min<int>(base_, tailles.at(nbsolutions_ - 1));
@@ -64,7 +59,8 @@ void Suivi::commencer(const Lancement& lancement, const std::vector<std::string>
             admises.insert(std::move(forme));
     const auto& ecran = moment.apres;
     constats.egal(ecran.titre, menu_.nombase, "titre de la liste");
-    constats.egal(ecran.seuilvisible, menu_.toue == "R" || lancement.app, "seuil montré");
+    constats.egal(ecran.seuilvisible, menu_.toue == common::modes::revision || lancement.app,
+                  "seuil montré");
     verifierecran(ecran, constats);
     tirer(moment, constats);
 }

@@ -105,7 +105,9 @@ class Suivi {
 
     // suivi_fichiers.cpp
     /// What is missed goes to the revision file.
-    [[nodiscard]] bool garde() const { return menu_.toue != "R" && !lancement_.app; }
+    [[nodiscard]] bool garde() const {
+        return menu_.toue != common::modes::revision && !lancement_.app;
+    }
     void verifierfichiers(const Moment& moment, Constats& constats) const;
     void verifierrevision(const Moment& moment, Constats& constats) const;
     void verifierratees(const Moment& moment, Constats& constats) const;

@@ -5,7 +5,7 @@ import pathlib
 import subprocess
 import sys
 
-from joueur import (MENU, SERIE, Serie, connecternouveau, ouvrirpanneau, tous, tuiles, verifier,
+from joueur import (connecternouveau, lancerladerniere, ouvrirpanneau, tous, tuiles, verifier,
                     visible)
 from scene import Scene, attendre
 
@@ -134,11 +134,7 @@ def jouer(scene, entraineur):
     attendre(lambda: scene.texte(nom) == "mienne.txt", "le nom tapé")
     scene.cliquer(visible(scene, "OK"))
     attendre(lambda: visible(scene, "Le fichier personnel semble valide."), "le fichier accepté")
-    boutons = [o for o in tous(scene.fenetre(MENU))
-               if o.name.startswith("Tout") and scene.etat(o, "SHOWING")]
-    scene.cliquer(max(boutons, key=lambda o: o.queryComponent().getExtents(0).y))
-    scene.devant(SERIE)
-    serie = Serie(scene)
+    serie = lancerladerniere(scene)
     serie.focus("Réponse 1")
     verifier(serie.tirage(1) == "(N)EZ", serie.tirage(1))
     scene.taper("nez")

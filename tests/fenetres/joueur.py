@@ -104,3 +104,12 @@ class Serie:
     def quitter(self):
         self.scene.cliquer(self.objets["Retour au sommaire"])
         self.scene.devant(MENU)
+
+
+def lancerladerniere(scene):
+    """Launches the list of the lowest row, the user's own."""
+    boutons = [objet for objet in tous(scene.fenetre(MENU))
+               if objet.name.startswith("Tout") and scene.etat(objet, "SHOWING")]
+    scene.cliquer(max(boutons, key=lambda objet: objet.queryComponent().getExtents(0).y))
+    scene.devant(SERIE)
+    return Serie(scene)

@@ -5,8 +5,8 @@ import itertools
 import subprocess
 import sys
 
-from joueur import (BIENVENUE, MENU, MULTI, REFERENCES, SERIE, Serie, connecternouveau, lancer,
-                    ouvrirpanneau, tous, verifier, visible)
+from joueur import (BIENVENUE, MENU, MULTI, REFERENCES, connecternouveau, lancer,
+                    lancerladerniere, ouvrirpanneau, verifier, visible)
 from scene import Scene, attendre
 
 JOUEUR = "Zoé"
@@ -157,11 +157,7 @@ def plusieurs(scene, liste, bouton, nombre, fichier):
 def personnelle(scene):
     ouvrirpanneau(scene, "AUTRES LISTES", "Listes diverses", "OK")
     attendre(lambda: visible(scene, "Le fichier personnel semble valide."), "le fichier accepté")
-    boutons = [o for o in tous(scene.fenetre(MENU))
-               if o.name.startswith("Tout") and scene.etat(o, "SHOWING")]
-    scene.cliquer(max(boutons, key=lambda o: o.queryComponent().getExtents(0).y))
-    scene.devant(SERIE)
-    serie = Serie(scene)
+    serie = lancerladerniere(scene)
     repondre(scene, serie, PERSONNELLE, 1)
     attendrerecord(scene, 8, " - 100% - T - perso.txt")
     serie.quitter()

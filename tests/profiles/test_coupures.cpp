@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int tue = 42;  // exit status of a program that was killed
-
 enum class Moment { Avant, Pendant, Apres };
 
 /// A disk that kills its program at the n-th thing it is asked to change. In the midst of putting a
@@ -51,29 +49,16 @@ class Disquemortel : public common::DisqueReel {
     std::error_code mourir(const Ecriture& ecriture) {
         const bool ici = --reste_ == 0;
         if (ici && moment_ != Moment::Apres)
-            ::_exit(tue);
+            ::_exit(essais::tue);
         const auto erreur = ecriture();
         if (ici)
-            ::_exit(tue);
+            ::_exit(essais::tue);
         return erreur;
     }
 
     int reste_;
     Moment moment_;
 };
-
-/// Runs an action in a program of its own, and gives its exit status.
-template <class Action>
-int enfant(const Action& action) {
-    const auto pid = ::fork();
-    if (pid == 0) {
-        action();
-        ::_exit(0);
-    }
-    int statut = -1;
-    ::waitpid(pid, &statut, 0);
-    return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
-}
 
 constexpr std::string_view revision = "Zoé\\rev-3lc.txt";
 
@@ -125,11 +110,12 @@ TEST_P(Coupure, garde_ce_qui_etait_ecrit) {
     const int rang = std::get<0>(GetParam());
     const auto moment = std::get<1>(GetParam());
     machine.ecrire("users.dat", "Paul\r\n");
-    EXPECT_EQ(enfant([&] {
+    EXPECT_EQ(essais::enfant([&] {
                   Disquemortel disque(machine.dossier.chemin(), rang, moment);
                   jouer(disque);
+                  return 0;
               }),
-              tue);
+              essais::tue);
 
     // The next start: everything is whole, as it was before the write or after it.
     const int faites = moment == Moment::Apres ? rang : rang - 1;
@@ -162,9 +148,10 @@ INSTANTIATE_TEST_SUITE_P(Ecritures, Coupure,
 
 TEST(Coupures, la_table_les_tient_toutes) {
     essai::Machine machine;
-    EXPECT_EQ(enfant([&] {
+    EXPECT_EQ(essais::enfant([&] {
                   Disquemortel disque(machine.dossier.chemin(), nbecritures + 1, Moment::Avant);
                   jouer(disque);
+                  return 0;
               }),
               0);
 }

@@ -221,6 +221,17 @@ TEST_F(Clavier, coller_ecrit_et_change_une_fois) {
     EXPECT_THAT(textes, ElementsAre("XabcY"));
 }
 
+TEST_F(Clavier, coller_qui_echoue_ne_garde_rien_de_ce_qu_il_avait_pris) {
+    boite.caractere = [](int& code) {
+        if (code == 'b')
+            throw std::runtime_error("rien ne va");
+    };
+    EXPECT_THROW(form.coller("abc"), std::runtime_error);
+    EXPECT_TRUE(boite.remplacetout());
+    form.coller("xy");
+    EXPECT_EQ(boite.texte(), "xy");
+}
+
 TEST_F(Clavier, coller_ne_fait_qu_un_bip) {
     boite.caractere = [&](int& code) {
         if (code == 'x')

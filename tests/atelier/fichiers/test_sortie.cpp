@@ -103,6 +103,31 @@ TEST_F(Sortie, deux_fabrications_ne_se_melent_pas) {
     EXPECT_NO_THROW(installer(neufs, dossier.chemin()));
 }
 
+TEST_F(Sortie, les_neufs_sont_a_l_abri_avant_l_echange_et_les_noms_apres) {
+    std::vector<std::string> vus;
+    installer(neufs, dossier.chemin(), ecrirefichier, [&](const std::filesystem::path& ou) {
+        vus.push_back(dossier.lire("listes/a.txt"));
+        EXPECT_TRUE(std::filesystem::exists(ou));
+        return std::error_code();
+    });
+    EXPECT_EQ(vus, (std::vector<std::string>{"vieux a\r\n", "neuf a\r\n"}));
+}
+
+TEST_F(Sortie, un_disque_qui_ne_met_rien_a_l_abri_laisse_les_vieux) {
+    const auto refuser = [](const std::filesystem::path& /*ou*/) {
+        return std::make_error_code(std::errc::io_error);
+    };
+    EXPECT_THROW(installer(neufs, dossier.chemin(), ecrirefichier, refuser), common::Faute);
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
+    EXPECT_EQ(dossier.lire("infosouris.txt"), "vieux\r\n");
+    EXPECT_EQ(entrees(), 4U);
+}
+
+TEST_F(Sortie, un_dossier_du_disque_se_met_a_l_abri) {
+    EXPECT_FALSE(abriter(dossier.chemin()));
+    EXPECT_EQ(abriter(dossier.chemin() / "absent"), std::errc::no_such_file_or_directory);
+}
+
 TEST_F(Sortie, un_fichier_a_la_place_du_dossier_est_une_faute) {
     EXPECT_THROW(installer(neufs, dossier.chemin() / "users.dat"), common::Faute);
     EXPECT_EQ(dossier.lire("users.dat"), "joueur");

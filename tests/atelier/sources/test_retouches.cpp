@@ -76,25 +76,26 @@ TEST_P(Ajouts, donnent_ces_mots) {
 }
 INSTANTIATE_TEST_SUITE_P(
     Retouches, Ajouts,
-    testing::Values(
-        Forme{"nom", "aa nom # lave\n", {"AA", "AAS"}}, Forme{"nom_en_x", "cox nom\n", {"COX"}},
-        Forme{"nom_en_s", "jass nom\n", {"JASS"}}, Forme{"nom_en_z", "ruz nom\n", {"RUZ"}},
-        Forme{"nom_invariable", "vip nom inv\n", {"VIP"}},
-        Forme{"nom_a_pluriel", "ksar nom ksour\n", {"KSAR", "KSOUR"}},
-        Forme{"adjectif", "pec adj\n", {"PEC", "PECS"}},
-        Forme{"adjectif_invariable", "in adj inv\n", {"IN"}},
-        Forme{"adjectif_a_feminin",
-              "gavot adj gavotte\n",
-              {"GAVOT", "GAVOTS", "GAVOTTE", "GAVOTTES"}},
-        Forme{"invariable", "bé inv\n", {"BE"}}, Forme{"ligature", "œ inv\n", {"OE"}},
-        Forme{"verbe",
-              "mazer verbe jouer\n",
-              {"MAZER", "MAZANT", "MAZE", "MAZEE", "MAZEZ", "MAZONS"}},
-        Forme{"verbe_a_participe_invariable",
-              "mazer verbe nager\n",
-              {"MAZER", "MAZE", "MAZEZ", "MAZANT", "MAZONS"}},
-        Forme{"verbe_sans_modele", "mazer verbe gazer\n", {}}, Forme{"deja_connu", "bic nom\n", {}},
-        Forme{"plusieurs", "aa nom\nbé inv\n", {"AA", "AAS", "BE"}}),
+    testing::Values(Forme{"nom", "aa nom # lave\n", {"AA", "AAS"}},
+                    Forme{"nom_en_x", "cox nom\n", {"COX"}},
+                    Forme{"nom_en_s", "jass nom\n", {"JASS"}},
+                    Forme{"nom_en_z", "ruz nom\n", {"RUZ"}},
+                    Forme{"nom_invariable", "vip nom inv\n", {"VIP"}},
+                    Forme{"nom_a_pluriel", "ksar nom ksour\n", {"KSAR", "KSOUR"}},
+                    Forme{"adjectif", "pec adj\n", {"PEC", "PECS"}},
+                    Forme{"adjectif_invariable", "in adj inv\n", {"IN"}},
+                    Forme{"adjectif_a_feminin",
+                          "gavot adj gavotte\n",
+                          {"GAVOT", "GAVOTS", "GAVOTTE", "GAVOTTES"}},
+                    Forme{"invariable", "bé inv\n", {"BE"}}, Forme{"ligature", "œ inv\n", {"OE"}},
+                    Forme{"verbe",
+                          "mazer verbe jouer\n",
+                          {"MAZER", "MAZANT", "MAZE", "MAZEE", "MAZEZ", "MAZONS"}},
+                    Forme{"verbe_a_participe_invariable",
+                          "mazer verbe nager\n",
+                          {"MAZER", "MAZE", "MAZEZ", "MAZANT", "MAZONS"}},
+                    Forme{"deja_connu", "bic nom\n", {}},
+                    Forme{"plusieurs", "aa nom\nbé inv\n", {"AA", "AAS", "BE"}}),
     [](const auto& rangee) { return rangee.param.nom; });
 
 TEST(Retouches, un_ajout_a_la_nature_et_le_nombre_que_sa_ligne_dit) {
@@ -114,6 +115,18 @@ TEST(Retouches, un_verbe_ajoute_a_le_groupe_et_les_participes_de_son_modele) {
     EXPECT_EQ(lus.lemmes.back().texte, "mazer");
     EXPECT_TRUE(lus.lemmes.back().participesinvariables());
     EXPECT_EQ(lus.formes.back().lecture.code.groupe, '1');
+}
+
+TEST(Retouches, un_verbe_ajoute_dont_le_modele_manque_est_une_faute_qui_dit_sa_ligne) {
+    const Retouches ajouts({}, "# verbes\naa nom\nmazer verbe gazer\n", {});
+    try {
+        static_cast<void>(essais::lexique(lignes, {}, ajouts));
+        FAIL() << "pas de faute";
+    } catch (const common::Faute& faute) {
+        EXPECT_THAT(faute.what(),
+                    testing::HasSubstr("« ajouts.txt », ligne 3 : « gazer » n'est pas "
+                                       "un verbe du lexique"));
+    }
 }
 
 TEST(Retouches, un_lemme_refuse_ne_garde_que_les_formes_dites) {

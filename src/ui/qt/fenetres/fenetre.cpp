@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPainter>
@@ -288,13 +289,15 @@ void Fenetre::rattacher() {
         return;
     // A window that shows itself just now takes the keyboard, though nothing has told so yet.
     const bool active = active_ && bureau_.enavant() == this;
+    const bool ailleurs = QApplication::activeWindow() == nullptr;  // the player is
     const auto place = pos();
     hide();
     windowHandle()->setTransientParent(dessous->windowHandle());
     setAttribute(Qt::WA_ShowWithoutActivating, !active);
     move(place);
     show();
-    (active ? this : dessous)->activateWindow();
+    if (!ailleurs)
+        (active ? this : dessous)->activateWindow();
 }
 
 void Fenetre::revenir() {

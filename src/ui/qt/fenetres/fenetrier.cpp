@@ -60,7 +60,7 @@ QWidget* Fenetrier::widget(const Controle& controle) const {
 
 Fenetre* Fenetrier::fenetre(const Formulaire& formulaire) const {
     const auto trouvee = std::find_if(fenetres_.begin(), fenetres_.end(), [&](const Fenetre* f) {
-        return &f->formulaire() == &formulaire;
+        return !f->orpheline() && &f->formulaire() == &formulaire;
     });
     return trouvee == fenetres_.end() ? nullptr : *trouvee;
 }
@@ -80,7 +80,8 @@ Fenetre* Fenetrier::enavant() const {
 
 Fenetre* Fenetrier::proprietaire() const {
     const auto possible = [](const Fenetre* f) {
-        return f->isVisible() && f->formulaire().visible() && !f->formulaire().devant();
+        return !f->orpheline() && f->isVisible() && f->formulaire().visible() &&
+               !f->formulaire().devant();
     };
     if (dessous_ != nullptr && possible(dessous_))
         return dessous_;

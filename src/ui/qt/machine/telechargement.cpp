@@ -33,7 +33,7 @@ bool Telechargement::enregistrer(std::string_view adresse, const QString& chemin
     QUrl url(versqt(adresse).trimmed());
     auto* const reseau =
         joignable(url, exigence) ? qobject_cast<Reseau*>(module(modulereseau)) : nullptr;
-    FichierRecu fichier(chemin, limites_.duree);
+    FichierRecu fichier(chemin);
     if (reseau == nullptr || !fichier.ouvrir())
         return false;
     std::unique_ptr<Transfert> transfert;

@@ -72,8 +72,12 @@ void Vue::appliquer() {
         if (cible.accessibleName() != nom)
             cible.setAccessibleName(nom);
     }
-    if ((champs & ensemble(Champ::Description)) != 0)
-        cible.setAccessibleDescription(description());
+    if ((champs & ensemble(Champ::Description)) != 0) {
+        // Screen readers say each setting anew, also of the same text.
+        const auto dite = description();
+        if (cible.accessibleDescription() != dite)
+            cible.setAccessibleDescription(dite);
+    }
     if ((champs & ensemble(Champ::Pointeur)) != 0)
         montrerpointeur();
     if ((champs & ensemble(Champ::Actif)) != 0)

@@ -212,6 +212,33 @@ TEST_F(Fenetres, une_forme_dechargee_pendant_son_propre_evenement_s_en_va_sans_d
     EXPECT_TRUE(fenetrier->fenetres().empty());
 }
 
+/// Asks, whenever a window is no longer the active one, which one dialogs would be in front of.
+class Curieux : public QObject {
+  public:
+    explicit Curieux(const ui::qt::Fenetrier& fenetrier) : fenetrier_(fenetrier) {}
+    int demandes = 0;
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override {
+        if (evenement->type() == QEvent::WindowDeactivate) {
+            ++demandes;
+            EXPECT_NE(fenetrier_.proprietaire(), objet);
+        }
+        return false;
+    }
+
+  private:
+    const ui::qt::Fenetrier& fenetrier_;
+};
+
+TEST_F(Fenetres, une_fenetre_qui_s_en_va_n_est_plus_celle_des_dialogues) {
+    Curieux curieux(*fenetrier);
+    fenetre().installEventFilter(&curieux);
+    forme.reset();
+    EXPECT_GT(curieux.demandes, 0);
+    EXPECT_EQ(fenetrier->proprietaire(), nullptr);
+}
+
 TEST_F(Fenetres, le_fenetrier_peut_partir_avant_les_formes) {
     fenetrier.reset();
     EXPECT_EQ(forme->vue, nullptr);
@@ -303,6 +330,15 @@ TEST_F(Devant, reste_quand_la_sienne_s_en_va_et_garde_le_clavier) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(fenetrier->fenetre(options)));
     EXPECT_TRUE(fenetrier->fenetre(options)->isVisible());
     EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
+}
+
+TEST_F(Devant, suit_la_sienne_sans_prendre_le_clavier_d_un_autre_programme) {
+    montrer(serie);
+    QApplication::setActiveWindow(nullptr);
+    fenetrier->executer([this] { serie.visible = false; });
+    laisser();
+    EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
+    EXPECT_FALSE(fenetre().isActiveWindow());
 }
 
 }  // namespace

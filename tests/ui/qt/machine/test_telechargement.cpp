@@ -4,7 +4,6 @@
 #include <optional>
 
 #include <QByteArray>
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTcpServer>
@@ -14,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "minuteur.h"
+#include "provisoire.h"
 #include "telechargement.h"
 
 namespace {
@@ -44,13 +44,10 @@ class Telechargements : public testing::Test {
             return std::nullopt;
         return fichier.readAll().toStdString();
     }
-    void ecrire(const QString& nom, const QByteArray& octets, int age = 0) const {
+    void ecrire(const QString& nom, const QByteArray& octets) const {
         QFile fichier(dossier.filePath(nom));
         ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
         fichier.write(octets);
-        fichier.flush();
-        fichier.setFileTime(QDateTime::currentDateTime().addMSecs(-age),
-                            QFileDevice::FileModificationTime);
     }
     [[nodiscard]] QStringList fichiers() const {
         return QDir(dossier.path()).entryList(QDir::Files | QDir::Hidden);
@@ -76,8 +73,7 @@ class Telechargements : public testing::Test {
     };
     ui::qt::Minuteur minuteur{[](const auto& evenement) { evenement(); }};
     QTemporaryDir dossier{QDir::tempPath() + "/reçus d'été XXXXXX"};
-    static constexpr int duree = 2000;
-    ui::qt::Telechargement telechargement{minuteur, {.silence = 300, .duree = duree}};
+    ui::qt::Telechargement telechargement{minuteur, {.silence = 300, .duree = 2000}};
 };
 
 TEST_F(Telechargements, rend_le_contenu_octet_pour_octet) {
@@ -262,13 +258,14 @@ TEST_F(Telechargements, un_dossier_de_ce_nom_est_un_echec_et_reste) {
 }
 
 TEST_F(Telechargements, ce_qu_un_programme_mort_a_laisse_est_emporte) {
-    ecrire("recu.txt.AbcXyz.tmp", "vieux", 2 * duree);
-    ecrire("recu.txt.QuiVit.tmp", "jeune");
-    ecrire("recu.txt.backup", "du joueur", 2 * duree);
-    ecrire("recu.txt.1234.tmp", "d'un autre", 2 * duree);
+    ecrire("recu.txt.1234.tmp", "d'un mort");
+    ecrire("recu.txt.5678.tmp", "d'un vivant");
+    ecrire("recu.txt.backup", "du joueur");
+    common::Descripteur vivant(common::appelsdusysteme());
+    const std::filesystem::path ecrit(dossier.filePath("recu.txt.5678.tmp").toStdString());
+    ASSERT_FALSE(common::tenir(common::appelsdusysteme(), ecrit, vivant));
     EXPECT_TRUE(enregistrer(adresse()));
-    EXPECT_EQ(fichiers(), (QStringList{"recu.txt", "recu.txt.1234.tmp", "recu.txt.backup",
-                                       "recu.txt.QuiVit.tmp"}));
+    EXPECT_EQ(fichiers(), (QStringList{"recu.txt", "recu.txt.5678.tmp", "recu.txt.backup"}));
 }
 
 TEST_F(Telechargements, un_lien_symbolique_et_les_droits_restent) {

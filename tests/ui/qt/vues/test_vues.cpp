@@ -63,6 +63,20 @@ TEST_F(Vues, ce_que_disent_les_couleurs_est_dit_aussi) {
     EXPECT_EQ(dite(*solution[1]), "");
 }
 
+TEST_F(Vues, une_description_qui_reste_n_est_pas_redite) {
+    // Off screen nobody listens: a description that is set anew is another copy of the text.
+    const auto dire = [this](const char* description) {
+        solution[1]->description = "";
+        solution[1]->description = description;
+        fenetrier->rafraichir();
+        return widget(*solution[1]).accessibleDescription();
+    };
+    const auto dite = dire("Juste");
+    EXPECT_EQ(dite, "Juste");
+    EXPECT_EQ(dire("Juste").constData(), dite.constData());
+    EXPECT_EQ(dire("Fausse"), "Fausse");
+}
+
 TEST_F(Vues, les_roles_accessibles_disent_le_genre) {
     const auto role = [this](const ui::Controle& controle) {
         return QAccessible::queryAccessibleInterface(&widget(controle))->role();
