@@ -56,6 +56,7 @@ class Formserie : public ui::Formulaire {
         const common::VariablesDialog2& dialog2;
         ui::FaceMenu& menu;
         ui::FaceOptions& options;
+        std::string& journalenattente;  ///< lines of both forms that the disk has not taken
     };
 
     /// The load operation, once per run of the program.
@@ -94,8 +95,9 @@ class Formserie : public ui::Formulaire {
     /// Keeps only so many rows, drawn by chance.
     void garderechantillon(int taille);
     void nouvelleserie();
-    /// Takes the eliminated rows out. With none left it closes the list: percent of `base` less
-    /// the faults (none if `base` is 0), record, sound; leaving is all that is left.
+    /// Ends a correction: writes the journal, then takes the eliminated rows out. With none left it
+    /// closes the list: percent of `base` less the faults (none if `base` is 0), record, sound;
+    /// leaving is all that is left.
     void finserie(std::int64_t base, std::int64_t fautes, const std::string& textedesfautes);
     /// Seconds given to a series.
     [[nodiscard]] std::int32_t tempsdeserie() const;
@@ -206,6 +208,8 @@ class Formserie : public ui::Formulaire {
     void prendrerevisions();
     void ouvrirserie();
     [[nodiscard]] std::string nomenregistre() const;
+    /// Writes what the racks of the series were judged on to the journal.
+    void tenirjournal();
     void finirliste(const Findeliste& fin, const std::string& textedesfautes);
 
     /// Missed rows go to the revision file by themselves.

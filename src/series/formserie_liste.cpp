@@ -132,8 +132,17 @@ void Formserie::ouvrirserie() {
 
 void Formserie::finserie(std::int64_t base, std::int64_t fautes,
                          const std::string& textedesfautes) {
+    tenirjournal();
     if (const auto fin = finir(serie_, base, fautes))
         finirliste(*fin, textedesfautes);
+}
+
+void Formserie::tenirjournal() {
+    const auto& menu = voisins_.form3;
+    const auto liste = nomenregistre();
+    profiles::journaliser(plateforme().disque(), menu.util,
+                          {plateforme().maintenant(), liste, menu.toue}, jugements(serie_),
+                          voisins_.journalenattente);
 }
 
 void Formserie::finirliste(const Findeliste& fin, const std::string& textedesfautes) {

@@ -13,6 +13,7 @@
 #include "etats.h"
 #include "fichier.h"
 #include "hasard.h"
+#include "journal.h"
 #include "nature.h"
 #include "pioche.h"
 #include "rangees.h"
@@ -46,6 +47,7 @@ struct Place {
     std::string affiche;      ///< rack as the window shows it
     bool enrevision = false;  ///< the row is in the revision file
     bool entame = false;      ///< assisted entry wrote what is shown
+    std::optional<profiles::Tiragejuge> juge;  ///< what it was judged on, once it was
 };
 
 /// What takes a row out of the list.
@@ -97,6 +99,13 @@ void echantillonner(Serie& serie, common::Hasard& hasard, int taille);
 
 /// Draws a series: places filled from the first, nothing judged, no rack reduced.
 void tirer(Serie& serie, common::Hasard& hasard);
+
+/// Keeps what the rack of a place is judged on, unless a judgement of it has failed before in this
+/// series: that one has shown the solutions.
+void retenirjugement(Serie& serie, int place, std::vector<std::string> solutions,
+                     std::vector<std::string> saisis);
+/// What the racks of the series were judged on, in the order of the screen.
+[[nodiscard]] std::vector<profiles::Tiragejuge> jugements(const Serie& serie);
 
 /// Takes a judgement of the seconds criterion; none is told if the box had failed before.
 std::optional<bool> retenir(Serie& serie, int boite, bool bon);
