@@ -66,7 +66,7 @@ void journal_d_une_correction(benchmark::State& state) {
     }
     common::DisqueReel disque(epreuve.chemin(""));
     std::string attente;
-    const profiles::Serie serie{{}, "x.txt", "T"};
+    const profiles::Seriejugee serie{{}, "x.txt", "T"};
     constexpr double dedans = 1.0 / 6;  // of the whole, a fifth of the rest
     bench::comparer(
         state, [&] { epreuve.touche(touches::f8); },

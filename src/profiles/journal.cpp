@@ -195,7 +195,7 @@ bool Tiragejuge::trouve() const {
     });
 }
 
-std::string lignejournal(const Serie& serie, const Tiragejuge& juge) {
+std::string lignejournal(const Seriejugee& serie, const Tiragejuge& juge) {
     std::string debut = serie.quand.date();
     debut.append(entredateetheure).append(serie.quand.heuredujour());
     for (const auto champ : {serie.liste, serie.mode, std::string_view(juge.tirage)})
@@ -208,7 +208,7 @@ std::string lignejournal(const Serie& serie, const Tiragejuge& juge) {
     return std::string(*octets).append(champsaisi(juge.saisis)).append(findeligne);
 }
 
-void journaliser(common::Disque& disque, std::string_view util, const Serie& serie,
+void journaliser(common::Disque& disque, std::string_view util, const Seriejugee& serie,
                  std::span<const Tiragejuge> juges, std::string& attente) {
     for (const auto& juge : juges)
         attente.append(lignejournal(serie, juge));

@@ -36,7 +36,7 @@ struct Tiragejuge {
 };
 
 /// The series that a correction closes.
-struct Serie {
+struct Seriejugee {
     common::Instant quand;
     std::string_view liste;  ///< the short name of a record of the history
     std::string_view mode;   ///< one of `common::modes`
@@ -45,11 +45,11 @@ struct Serie {
 /// The line of a rack, as the file has it, its line end included. What was typed is left out if
 /// the line could not hold it (a `;`, a character that Windows-1252 lacks); empty if the rest could
 /// not be held either.
-[[nodiscard]] std::string lignejournal(const Serie& serie, const Tiragejuge& juge);
+[[nodiscard]] std::string lignejournal(const Seriejugee& serie, const Tiragejuge& juge);
 
 /// Appends the lines of a correction, in one write, behind those that still wait in `attente`. What
 /// the disk does not take waits there. Never a fault.
-void journaliser(common::Disque& disque, std::string_view util, const Serie& serie,
+void journaliser(common::Disque& disque, std::string_view util, const Seriejugee& serie,
                  std::span<const Tiragejuge> juges, std::string& attente);
 
 /// A line that was read, as bytes of Windows-1252 inside it.

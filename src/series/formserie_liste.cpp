@@ -3,6 +3,7 @@
 #include "fichier.h"
 #include "formserie.h"
 #include "hist.h"
+#include "journal.h"
 #include "listes.h"
 #include "nombre.h"
 #include "revision.h"

@@ -24,7 +24,7 @@ using namespace profiles;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Serie serie{{2019, 8, 24, 14, 35, 10}, "3lc.txt", "T"};
+const Seriejugee serie{{2019, 8, 24, 14, 35, 10}, "3lc.txt", "T"};
 
 // The line of a rack.
 
@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(Journal, Lignesecrites, testing::ValuesIn(ecrites),
                          [](const auto& cas) { return cas.param.nom; });
 
 TEST(Journal, une_partie_n_a_pas_de_mode) {
-    const Serie partie{{2019, 8, 4, 4, 5, 6}, "vb6_a.txt", ""};
+    const Seriejugee partie{{2019, 8, 4, 4, 5, 6}, "vb6_a.txt", ""};
     EXPECT_EQ(lignejournal(partie, {"AB", {"BA"}, {"BA"}}),
               "04/08/2019 - 04:05:06;vb6_a.txt;;AB;BA;1;BA\r\n");
 }
