@@ -32,6 +32,25 @@ std::string champsaisi(const std::vector<std::string>& saisis) {
     return common::essayervers1252(joints).value_or("");
 }
 
+/// What all lines of a correction begin with, in bytes; nothing if the file could not hold it.
+std::optional<std::string> debutdeligne(const Seriejugee& serie) {
+    auto debut = serie.quand.date();
+    debut.append(entredateetheure).append(serie.quand.heuredujour());
+    for (const auto champ : {serie.liste, serie.mode})
+        debut.append(1, separateur).append(champ);
+    return common::essayervers1252(debut.append(1, separateur));
+}
+
+/// The rest of the line of a rack, line end included; nothing if the file could not hold it.
+std::optional<std::string> suitedeligne(const Tiragejuge& juge) {
+    auto suite = juge.tirage;
+    suite.append(1, separateur).append(joindre(juge.solutions));
+    auto octets = common::essayervers1252(suite.append(juge.trouve() ? ";1;" : ";0;"));
+    if (octets)
+        octets->append(champsaisi(juge.saisis)).append(findeligne);
+    return octets;
+}
+
 /// Two digits or more, at a place, as a number; -1 if there is another sign.
 int nombre(std::string_view texte, std::size_t place, std::size_t chiffres) {
     constexpr int base = 10;
@@ -196,22 +215,17 @@ bool Tiragejuge::trouve() const {
 }
 
 std::string lignejournal(const Seriejugee& serie, const Tiragejuge& juge) {
-    std::string debut = serie.quand.date();
-    debut.append(entredateetheure).append(serie.quand.heuredujour());
-    for (const auto champ : {serie.liste, serie.mode, std::string_view(juge.tirage)})
-        debut.append(1, separateur).append(champ);
-    debut.append(1, separateur).append(joindre(juge.solutions));
-    debut.append(juge.trouve() ? ";1;" : ";0;");
-    const auto octets = common::essayervers1252(debut);
-    if (!octets)
-        return {};
-    return std::string(*octets).append(champsaisi(juge.saisis)).append(findeligne);
+    const auto debut = debutdeligne(serie);
+    const auto suite = suitedeligne(juge);
+    return debut && suite ? *debut + *suite : std::string();
 }
 
 void journaliser(common::Disque& disque, std::string_view util, const Seriejugee& serie,
                  std::span<const Tiragejuge> juges, std::string& attente) {
+    const auto debut = debutdeligne(serie);
     for (const auto& juge : juges)
-        attente.append(lignejournal(serie, juge));
+        if (const auto suite = suitedeligne(juge); debut && suite)
+            attente.append(*debut).append(*suite);
     if (attente.empty())
         return;
     if (disque.deposer(cheminjournal(util), attente))
