@@ -80,7 +80,13 @@ class Rapporteur : public benchmark::ConsoleReporter {
 void comparer(benchmark::State& state, const std::function<void()>& preparer,
               const std::function<void()>& sujet, const std::vector<std::string>& fichiers,
               const Bornes& bornes) {
-    const auto reference = [&] { benchmark::DoNotOptimize(lectureseche(fichiers)); };
+    comparer(
+        state, preparer, sujet, [&] { benchmark::DoNotOptimize(lectureseche(fichiers)); }, bornes);
+}
+
+void comparer(benchmark::State& state, const std::function<void()>& preparer,
+              const std::function<void()>& sujet, const std::function<void()>& reference,
+              const Bornes& bornes) {
     std::vector<double> dureesdusujet;
     std::vector<double> dureesdereference;
     for ([[maybe_unused]] auto passage : state) {

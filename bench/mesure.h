@@ -27,6 +27,11 @@ void comparer(benchmark::State& state, const std::function<void()>& preparer,
               const std::function<void()>& sujet, const std::vector<std::string>& fichiers,
               const Bornes& bornes);
 
+/// The same against any other `reference`, which comes right before `sujet`.
+void comparer(benchmark::State& state, const std::function<void()>& preparer,
+              const std::function<void()>& sujet, const std::function<void()>& reference,
+              const Bornes& bornes);
+
 /// Times `sujet` alone, after `preparer`, untimed; reports an error if the median is over its
 /// bound.
 void chronometrer(benchmark::State& state, const std::function<void()>& preparer,

@@ -4,7 +4,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include "disquereel.h"
 #include "epreuve.h"
+#include "journal.h"
 #include "mesure.h"
 
 namespace {
@@ -49,6 +51,31 @@ void correction_aux_limites(benchmark::State& state) {
     correction(state, extremes, {3, 0});
 }
 BENCHMARK(correction_aux_limites)->UseManualTime()->Iterations(40);
+
+/// What the journal adds: the lines of a series against the whole correction, which they may make
+/// longer by a fifth.
+void journal_d_une_correction(benchmark::State& state) {
+    Epreuve epreuve;
+    epreuve.garnirreferences(livrees);
+    epreuve.ecrire("listes/x.txt", liste(30));
+    epreuve.lancer(false);
+    std::vector<profiles::Tiragejuge> juges;
+    for (std::size_t i = 0; i < 30; ++i) {
+        const auto tirage = bench::mot(i, 10);
+        juges.push_back({tirage, {{tirage.rbegin(), tirage.rend()}}, {tirage}});
+    }
+    common::DisqueReel disque(epreuve.chemin(""));
+    std::string attente;
+    const profiles::Seriejugee serie{{}, "x.txt", "T"};
+    constexpr double dedans = 1.0 / 6;  // of the whole, a fifth of the rest
+    bench::comparer(
+        state, [&] { epreuve.touche(touches::f8); },
+        [&] { profiles::journaliser(disque, "Essai", serie, juges, attente); },
+        [&] { epreuve.touche(touches::f12); }, {dedans, 0});
+    if (!attente.empty())
+        state.SkipWithError("the journal was not written");
+}
+BENCHMARK(journal_d_une_correction)->UseManualTime()->Iterations(300);
 
 void chargement_de_15000_rangees(benchmark::State& state) {
     Epreuve epreuve;

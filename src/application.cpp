@@ -154,11 +154,12 @@ class Application::Salle {
                   faceform1,      facemulti,        facehistorique, faceapropos} {}
 
     [[nodiscard]] series::Formserie::Voisins voisinsdeserie() {
-        return {variablesform3, variablesdialog2, facemenu, faceoptions};
+        return {variablesform3, variablesdialog2, facemenu, faceoptions, journalenattente};
     }
 
     common::VariablesForm3 variablesform3;
     common::VariablesDialog2 variablesdialog2;
+    std::string journalenattente;
     Piece<profiles::Form2> form2;
     Piece<menu::Form3> form3;
     Piece<series::Form1> form1;

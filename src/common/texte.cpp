@@ -153,6 +153,11 @@ std::string depuis1252(std::string_view octets) {
 }
 
 std::optional<std::string> essayervers1252(std::string_view texte) {
+    const bool ascii = std::all_of(texte.begin(), texte.end(), [](char octet) {
+        return static_cast<unsigned char>(octet) < 0x80;
+    });
+    if (ascii)
+        return std::string(texte);
     std::string octets;
     octets.reserve(texte.size());
     for (std::size_t i = 0; i < texte.size();) {

@@ -1,5 +1,6 @@
 #include "correctionmulti.h"
 
+#include <span>
 #include <utility>
 
 #include "rangeesmulti.h"
@@ -10,6 +11,12 @@ namespace {
 using series::Correction;
 using series::Etatreponse;
 using series::Etattirage;
+
+/// Those of a rack's texts that count in its judgement.
+std::vector<std::string> juges(const Rack& rack, std::span<const std::string> textes) {
+    const auto comptent = textes.first(nombrejuge(rack.solutions));
+    return {comptent.begin(), comptent.end()};
+}
 
 /// The judgements of one series, one after the other; a rack that is judged again finds what the
 /// first judgement shows.
@@ -68,6 +75,7 @@ void Juge::montrer(int place, const Verdict& verdict) {
 
 bool Juge::tirage(int place) {
     const auto rack = lire(place);
+    retenirjugement(serie_, place, juges(rack, rack.solutions), juges(rack, rack.saisis));
     const auto verdict = corrigertirage(rack, ratages_);
     montrer(place, verdict);
     if (verdict.debordement == Debordement::Motsfaux)

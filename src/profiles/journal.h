@@ -36,19 +36,20 @@ struct Tiragejuge {
 };
 
 /// The series that a correction closes.
-struct Serie {
+struct Seriejugee {
     common::Instant quand;
     std::string_view liste;  ///< the short name of a record of the history
     std::string_view mode;   ///< one of `common::modes`
 };
 
 /// The line of a rack, as the file has it, its line end included. What was typed is left out if
-/// the file could not hold it; empty if the rest could not be held either.
-[[nodiscard]] std::string lignejournal(const Serie& serie, const Tiragejuge& juge);
+/// the line could not hold it (a `;`, a character that Windows-1252 lacks); empty if the rest could
+/// not be held either.
+[[nodiscard]] std::string lignejournal(const Seriejugee& serie, const Tiragejuge& juge);
 
 /// Appends the lines of a correction, in one write, behind those that still wait in `attente`. What
 /// the disk does not take waits there. Never a fault.
-void journaliser(common::Disque& disque, std::string_view util, const Serie& serie,
+void journaliser(common::Disque& disque, std::string_view util, const Seriejugee& serie,
                  std::span<const Tiragejuge> juges, std::string& attente);
 
 /// A line that was read, as bytes of Windows-1252 inside it.
@@ -63,6 +64,9 @@ struct Lignejournal {
     bool trouve = false;
     std::string_view saisi;  ///< what the boxes held, joined by commas
 };
+
+/// Days from 1 January 1970 to a date; nothing if the calendar lacks it, or for a year under 1.
+[[nodiscard]] std::optional<std::int32_t> jourdu(int annee, int mois, int jour);
 
 /// Reads a line without its line end. Nothing for one that is none: other than seven fields, no
 /// such date or time, a found field other than 0 or 1, no rack, no solution.

@@ -69,6 +69,7 @@ Correction corriger(Serie& serie, Motsfaux& motsfaux, std::span<const std::strin
         const auto& reponse = reponses[static_cast<std::size_t>(boite)];
         const auto& place = serie.place(boite);
         const bool juste = reponse == place.suite;
+        retenirjugement(serie, boite, {place.suite}, {reponse});
         if (!juste && !motsfaux.ajouter(place.texte)) {
             correction.pleine = {boite, "mots faux", Motsfaux::limite};
             return correction;

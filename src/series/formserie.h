@@ -57,6 +57,7 @@ class Formserie : public ui::Formulaire {
         const common::VariablesDialog2& dialog2;
         ui::FaceMenu& menu;
         ui::FaceOptions& options;
+        std::string& journalenattente;  ///< lines of both forms that the disk has not taken
     };
 
     /// Prepares the new form; called once. Throws `Faute` if the picture of a mark cannot be read.
@@ -99,9 +100,9 @@ class Formserie : public ui::Formulaire {
     void garderechantillon(int taille);
     /// Draws a series and opens it.
     void nouvelleserie();
-    /// Removes the eliminated rows. If none is left, ends the list: writes its record, with the
-    /// percentage of `base` that was not at fault, and plays the sound. The player can then only
-    /// leave.
+    /// Ends a correction: writes the journal and removes the eliminated rows. If none is left, ends
+    /// the list: writes its record, with the percentage of `base` that was not at fault (none if
+    /// `base` is 0), and plays the sound. The player can then only leave.
     void finserie(std::int64_t base, std::int64_t fautes, const std::string& textedesfautes);
     /// The time for a series, in seconds.
     [[nodiscard]] std::int32_t tempsdeserie() const;
@@ -214,6 +215,8 @@ class Formserie : public ui::Formulaire {
     void prendrerevisions();
     void ouvrirserie();
     [[nodiscard]] std::string nomenregistre() const;
+    /// Writes what the racks of the series were judged on to the journal.
+    void tenirjournal();
     void finirliste(const Findeliste& fin, const std::string& textedesfautes);
 
     /// Missed rows are added to the revision file by themselves.

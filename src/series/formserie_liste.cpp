@@ -3,6 +3,7 @@
 #include "fichier.h"
 #include "formserie.h"
 #include "hist.h"
+#include "journal.h"
 #include "listes.h"
 #include "nombre.h"
 #include "revision.h"
@@ -132,8 +133,17 @@ void Formserie::ouvrirserie() {
 
 void Formserie::finserie(std::int64_t base, std::int64_t fautes,
                          const std::string& textedesfautes) {
+    tenirjournal();
     if (const auto fin = finir(serie_, base, fautes))
         finirliste(*fin, textedesfautes);
+}
+
+void Formserie::tenirjournal() {
+    const auto& menu = voisins_.form3;
+    const auto liste = nomenregistre();
+    profiles::journaliser(plateforme().disque(), menu.util,
+                          {plateforme().maintenant(), liste, menu.toue}, jugements(serie_),
+                          voisins_.journalenattente);
 }
 
 void Formserie::finirliste(const Findeliste& fin, const std::string& textedesfautes) {

@@ -1,6 +1,7 @@
 #include "serie.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "hist.h"
 
@@ -56,6 +57,21 @@ void tirer(Serie& serie, common::Hasard& hasard) {
                    [&serie](int rang) { return occuper(serie, rang); });
     std::fill(serie.rapides.begin(), serie.rapides.end(), Rapide::Nonjugee);
     std::fill(serie.verdicts.begin(), serie.verdicts.end(), Etatreponse::Repos);
+}
+
+void retenirjugement(Serie& serie, int place, std::vector<std::string> solutions,
+                     std::vector<std::string> saisis) {
+    auto& jugee = serie.place(place);
+    if (!jugee.juge || jugee.juge->trouve())
+        jugee.juge = {jugee.tirage, std::move(solutions), std::move(saisis)};
+}
+
+std::vector<profiles::Tiragejuge> jugements(const Serie& serie) {
+    std::vector<profiles::Tiragejuge> juges;
+    for (const auto& place : serie.places)
+        if (place.juge)
+            juges.push_back(*place.juge);
+    return juges;
 }
 
 std::optional<bool> retenir(Serie& serie, int boite, bool bon) {

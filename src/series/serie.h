@@ -13,6 +13,7 @@
 #include "etats.h"
 #include "fichier.h"
 #include "hasard.h"
+#include "journal.h"
 #include "nature.h"
 #include "pioche.h"
 #include "rangees.h"
@@ -46,6 +47,7 @@ struct Place {
     std::string affiche;      ///< what the window shows of the rack
     bool enrevision = false;  ///< the row is in the revision file
     bool entame = false;      ///< assisted entry took letters off what is shown
+    std::optional<profiles::Tiragejuge> juge;  ///< what it was judged on, once it was
 };
 
 /// When a row is eliminated from the list.
@@ -100,6 +102,14 @@ void echantillonner(Serie& serie, common::Hasard& hasard, int taille);
 /// Draws a series. Fills the places from the first on, and forgets all verdicts.
 void tirer(Serie& serie, common::Hasard& hasard);
 
+/// Keeps what the rack of a place is judged on, unless it has failed before in this series: the
+/// solutions have been shown since.
+void retenirjugement(Serie& serie, int place, std::vector<std::string> solutions,
+                     std::vector<std::string> saisis);
+/// What the racks of the series were judged on, in the order of the screen.
+[[nodiscard]] std::vector<profiles::Tiragejuge> jugements(const Serie& serie);
+
+/// Takes a judgement of the seconds criterion; none is told if the box had failed before.
 /// Records whether a box met the seconds criterion, and returns it; nothing if the box had failed
 /// before.
 std::optional<bool> retenir(Serie& serie, int boite, bool bon);

@@ -8,6 +8,7 @@
 #include "fichier.h"
 #include "hist.h"
 #include "historique.h"
+#include "journal.h"
 #include "miseajour.h"
 #include "nombre.h"
 #include "resultats.h"
@@ -100,6 +101,37 @@ void enregistrement(Essai& essai) {
     EXPECT_EQ(lu->mode, "T");
 }
 
+/// Every line of a journal of racks is read or counted, and a correction behind it is read back.
+void journal(Essai& essai) {
+    const auto fichier = profiles::cheminjournal(util);
+    deposer(essai, fichier);
+    std::string attente;
+    const std::vector<profiles::Tiragejuge> juges{{"EH", {"HE", "EH"}, {"EH", "HE"}}};
+    profiles::journaliser(essai.disque, util, {{2019, 8, 24, 14, 35, 10}, "duos.txt", "T"}, juges,
+                          attente);
+    EXPECT_EQ(attente, "");
+    const auto& octets = essai.disque.fichiers.find(fichier)->second;
+    EXPECT_TRUE(octets.starts_with(essai.octets));
+    bool derniere = false;
+    profiles::Lecturejournal lecture;
+    const auto erreur = profiles::parcourirjournal(
+        essai.disque, fichier,
+        [&](const profiles::Lignejournal& ligne) {
+            EXPECT_FALSE(ligne.tirage.empty());
+            EXPECT_FALSE(ligne.solutions.empty());
+            EXPECT_EQ(ligne.identifiant,
+                      std::string(ligne.tirage) + ";" + std::string(ligne.solutions));
+            EXPECT_EQ(std::count(ligne.identifiant.begin(), ligne.identifiant.end(), ';'), 1);
+            derniere = ligne.identifiant == "EH;HE,EH" && ligne.trouve && ligne.saisi == "EH,HE";
+        },
+        lecture);
+    if (erreur)
+        return;  // the disk broke in the midst of the reading
+    EXPECT_TRUE(derniere);
+    const auto sauts = static_cast<std::size_t>(std::count(octets.begin(), octets.end(), '\n'));
+    EXPECT_EQ(lecture.lues + lecture.sautees, sauts);
+}
+
 /// A list counts as many lines as it has, however it is read.
 void compteur(Essai& essai) {
     menu::Compteur compteur;
@@ -133,6 +165,7 @@ const fuzz::Lecteur lecteurs[] = {
     {"users", {"users.dat", "octets.bin"}, users},
     {"resultats", journaux, resultats, 4000},
     {"enregistrement", journaux, enregistrement},
+    {"journal", {"journal.txt", "journal.txt", "octets.bin"}, journal},
     {"compteur", {"form1.txt", "multi.txt", "octets.bin"}, compteur, 3000},
     {"version", {"version.txt"}, version},
 };

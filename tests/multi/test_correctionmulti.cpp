@@ -66,6 +66,37 @@ TEST(Corriger, la_rangee_ratee_a_le_tirage_affiche_et_ses_seules_solutions) {
     EXPECT_EQ(serie.verdicts[3], Etatreponse::Repos);
 }
 
+/// What a series keeps of its judgements: rack, solutions, what was typed, and whether it was
+/// found.
+std::vector<std::string> retenus(const series::Serie& serie) {
+    std::vector<std::string> lignes;
+    for (const auto& juge : jugements(serie)) {
+        auto ligne = juge.tirage;
+        for (const auto* mots : {&juge.solutions, &juge.saisis})
+            for (const auto& mot : *mots)
+                ligne += (&mot == &mots->front() ? ";" : ",") + mot;
+        lignes.push_back(ligne + (juge.trouve() ? ";1" : ";0"));
+    }
+    return lignes;
+}
+
+TEST(Corriger, retient_les_saisies_d_avant_les_solutions_montrees) {
+    auto serie = tiree("AB+C;A;B\r\nCD;C\r\n", series::Nature::Simple, duos);
+    serie.places[0].affiche = "ABC";
+    Ratages ratages;
+    static_cast<void>(multi::corriger(serie, ratages, {"X", "C", "", "Z"}, 0));
+    EXPECT_THAT(retenus(serie), ElementsAre("AB+C;A,B;X,;0", "CD;C;C;1"));
+}
+
+TEST(Corriger, retient_le_premier_jugement_rate) {
+    auto serie = deux();
+    serie.critere = {.secondes = true, .seuil = 5};
+    Ratages ratages;
+    static_cast<void>(multi::jugerboite(serie, ratages, {"A", "", "", ""}, 0, 0));
+    static_cast<void>(multi::corriger(serie, ratages, {"A", "X", "B", "D"}, 0));
+    EXPECT_THAT(retenus(serie), ElementsAre("AB;A,B;A,;0", "CD;C,D;X,D;0"));
+}
+
 TEST(Corriger, sous_les_secondes_le_dernier_tirage_est_juge_deux_fois) {
     auto serie = deux();
     serie.critere = {.secondes = true, .seuil = 5};

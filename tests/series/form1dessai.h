@@ -27,6 +27,7 @@ class Form1dessai : public testing::Test {
 
     Machine machine;
     Voisinage v;
+    std::string journalenattente;
     std::unique_ptr<series::Form1> form;
 
     Form1dessai() {
@@ -41,7 +42,8 @@ class Form1dessai : public testing::Test {
         v.form3.toue = "T";
         v.form3.nombase = "Essai";
         form = std::make_unique<series::Form1>(
-            machine.plateforme, series::Form1::Voisins{v.form3, v.dialog2, v.menu, v.options});
+            machine.plateforme,
+            series::Form1::Voisins{v.form3, v.dialog2, v.menu, v.options, journalenattente});
         machine.plateforme.accueillir(*form);
         machine.plateforme.executer([&] { form->charger(); });
         form->visible = true;

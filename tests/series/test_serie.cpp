@@ -54,6 +54,47 @@ INSTANTIATE_TEST_SUITE_P(
                     Pioche{"une_liste_vide_ne_donne_rien", "", {0}, 0, {"", "", ""}}),
     regle);
 
+/// What a place was judged on, one judgement after the other, and what is kept of it.
+struct Jugement {
+    const char* regle;
+    std::vector<Textes> saisis;  ///< of each judgement
+    Textes gardes;
+};
+
+class Jugements : public testing::TestWithParam<Jugement> {};
+
+TEST_P(Jugements, gardent) {
+    auto serie = tiree(quatre);
+    for (const auto& saisis : GetParam().saisis)
+        retenirjugement(serie, 1, {"DC", "CD"}, saisis);
+    const auto juges = jugements(serie);
+    ASSERT_EQ(juges.size(), 1U);
+    EXPECT_EQ(juges[0].tirage, "CD");
+    EXPECT_THAT(juges[0].solutions, ElementsAreArray(Textes{"DC", "CD"}));
+    EXPECT_THAT(juges[0].saisis, ElementsAreArray(GetParam().gardes));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Serie, Jugements,
+    testing::Values(Jugement{"le_seul", {{"DC", ""}}, {"DC", ""}},
+                    Jugement{"le_premier_rate", {{"X", ""}, {"DC", "CD"}}, {"X", ""}},
+                    Jugement{"un_blanc_rate_aussi", {{"", ""}, {"DC", "CD"}}, {"", ""}},
+                    Jugement{"le_rate_apres_un_trouve", {{"CD", "DC"}, {"DC", ""}}, {"DC", ""}}),
+    regle);
+
+TEST(Jugements, viennent_dans_l_ordre_des_places_et_partent_avec_la_serie) {
+    auto serie = tiree(quatre);
+    for (const int place : {2, 0, 1})
+        retenirjugement(serie, place, {"X"}, {""});
+    Textes tirages;
+    for (const auto& juge : jugements(serie))
+        tirages.push_back(juge.tirage);
+    EXPECT_THAT(tirages, ElementsAreArray({"AB", "CD", "EF"}));
+    essai::Suite hasard({0});
+    tirer(serie, hasard);
+    EXPECT_TRUE(jugements(serie).empty());
+}
+
 TEST(Serie, une_place_tiree_dit_sa_rangee) {
     const auto serie = tiree(quatre);
     const auto& place = serie.places[1];

@@ -77,6 +77,18 @@ INSTANTIATE_TEST_SUITE_P(
                         "Tirage: AB", true, true}),
     regle);
 
+TEST(Corriger, retient_chaque_tirage_tel_que_dans_la_liste_et_sa_saisie) {
+    auto serie = tiree(trois);
+    serie.places[1].affiche = "C";
+    Motsfaux motsfaux;
+    static_cast<void>(corriger(serie, motsfaux, Textes{"BA", "XY", ""}, 0));
+    EXPECT_EQ(serie.rangees.tirage(0), "");  // eliminated
+    Textes retenus;
+    for (const auto& juge : jugements(serie))
+        retenus.push_back(juge.tirage + ";" + juge.solutions.at(0) + ";" + juge.saisis.at(0));
+    EXPECT_THAT(retenus, ElementsAre("AB;BA;BA", "CD;DC;XY", "EF;FE;"));
+}
+
 TEST(Corriger, ferme_la_serie_et_compte) {
     auto serie = tiree(trois);
     Motsfaux motsfaux;
