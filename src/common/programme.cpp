@@ -3,11 +3,9 @@
 #include <algorithm>
 
 namespace common {
-namespace {
 
 namespace fs = std::filesystem;
 
-/// A file can be made there. Asking for its mode would not tell of a disk that is read-only.
 bool inscriptible(Appels& appels, const fs::path& dossier) {
     const auto essai = dossier / (".orvane." + std::to_string(appels.programme()) + ".tmp");
     Poignee poignee = sanspoignee;
@@ -16,8 +14,6 @@ bool inscriptible(Appels& appels, const fs::path& dossier) {
     appels.fermer(poignee);
     return !appels.supprimer(essai);
 }
-
-}  // namespace
 
 std::string dossierprogramme(Appels& appels, const fs::path& executable, const fs::path& courant) {
     std::error_code erreur;
