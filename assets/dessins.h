@@ -9,7 +9,7 @@
 
 namespace assets {
 
-/// A file of the folder `images`: PNG if its name ends in .png, otherwise a bitmap. Marks and
+/// A file of the folder `images`: PNG or SVG if its name says so, otherwise a bitmap. Marks and
 /// badges come in three variants: nominal size, and with twice and four times as many pixels each
 /// way, marked by "@2x" and "@4x" before the extension.
 struct Tableau {
@@ -20,6 +20,10 @@ struct Tableau {
 };
 
 [[nodiscard]] std::vector<Tableau> tableaux();
+
+/// The icons of the program for a desktop: squares of 16 to 512 pixels, in files named after their
+/// side, and one that scales.
+[[nodiscard]] std::vector<Tableau> icones();
 
 /// The bytes of the picture's file.
 [[nodiscard]] std::string fichier(const Tableau& tableau);
