@@ -30,11 +30,9 @@ void dire(const installation::Bilan& bilan) {
 }
 
 void apporter(const std::filesystem::path& source, const std::filesystem::path& dest) {
-    auto inventaire = installation::inventorier(source);
+    const auto inventaire = installation::inventorier(source);
     std::filesystem::create_directories(dest);
-    common::DisqueReel depart(source);
-    common::DisqueReel arrivee(dest);
-    dire(installation::rafraichir(depart, arrivee, inventaire));
+    dire(installation::rafraichir(common::appelsdusysteme(), source, dest, inventaire));
 }
 
 }  // namespace

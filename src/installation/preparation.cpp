@@ -44,7 +44,7 @@ Lieu preparer(common::Appels& appels, const Environs& environs) {
     if (versionrecue(cible) == inventaire.version)
         return lieu;
     verifier(lieu.dossier, creer(appels, lieu.dossier));
-    rafraichir(source, cible, inventaire);
+    rafraichir(appels, lieu.fournis, lieu.dossier, inventaire);
     return lieu;
 }
 

@@ -1,9 +1,10 @@
 #include "rafraichissement.h"
 
-#include <algorithm>
 #include <optional>
 #include <set>
 
+#include "attente.h"
+#include "disquereel.h"
 #include "faute.h"
 #include "fichier.h"
 #include "listes.h"
@@ -75,8 +76,14 @@ enum class Ordre : std::uint8_t { Rien, Apporter, Garder };
 
 class Rafraichissement {
   public:
-    Rafraichissement(common::Disque& source, common::Disque& cible, const Inventaire& inventaire)
-        : source_(source), cible_(cible), inventaire_(inventaire), connus_(cible, inventaire) {}
+    Rafraichissement(common::Appels& appels, common::DisqueReel& source, common::DisqueReel& cible,
+                     const Inventaire& inventaire)
+        : appels_(appels),
+          source_(source),
+          cible_(cible),
+          inventaire_(inventaire),
+          connus_(cible, inventaire),
+          attente_(appels, cible.systeme(dossierattente)) {}
 
     [[nodiscard]] Bilan faire() {
         const auto dictionnaire = present(cible_, std::string(fichierdictionnaire));
@@ -88,22 +95,17 @@ class Rafraichissement {
             else if (ordre == Ordre::Garder)
                 bilan_.gardes.push_back(fourni.chemin);
         }
-        for (std::size_t i = 0; i < apports_.size(); ++i)
-            preparer(*apports_[i], attente(i));
+        for (const auto* apport : apports_)
+            preparer(*apport);
         connus_.enregistrer(cible_);
         if (!apports_.empty())
             placertout();
-        nettoyer();
         if (!inventaire_.version.empty())
             verifier(fichierversion, cible_.remplacer(fichierversion, inventaire_.version + "\n"));
         return bilan_;
     }
 
   private:
-    [[nodiscard]] static std::string attente(std::size_t rang) {
-        return std::string(dossierattente).append("\\").append(std::to_string(rang));
-    }
-
     [[nodiscard]] Ordre decider(const Fourni& fourni) const {
         const auto actuel = present(cible_, fourni.chemin);
         if (!actuel)
@@ -113,8 +115,8 @@ class Rafraichissement {
         return connus_.connait(*actuel) ? Ordre::Apporter : Ordre::Garder;
     }
 
-    /// Copies a file under the name under which it waits.
-    void preparer(const Fourni& fourni, const std::string& nom) {
+    /// Copies a file to where it waits.
+    void preparer(const Fourni& fourni) {
         std::string octets;
         verifier(fourni.chemin, common::essayerlire(source_, fourni.chemin, octets));
         Somme somme;
@@ -122,52 +124,51 @@ class Rafraichissement {
         if (somme.finir() != fourni.somme)
             throw common::Faute(common::rapportfichier(
                 action, fourni.chemin, "le fichier installé n'est pas celui qui était attendu"));
-        verifier(dossierattente, cible_.creerdossier(dossierattente));
-        verifier(nom, cible_.remplacer(nom, octets));
+        verifier(dossierattente, attente_.ajouter(octets));
     }
 
     void placertout() {
+        verifier(dossierattente, attente_.synchroniser());
         const auto erreur = cible_.supprimer(fichierversion);
         if (erreur != std::errc::no_such_file_or_directory)
             verifier(fichierversion, erreur);
+        // No file may be found in its place after a power cut that brings the version back.
+        const auto version = cible_.systeme(fichierversion);
+        verifier(fichierversion, appels_.synchroniserdossier(version.parent_path()));
         for (std::size_t i = 0; i < apports_.size(); ++i)
-            placer(*apports_[i], attente(i));
+            placer(*apports_[i], i);
+        verifier(dossierattente, attente_.finir());
     }
 
-    /// Removes what an earlier run left waiting, if it had more to bring.
-    void nettoyer() {
-        auto rang = apports_.size();
-        while (!cible_.supprimer(attente(rang)))
-            ++rang;
-        static_cast<void>(cible_.supprimer(dossierattente));  // in nobody's way
-    }
-
-    void placer(const Fourni& fourni, const std::string& nom) {
+    void placer(const Fourni& fourni, std::size_t rang) {
         // The player may have written it meanwhile.
-        if (decider(fourni) != Ordre::Apporter) {
-            static_cast<void>(cible_.supprimer(nom));
+        if (decider(fourni) != Ordre::Apporter)
             return;
-        }
         for (auto fin = fourni.chemin.find('\\'); fin != std::string::npos;
              fin = fourni.chemin.find('\\', fin + 1)) {
             const auto dossier = fourni.chemin.substr(0, fin);
-            verifier(dossier, cible_.creerdossier(dossier));
+            if (!cible_.estdossier(dossier))
+                verifier(dossier, cible_.creerdossier(dossier));
         }
-        auto erreur = cible_.renommer(nom, fourni.chemin);
+        auto erreur = attente_.placer(rang, cible_.systeme(fourni.chemin));
         if (erreur == std::errc::cross_device_link) {  // its folder is a link to another disk
-            erreur = cible_.remplacer(fourni.chemin, common::lirefichier(cible_, nom, action));
-            static_cast<void>(cible_.supprimer(nom));
+            std::string octets;
+            erreur = common::essayerlire(source_, fourni.chemin, octets);
+            if (!erreur)
+                erreur = cible_.remplacer(fourni.chemin, octets);
         }
         verifier(fourni.chemin, erreur);
         ++bilan_.apportes;
     }
 
-    common::Disque& source_;
-    common::Disque& cible_;
+    common::Appels& appels_;
+    common::DisqueReel& source_;
+    common::DisqueReel& cible_;
     const Inventaire& inventaire_;
     Connus connus_;
     Bilan bilan_;
     std::vector<const Fourni*> apports_;
+    Attente attente_;
 };
 
 std::unique_ptr<common::Verrou> verrouiller(common::Disque& cible) {
@@ -191,11 +192,14 @@ std::string versionrecue(common::Disque& cible) {
     return lignes.suivante(ligne) ? std::string(ligne) : std::string();
 }
 
-Bilan rafraichir(common::Disque& source, common::Disque& cible, const Inventaire& inventaire) {
-    const auto verrou = verrouiller(cible);
-    if (!inventaire.version.empty() && versionrecue(cible) == inventaire.version)
+Bilan rafraichir(common::Appels& appels, const std::filesystem::path& source,
+                 const std::filesystem::path& cible, const Inventaire& inventaire) {
+    common::DisqueReel fournis(source, appels);
+    common::DisqueReel jeu(cible, appels);
+    const auto verrou = verrouiller(jeu);
+    if (!inventaire.version.empty() && versionrecue(jeu) == inventaire.version)
         return {};
-    return Rafraichissement(source, cible, inventaire).faire();
+    return Rafraichissement(appels, fournis, jeu, inventaire).faire();
 }
 
 }  // namespace installation

@@ -2,10 +2,12 @@
 
 // Brings the lists, pictures and sound that came with the program into the player's folder.
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "appels.h"
 #include "disque.h"
 #include "inventaire.h"
 
@@ -38,6 +40,7 @@ struct Bilan {
 /// its place, so that a program killed meanwhile goes on at the next start. Waits for another
 /// program that does the same; with a version that the folder has by then, there is nothing left to
 /// do. Throws `common::Faute`.
-Bilan rafraichir(common::Disque& source, common::Disque& cible, const Inventaire& inventaire);
+Bilan rafraichir(common::Appels& appels, const std::filesystem::path& source,
+                 const std::filesystem::path& cible, const Inventaire& inventaire);
 
 }  // namespace installation

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <map>
+#include <set>
 
 #include <gmock/gmock.h>
 
@@ -17,9 +19,8 @@ class Rafraichir : public testing::Test {
     void demarrer() { static_cast<void>(installation::preparer(appels, installe.environs())); }
     /// What is brought to the play folder, whatever version it has, as by hand.
     installation::Bilan apporter() {
-        common::DisqueReel source(installe.fournis());
-        common::DisqueReel cible(installe.jeu());
-        return installation::rafraichir(source, cible,
+        return installation::rafraichir(common::appelsdusysteme(), installe.fournis(),
+                                        installe.jeu(),
                                         installation::inventorier(installe.fournis()));
     }
 
@@ -163,6 +164,93 @@ TEST_F(Rafraichir, un_fichier_a_la_place_d_un_dossier_est_une_faute) {
     installe.jouer("listes", "un fichier");
     EXPECT_THROW(demarrer(), common::Faute);
     EXPECT_EQ(installe.lire("listes"), "un fichier");
+}
+
+TEST_F(Rafraichir, de_nombreux_fichiers_arrivent_tous) {
+    Contenu contenu;
+    for (int i = 0; i < 250; ++i)
+        contenu["listes/" + std::to_string(i) + ".txt"] = std::to_string(i);
+    installe.installer(contenu);
+    demarrer();
+    EXPECT_EQ(installe.contenu(), contenu);
+}
+
+class AppelsPleins : public essais::AppelsDessai {
+  public:
+    std::error_code ecrire(common::Poignee poignee, std::string_view octets,
+                           std::size_t& ecrits) override {
+        if (--reste < 0)
+            return std::make_error_code(std::errc::no_space_on_device);
+        return AppelsDessai::ecrire(poignee, octets, ecrits);
+    }
+    int reste = 1;  ///< writes that go well
+};
+
+TEST_F(Rafraichir, un_disque_plein_ne_garde_rien_de_l_essai) {
+    installe.installer({{"listes/7v5.txt", "un"}, {"listes/8v5.txt", "un"}});
+    AppelsPleins pleins;
+    EXPECT_THROW(static_cast<void>(installation::preparer(pleins, installe.environs())),
+                 common::Faute);
+    EXPECT_LT(pleins.reste, 0);
+    EXPECT_FALSE(std::filesystem::exists(installe.jeu() / installation::dossierattente));
+    EXPECT_EQ(installe.contenu(), Contenu{});
+}
+
+/// Counts what takes its place before its bytes would survive a power cut, and the play folder's
+/// version that would come back then.
+class AppelsPrudents : public essais::AppelsDessai {
+  public:
+    std::error_code ouvrir(const Chemin& chemin, common::Ouverture mode,
+                           common::Poignee& poignee) override {
+        const auto erreur = AppelsDessai::ouvrir(chemin, mode, poignee);
+        if (!erreur)
+            noms_[poignee] = chemin;
+        return erreur;
+    }
+    std::error_code ecrire(common::Poignee poignee, std::string_view octets,
+                           std::size_t& ecrits) override {
+        sales_.insert(noms_[poignee]);
+        return AppelsDessai::ecrire(poignee, octets, ecrits);
+    }
+    std::error_code synchroniser(common::Poignee poignee) override {
+        sales_.erase(noms_[poignee]);
+        return AppelsDessai::synchroniser(poignee);
+    }
+    std::error_code supprimer(const Chemin& chemin) override {
+        if (chemin.filename() == installation::fichierversion)
+            sales_.insert(chemin.parent_path());
+        return AppelsDessai::supprimer(chemin);
+    }
+    std::error_code synchroniserdossier(const Chemin& dossier) override {
+        sales_.erase(dossier);
+        return AppelsDessai::synchroniserdossier(dossier);
+    }
+    std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
+        const bool enattente = ancien.parent_path().filename() == installation::dossierattente;
+        places += enattente ? 1 : 0;
+        trop_tot += sales_.contains(ancien) ? 1 : 0;
+        trop_tot += enattente && sales_.contains(ancien.parent_path().parent_path()) ? 1 : 0;
+        return AppelsDessai::renommer(ancien, nouveau);
+    }
+    int places = 0;
+    int trop_tot = 0;
+
+  private:
+    std::map<common::Poignee, Chemin> noms_;
+    std::set<Chemin> sales_;
+};
+
+TEST_F(Rafraichir, rien_ne_prend_sa_place_avant_d_etre_sur_le_disque) {
+    AppelsPrudents prudents;
+    for (const auto* octets : {"un", "deux"}) {
+        Contenu contenu;
+        for (int i = 0; i < 150; ++i)
+            contenu["listes/" + std::to_string(i) + ".txt"] = octets;
+        installe.installer(contenu);
+        static_cast<void>(installation::preparer(prudents, installe.environs()));
+    }
+    EXPECT_EQ(prudents.places, 300);
+    EXPECT_EQ(prudents.trop_tot, 0);
 }
 
 TEST_F(Rafraichir, ce_qui_attendait_d_une_fois_coupee_s_en_va) {
