@@ -35,7 +35,7 @@ class Attente {
     [[nodiscard]] std::filesystem::path fichier(std::size_t rang) const;
 
   private:
-    [[nodiscard]] std::error_code creer(common::Descripteur& fichier);
+    [[nodiscard]] std::error_code creer(common::Descripteur& ouvert);
     [[nodiscard]] std::error_code fermerlot();
 
     common::Appels& appels_;
