@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
@@ -36,6 +37,15 @@ bool aller(const carnet::Options& options) {
     }
 }
 
+/// The icon of the trainer, of the play folder.
+QIcon icone(const carnet::Options& options) {
+    QIcon icone;
+    for (const int cote : {16, 32, 48, 128})
+        icone.addFile(carnet::qt((options.dossier / "images").string()) +
+                      QStringLiteral("/orvane_%1.png").arg(cote));
+    return icone;
+}
+
 int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     const QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("orvane-carnet"));
@@ -52,6 +62,7 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     QApplication::setPalette(palette);
     if (!aller(options))
         return enfaute;
+    QApplication::setWindowIcon(icone(options));
     carnet::Seance seance(options);
     carnet::Fenetrecarnet fenetre(seance);
     fenetre.show();

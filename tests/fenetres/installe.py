@@ -4,7 +4,7 @@ its end by real keys and mouse, and what a newer version leaves of it.
 installe.py PROGRAM CAPTURES PLAYER: the program where it is installed, in the home of whoever runs
 this. With INVENTORY JEU behind, PROGRAM is installed for the trial: JEU is what comes with it, and
 INVENTORY the program that makes the inventory. With --apres behind, the list was played before the
-upgrade that has just been made."""
+upgrade that has just been made; with --revient, it was, and there is no upgrade."""
 
 import os
 import pathlib
@@ -94,10 +94,8 @@ def jouer(scene, joueur):
     scene.fini()
 
 
-def apresmiseajour(scene, fournis, joueur):
-    """What the player has stays, what he left as it came is that of the newer version."""
-    ancienne = (scene.dossier / "listes" / AUTRE).read_bytes()
-    verifier(not pareil(scene, fournis, "listes/" + AUTRE), "la nouvelle version a une autre liste")
+def revenir(scene, joueur):
+    """The player comes back, and finds his result and the list that he has changed."""
     scene.demarrer()
     scene.devant(BIENVENUE)
     scene.cliquer(scene.objets(BIENVENUE)["COMMENCER"])
@@ -105,13 +103,32 @@ def apresmiseajour(scene, fournis, joueur):
     ouvrirpanneau(scene, "SCRABBLES UNIQUES", "7 lettres")
     attendre(lambda: any("100% - T" in o.name for o in tous(scene.fenetre(MENU))),
              "le résultat dans le tableau")
-    scene.photographier("apres")
+    scene.photographier("retour")
     scene.cliquer(scene.objets(MENU)["Quitter"])
     scene.fini()
-    verifier(pareil(scene, fournis, "listes/" + AUTRE), "la liste est mise à jour")
-    verifier((scene.dossier / "listes" / AUTRE).read_bytes() != ancienne, "et n'est plus l'ancienne")
     verifier(len(scene.lire("listes\\" + LISTE)) == len(SOLUTIONS), "la liste changée reste")
     verifier(len(scene.lire(joueur + "\\hist.dat")) == 1, "l'historique reste")
+
+
+def apresmiseajour(scene, fournis, joueur):
+    """What the player has stays, what he left as it came is that of the newer version."""
+    ancienne = (scene.dossier / "listes" / AUTRE).read_bytes()
+    verifier(not pareil(scene, fournis, "listes/" + AUTRE), "la nouvelle version a une autre liste")
+    revenir(scene, joueur)
+    verifier(pareil(scene, fournis, "listes/" + AUTRE), "la liste est mise à jour")
+    verifier((scene.dossier / "listes" / AUTRE).read_bytes() != ancienne, "et n'est plus l'ancienne")
+
+
+def premierefois(scene, programme, fournis, joueur, suite):
+    if suite:
+        fournis, publier = installer(scene, programme, *suite)
+        publier("2.68")
+    premierdemarrage(scene, fournis)
+    jouer(scene, joueur)
+    if suite:
+        (fournis / "listes" / AUTRE).write_bytes(b"AB;BA\r\n")
+        publier("2.69")
+        apresmiseajour(scene, fournis, joueur)
 
 
 def main(programme, captures, joueur, *suite):
@@ -119,17 +136,10 @@ def main(programme, captures, joueur, *suite):
         fournis = pathlib.Path(programme).parent.parent / "share" / "games" / "orvane"
         if suite == ("--apres",):
             apresmiseajour(scene, fournis, joueur)
-            print("installé, après la mise à jour : bon")
-            return
-        if suite:
-            fournis, publier = installer(scene, programme, *suite)
-            publier("2.68")
-        premierdemarrage(scene, fournis)
-        jouer(scene, joueur)
-        if suite:
-            (fournis / "listes" / AUTRE).write_bytes(b"AB;BA\r\n")
-            publier("2.69")
-            apresmiseajour(scene, fournis, joueur)
+        elif suite == ("--revient",):
+            revenir(scene, joueur)
+        else:
+            premierefois(scene, programme, fournis, joueur, suite)
     print("installé : bon")
 
 
