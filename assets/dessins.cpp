@@ -175,6 +175,8 @@ void ajouterfinesses(std::vector<Tableau>& liste, const std::string& nom, const 
     }
 }
 
+constexpr std::array cotesicone{16, 24, 32, 48, 64, 128, 256};  // pixels
+
 // A tile on a round-cornered background.
 Dessin icone() {
     constexpr double cote = 64;
@@ -194,7 +196,7 @@ std::vector<Tableau> tableaux() {
             ajouterfinesses(liste, std::string(signe.nom), ".bmp", dessiner(signe),
                             static_cast<int>(signe.largeur), static_cast<int>(signe.hauteur));
     }
-    for (const int cote : {16, 24, 32, 48, 64, 128, 256}) {
+    for (const int cote : cotesicone) {
         liste.push_back({"orvane_" + std::to_string(cote) + ".png", icone(), cote, cote});
     }
     // As large as the login shows it on a screen of 1366 by 768: nothing to scale while it opens.
@@ -202,7 +204,18 @@ std::vector<Tableau> tableaux() {
     return liste;
 }
 
+std::vector<Tableau> icones() {
+    std::vector<Tableau> liste;
+    for (const int cote : cotesicone)
+        liste.push_back({std::to_string(cote) + ".png", icone(), cote, cote});
+    liste.push_back({"512.png", icone(), 512, 512});
+    liste.push_back({"orvane.svg", icone(), 0, 0});
+    return liste;
+}
+
 std::string fichier(const Tableau& tableau) {
+    if (tableau.nom.ends_with(".svg"))
+        return svg(tableau.dessin);
     const Image image = peindre(tableau.dessin, tableau.largeur, tableau.hauteur);
     return tableau.nom.ends_with(".png") ? png(image) : bmp(image);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Pictures in memory, and as bitmap and PNG files.
+// Pictures in memory, and as bitmap, PNG and SVG files.
 
 #include <cstdint>
 #include <string>
@@ -36,5 +36,8 @@ struct Gris {
 
 /// The bytes of a PNG file: 4 bits a pixel, in greys.
 [[nodiscard]] std::string png(const Gris& image);
+
+/// An SVG file of a drawing, its size that of the drawing in pixels.
+[[nodiscard]] std::string svg(const Dessin& dessin);
 
 }  // namespace assets

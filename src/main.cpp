@@ -2,6 +2,7 @@
 
 #include "application.h"
 #include "plateformeqt.h"
+#include "preparation.h"
 #include "theme.h"
 
 int main(int argc, char** argv) {
@@ -13,7 +14,11 @@ int main(int argc, char** argv) {
 
     ui::qt::PlateformeQt plateforme;
     application::Application programme(plateforme);
-    plateforme.fenetrier().executer([&] { programme.demarrer(); });
+    plateforme.fenetrier().executer([&] {
+        const auto dossier = QApplication::applicationDirPath().toStdU16String();
+        plateforme.installee(!installation::sinstaller(dossier).fournis.empty());
+        programme.demarrer();
+    });
     // A program that ends while it starts never enters the loop.
     return plateforme.fini() ? plateforme.statut() : QApplication::exec();
 }

@@ -6,22 +6,51 @@
 #include <vector>
 
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPalette>
 #include <QTranslator>
 
 #include "arguments.h"
+#include "faute.h"
 #include "fenetrecarnet.h"
+#include "preparation.h"
+#include "textesqt.h"
 
 namespace {
 
 enum Etat { bien = 0, enfaute = 1, mauvaisusage = 2 };
 
+/// Goes to the play folder, unless one was named; false once the player has read why not.
+bool aller(const carnet::Options& options) {
+    try {
+        if (options.dossier.empty())
+            installation::sinstaller(QApplication::applicationDirPath().toStdU16String());
+        return true;
+    } catch (const common::Faute& faute) {
+        std::cerr << faute.what() << '\n';
+        QMessageBox::critical(nullptr, QApplication::applicationDisplayName(),
+                              carnet::qt(faute.what()));
+        return false;
+    }
+}
+
+/// The icon of the trainer, of the play folder.
+QIcon icone(const carnet::Options& options) {
+    QIcon icone;
+    for (const int cote : {16, 32, 48, 128})
+        icone.addFile(carnet::qt((options.dossier / "images").string()) +
+                      QStringLiteral("/orvane_%1.png").arg(cote));
+    return icone;
+}
+
 int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     const QApplication application(nombre, arguments);
     QApplication::setApplicationName(QStringLiteral("orvane-carnet"));
     QApplication::setApplicationDisplayName(QStringLiteral("Orvane"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("orvane-carnet"));
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     QTranslator boites;
     if (boites.load(QStringLiteral("qtbase_fr"),
@@ -31,6 +60,9 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     QPalette palette;
     palette.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
     QApplication::setPalette(palette);
+    if (!aller(options))
+        return enfaute;
+    QApplication::setWindowIcon(icone(options));
     carnet::Seance seance(options);
     carnet::Fenetrecarnet fenetre(seance);
     fenetre.show();

@@ -5,17 +5,13 @@
 #include "provisoire.h"
 
 namespace common {
-namespace {
 
 namespace fs = std::filesystem;
 
-/// A file can be made there. Asking for its mode would not tell of a disk that is read-only.
 bool inscriptible(Appels& appels, const fs::path& dossier) {
     Provisoire essai(appels);
     return !essai.creer(dossier / ".orvane") && !essai.retirer();
 }
-
-}  // namespace
 
 std::string dossierprogramme(Appels& appels, const fs::path& executable, const fs::path& courant) {
     std::error_code erreur;

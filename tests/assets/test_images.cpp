@@ -99,6 +99,35 @@ TEST(Images, TheLoginPictureAndTheIconsAreThere) {
         EXPECT_EQ(parnom().at("orvane_" + std::to_string(cote) + ".png").hauteur, cote);
 }
 
+TEST(Icones, ComeInEveryUsualSizeAndOneThatScales) {
+    std::vector<std::string> noms;
+    for (const Tableau& tableau : icones()) {
+        noms.push_back(tableau.nom);
+        const auto octets = fichier(tableau);
+        if (tableau.nom.ends_with(".png")) {
+            EXPECT_EQ(std::to_string(gros(octets, 16)) + ".png", tableau.nom);
+        }
+    }
+    EXPECT_EQ(noms, (std::vector<std::string>{"16.png", "24.png", "32.png", "48.png", "64.png",
+                                              "128.png", "256.png", "512.png", "orvane.svg"}));
+}
+
+TEST(Svg, DrawsEachStrokeWithItsWidthColoursOpacityAndEdge) {
+    Dessin dessin{64, 32, {}};
+    dessin.traits.push_back(
+        {{{1, 2}, {3.5, 2}, {3.5, 4}}, true, .5, rvb(0x102030, .25), rvb(0x405060, .25), 0});
+    dessin.traits.push_back({{{8, 9}}, false, 2, rvb(0xFFFFFF), rvb(0xFFFFFF), 4});
+    EXPECT_EQ(svg(dessin), R"svg(<?xml version="1.0" encoding="UTF-8"?>
+<svg xmlns="http://www.w3.org/2000/svg" width="64" height="32" viewBox="0 0 64 32">
+<linearGradient id="c0" gradientUnits="userSpaceOnUse" x1="0" x2="0" y1="1.5" y2="4.5"><stop offset="0" stop-color="#102030"/><stop offset="1" stop-color="#405060"/></linearGradient>
+<path d="M1 2L3.5 2L3.5 4Z" fill="url(#c0)" fill-rule="evenodd" stroke="url(#c0)" stroke-width="1" stroke-linecap="round" stroke-linejoin="round" opacity="0.25"/>
+<linearGradient id="c1" gradientUnits="userSpaceOnUse" x1="0" x2="0" y1="7" y2="11"><stop offset="0" stop-color="#FFFFFF"/><stop offset="1" stop-color="#FFFFFF"/></linearGradient>
+<filter id="f1" x="-50%" y="-50%" width="200%" height="200%"><feGaussianBlur stdDeviation="1"/></filter>
+<path d="M8 9h0" fill="none" fill-rule="evenodd" stroke="url(#c1)" stroke-width="4" stroke-linecap="round" stroke-linejoin="round" filter="url(#f1)"/>
+</svg>
+)svg");
+}
+
 // What is left of a sign without its colour: light (its letters and rim) or dark (its background),
 // and where nothing is.
 std::vector<int> gris(const std::string& nom) {

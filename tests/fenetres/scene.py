@@ -53,10 +53,8 @@ class Scene:
 
     def _dresser(self):
         self.captures.mkdir(parents=True, exist_ok=True)
-        self.dossier = pathlib.Path(tempfile.mkdtemp(prefix="partie d'été "))
-        self.pile.callback(shutil.rmtree, self.dossier, ignore_errors=True)
-        shutil.copytree(self.jeu / "images", self.dossier / "images")
-        shutil.copy(self.jeu / "APP05.WAV", self.dossier)
+        self.depart = self._dossiertemporaire()
+        self._garnir()
         lecture, ecriture = os.pipe()
         self._lancer(["Xvfb", "-displayfd", str(ecriture), "-screen", "0", self.taille + "x24",
                       "-nolisten", "tcp", "-noreset"], pass_fds=(ecriture,))
@@ -70,6 +68,17 @@ class Scene:
                                         capture_output=True, text=True).stdout.count("0x"),
                  "le gestionnaire de fenêtres")
         return self
+
+    def _dossiertemporaire(self):
+        dossier = pathlib.Path(tempfile.mkdtemp(prefix="partie d'été "))
+        self.pile.callback(shutil.rmtree, dossier, ignore_errors=True)
+        return dossier
+
+    def _garnir(self):
+        """Makes the play folder, here the one in which the program is started."""
+        self.dossier = self.depart
+        shutil.copytree(self.jeu / "images", self.dossier / "images")
+        shutil.copy(self.jeu / "APP05.WAV", self.dossier)
 
     def __exit__(self, *erreur):
         if erreur[0] is not None and self.processus is not None:
@@ -103,9 +112,9 @@ class Scene:
                              QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LC_ALL="C.UTF-8")
         if self.echelle:
             environnement["QT_SCALE_FACTOR"] = self.echelle
-        journal = open(self.dossier / "journal", "w")
+        journal = open(self.depart / "journal", "w")
         self.pile.callback(journal.close)
-        self.processus = subprocess.Popen([self.programme, *arguments], cwd=self.dossier,
+        self.processus = subprocess.Popen([self.programme, *arguments], cwd=self.depart,
                                           env=environnement, stdout=journal, stderr=journal)
         self.pile.callback(self._arreter, self.processus)
 
@@ -120,7 +129,7 @@ class Scene:
     def journal(self):
         """What the program wrote on its error output, but for the sound server that is not here and
         the cell of a table that went away while the scene was reading it."""
-        lignes = (self.dossier / "journal").read_text(errors="replace").splitlines()
+        lignes = (self.depart / "journal").read_text(errors="replace").splitlines()
         return "\n".join(ligne for ligne in lignes
                          if not ligne.startswith(("PulseAudioService",
                                                   "QAccessibleTable::child: Invalid index")))

@@ -46,6 +46,8 @@ bool PlateformeQt::telecharger(std::string_view adresse, std::string_view chemin
 }
 
 std::string PlateformeQt::dossierprogramme() {
+    if (installee_)
+        return {};
     std::error_code oubli;  // without a working folder none is the same
     return common::dossierprogramme(
         common::appelsdusysteme(),

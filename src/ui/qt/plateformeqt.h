@@ -26,6 +26,10 @@ class PlateformeQt : public Plateforme {
     [[nodiscard]] std::string dossierprogramme() override;
     void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
 
+    /// An installed program leaves its own folder alone: it is in its player's that it finds
+    /// itself.
+    void installee(bool installee) { installee_ = installee; }
+
     [[nodiscard]] Fenetrier& fenetrier() { return fenetrier_; }
 
   protected:
@@ -41,6 +45,7 @@ class PlateformeQt : public Plateforme {
     common::HasardReel hasard_;
     Fenetrier fenetrier_;
     Telechargement telechargement_;
+    bool installee_ = false;
 };
 
 }  // namespace ui::qt

@@ -98,6 +98,12 @@ TEST_F(Machine, l_horloge_est_celle_du_systeme) {
     EXPECT_GE(apres.toSecsSinceEpoch(), lu.toSecsSinceEpoch());
 }
 
+TEST_F(Machine, un_programme_installe_se_trouve_chez_son_joueur) {
+    EXPECT_NE(plateforme.dossierprogramme(), "");
+    plateforme.installee(true);
+    EXPECT_EQ(plateforme.dossierprogramme(), "");
+}
+
 TEST_F(Machine, un_message_porte_le_nom_du_programme_et_se_ferme_par_ok) {
     repondre("OK");
     plateforme.message("AEINRST;ENTRAIS a été effacé", ui::Icone::Information);

@@ -11,7 +11,8 @@ namespace {
 /// Where modules may stand, in order.
 QStringList dossiers() {
     const QDir programme(QCoreApplication::applicationDirPath());
-    return QStringList{programme.path(), programme.filePath(QStringLiteral("../lib/orvane"))} +
+    return QStringList{programme.path(),
+                       programme.filePath(QStringLiteral("../lib/games/orvane"))} +
            QCoreApplication::libraryPaths();
 }
 

@@ -11,7 +11,7 @@ inline constexpr const char* moduleson = "orvane-son";
 inline constexpr const char* modulereseau = "orvane-reseau";
 
 /// The root object of a module, to be cast to the interface that it implements. The first call
-/// loads the module: from the program's own folder, from `../lib/orvane` beside it, or from a
+/// loads the module: from the program's own folder, from `../lib/games/orvane` beside it, or from a
 /// library path of Qt. Null, with a line on the error output, if it is missing or fails to load.
 [[nodiscard]] QObject* module(const char* nom);
 

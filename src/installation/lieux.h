@@ -1,0 +1,39 @@
+#pragma once
+
+// Where an installed program has its files, and where those of its player are.
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "appels.h"
+
+namespace installation {
+
+/// What the system tells of a program that starts.
+struct Environs {
+    std::filesystem::path programme;  ///< the folder of the executable
+    std::filesystem::path donnees;    ///< the player's folder of this program; empty if none
+};
+
+/// The environs of a program whose executable stands in `programme`. One source a system.
+[[nodiscard]] Environs environs(const std::filesystem::path& programme);
+
+/// `$XDG_DATA_HOME/orvane`, or `.local/share/orvane` in the home; null is a variable that is not
+/// set. A path that does not begin at the root says nothing.
+[[nodiscard]] std::filesystem::path donneesxdg(const char* donnees, const char* maison);
+
+/// The play folder of a program, and where that is filled from.
+struct Lieu {
+    std::filesystem::path dossier;  ///< empty: the folder in which the program was started
+    std::filesystem::path fournis;  ///< what came with an installed program; empty for another
+    bool operator==(const Lieu&) const = default;
+};
+
+/// The folder of the executable when that holds `listes` and can be written (a stick, an archive
+/// that was unpacked). Otherwise, for a program that has an inventory beside it or in
+/// `../share/games/orvane`, the player's folder. Otherwise the one in which it was started. Throws
+/// `common::Faute` if the player's folder is wanted and unknown.
+[[nodiscard]] Lieu choisir(common::Appels& appels, const Environs& environs);
+
+}  // namespace installation
