@@ -8,7 +8,6 @@
 #include "faute.h"
 #include "fichier.h"
 #include "listes.h"
-#include "octetsdefichier.h"
 #include "somme.h"
 
 namespace installation {
