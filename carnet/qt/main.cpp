@@ -12,7 +12,9 @@
 #include <QTranslator>
 
 #include "arguments.h"
+#include "disquereel.h"
 #include "fenetrecarnet.h"
+#include "reponses.h"
 
 namespace {
 
@@ -38,6 +40,28 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     return QApplication::exec();
 }
 
+int repondre(const carnet::Options& options) {
+    common::DisqueReel disque(options.dossier);
+    std::string avis;
+    const auto reponse =
+        options.action == carnet::Action::progres
+            ? carnet::progres(disque, options.util)
+            : carnet::echeances(disque, options.util, options.jour.value_or(carnet::aujourdhui()),
+                                options.plafond, avis);
+    if (!avis.empty())
+        std::cerr << avis << '\n';
+    if (const auto* refus = std::get_if<carnet::Refus>(&reponse)) {
+        std::cerr << refus->raison << '\n';
+        return enfaute;
+    }
+    std::cout << std::get<std::string>(reponse) << std::flush;
+    if (!std::cout) {
+        std::cerr << "La réponse n'a pas pu s'écrire.\n";
+        return enfaute;
+    }
+    return bien;
+}
+
 }  // namespace
 
 int main(int nombre, char** arguments) {
@@ -56,6 +80,8 @@ int main(int nombre, char** arguments) {
             std::cerr << options.dossier.string() << " : ce n'est pas un dossier.\n";
             return enfaute;
         }
+        if (options.action != carnet::Action::fenetre)
+            return repondre(options);
         return ouvrir(options, nombre, arguments);
     } catch (const carnet::MauvaisUsage& usage) {
         std::cerr << usage.what() << "\nVoir orvane-carnet --help.\n";

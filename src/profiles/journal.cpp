@@ -39,17 +39,7 @@ int nombre(std::string_view texte, std::size_t place, std::size_t chiffres) {
 std::optional<std::int32_t> lirejour(std::string_view texte) {
     if (texte[2] != '/' || texte[5] != '/')
         return std::nullopt;
-    const int jour = nombre(texte, 0, 2);
-    const int mois = nombre(texte, 3, 2);
-    const int annee = nombre(texte, 6, 4);
-    if (jour < 1 || mois < 1 || annee < 1)
-        return std::nullopt;
-    const std::chrono::year_month_day date(std::chrono::year(annee),
-                                           std::chrono::month(static_cast<unsigned>(mois)),
-                                           std::chrono::day(static_cast<unsigned>(jour)));
-    if (!date.ok())
-        return std::nullopt;
-    return static_cast<std::int32_t>(std::chrono::sys_days(date).time_since_epoch().count());
+    return jourdu(nombre(texte, 6, 4), nombre(texte, 3, 2), nombre(texte, 0, 2));
 }
 
 /// The second of the day of HH:MM:SS.
@@ -67,10 +57,20 @@ std::optional<std::int32_t> lireseconde(std::string_view texte) {
     return (heure * soixante + minute) * soixante + seconde;
 }
 
-bool liremoment(std::string_view texte, Lignejournal& lue) {
+/// A date and time, and its text: the lines of a correction all have the same.
+struct Moment {
+    std::string texte;
+    std::int32_t jour = 0;
+    std::int32_t seconde = 0;
+};
+
+/// Reads a date and time, unless it is that of the line before.
+bool liremoment(std::string_view texte, Moment& moment) {
     constexpr std::size_t largeurdujour = 10;  // dd/mm/yyyy
     constexpr std::size_t placeheure = largeurdujour + entredateetheure.size();
     constexpr std::size_t largeurheure = 8;  // HH:MM:SS
+    if (!texte.empty() && texte == moment.texte)
+        return true;
     if (texte.size() != placeheure + largeurheure ||
         texte.substr(largeurdujour, entredateetheure.size()) != entredateetheure)
         return false;
@@ -78,9 +78,38 @@ bool liremoment(std::string_view texte, Lignejournal& lue) {
     const auto seconde = lireseconde(texte.substr(placeheure));
     if (!jour || !seconde)
         return false;
-    lue.jour = *jour;
-    lue.seconde = *seconde;
+    moment = {std::string(texte), *jour, *seconde};
     return true;
+}
+
+std::optional<Lignejournal> lire(std::string_view ligne, Moment& moment) {
+    std::array<std::string_view, nombredechamps> champs;
+    std::size_t nombre = 0;
+    for (std::size_t debut = 0; debut <= ligne.size(); ++nombre) {
+        if (nombre == nombredechamps)
+            return std::nullopt;
+        const auto fin = std::min(ligne.find(separateur, debut), ligne.size());
+        champs[nombre] = ligne.substr(debut, fin - debut);
+        debut = fin + 1;
+    }
+    if (nombre != nombredechamps)
+        return std::nullopt;
+    const auto& [date, liste, mode, tirage, solutions, trouve, saisi] = champs;
+    const bool sanssolution = solutions.find_first_not_of(',') == std::string_view::npos;
+    if (tirage.empty() || sanssolution || (trouve != "0" && trouve != "1") ||
+        !liremoment(date, moment))
+        return std::nullopt;
+    Lignejournal lue;
+    lue.jour = moment.jour;
+    lue.seconde = moment.seconde;
+    lue.liste = liste;
+    lue.mode = mode;
+    lue.tirage = tirage;
+    lue.solutions = solutions;
+    lue.identifiant = {tirage.data(), tirage.size() + 1 + solutions.size()};
+    lue.trouve = trouve == "1";
+    lue.saisi = saisi;
+    return lue;
 }
 
 /// Gives up the oldest lines that wait, past the limit.
@@ -130,7 +159,7 @@ class Decoupage {
     void donner(std::string_view ligne) {
         if (ligne.ends_with('\r'))
             ligne.remove_suffix(1);
-        const auto lue = trop_ ? std::nullopt : lirelignejournal(ligne);
+        const auto lue = trop_ ? std::nullopt : lire(ligne, moment_);
         trop_ = false;
         if (lue)
             voir_(*lue);
@@ -139,6 +168,7 @@ class Decoupage {
 
     const std::function<void(const Lignejournal&)>& voir_;
     Lecturejournal& lecture_;
+    Moment moment_;  ///< of the line before
     std::vector<char> tampon_;
     std::size_t fin_ = 0;
     bool trop_ = false;  ///< the line under way is too long, and its beginning is gone
@@ -185,32 +215,20 @@ void journaliser(common::Disque& disque, std::string_view util, const Serie& ser
         attente.clear();
 }
 
+std::optional<std::int32_t> jourdu(int annee, int mois, int jour) {
+    if (jour < 1 || mois < 1 || annee < 1)
+        return std::nullopt;
+    const std::chrono::year_month_day date(std::chrono::year(annee),
+                                           std::chrono::month(static_cast<unsigned>(mois)),
+                                           std::chrono::day(static_cast<unsigned>(jour)));
+    if (!date.ok())
+        return std::nullopt;
+    return static_cast<std::int32_t>(std::chrono::sys_days(date).time_since_epoch().count());
+}
+
 std::optional<Lignejournal> lirelignejournal(std::string_view ligne) {
-    std::array<std::string_view, nombredechamps> champs;
-    std::size_t nombre = 0;
-    for (std::size_t debut = 0; debut <= ligne.size(); ++nombre) {
-        if (nombre == nombredechamps)
-            return std::nullopt;
-        const auto fin = std::min(ligne.find(separateur, debut), ligne.size());
-        champs.at(nombre) = ligne.substr(debut, fin - debut);
-        debut = fin + 1;
-    }
-    if (nombre != nombredechamps)
-        return std::nullopt;
-    Lignejournal lue;
-    const auto& [moment, liste, mode, tirage, solutions, trouve, saisi] = champs;
-    const bool sanssolution = solutions.find_first_not_of(',') == std::string_view::npos;
-    if (tirage.empty() || sanssolution || (trouve != "0" && trouve != "1") ||
-        !liremoment(moment, lue))
-        return std::nullopt;
-    lue.liste = liste;
-    lue.mode = mode;
-    lue.tirage = tirage;
-    lue.solutions = solutions;
-    lue.identifiant = {tirage.data(), tirage.size() + 1 + solutions.size()};
-    lue.trouve = trouve == "1";
-    lue.saisi = saisi;
-    return lue;
+    Moment moment;
+    return lire(ligne, moment);
 }
 
 std::error_code parcourirjournal(common::Disque& disque, std::string_view chemin,

@@ -64,6 +64,9 @@ struct Lignejournal {
     std::string_view saisi;  ///< what the boxes held, joined by commas
 };
 
+/// Days from 1 January 1970 to a date; nothing if the calendar lacks it, or for a year under 1.
+[[nodiscard]] std::optional<std::int32_t> jourdu(int annee, int mois, int jour);
+
 /// Reads a line without its line end. Nothing for one that is none: other than seven fields, no
 /// such date or time, a found field other than 0 or 1, no rack, no solution.
 [[nodiscard]] std::optional<Lignejournal> lirelignejournal(std::string_view ligne);

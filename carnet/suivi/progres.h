@@ -1,0 +1,31 @@
+#pragma once
+
+// The results of a player's lists, from `hist.dat`.
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "fichier.h"
+
+namespace carnet {
+
+/// What a player has done with a list, or with a part of one.
+struct Bilan {
+    std::size_t passages = 0;
+    std::string dernier;     ///< percent of the last run, as its record has it
+    std::string meilleur;    ///< the best percent
+    std::string derniereon;  ///< yyyy-mm-dd of the last run
+};
+
+/// By the list's name, in UTF-8.
+using Bilans = std::map<std::string, Bilan, std::less<>>;
+
+/// Takes a record, as bytes of Windows-1252; false for one without date, percent or name.
+bool prendrerecord(std::string_view record, Bilans& bilans);
+
+/// All records of a user; none if the file is missing. Throws `common::Faute` if it cannot be read.
+[[nodiscard]] Bilans lirebilans(common::Disque& disque, std::string_view util);
+
+}  // namespace carnet
