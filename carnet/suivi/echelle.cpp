@@ -25,7 +25,7 @@ void Echelle::prendre(const profiles::Lignejournal& ligne) {
     if (ligne.trouve && dedans == nullptr)
         return;
     auto& place = ligne.trouve ? *dedans : racks_.ranger(ligne.identifiant);
-    place.liste = ranger(ligne.liste);
+    place.liste = listes_.ranger(ligne.liste);
     if (!ligne.trouve) {
         place.palier = 0;
         place.jour = ligne.jour + paliers.front();
@@ -36,23 +36,11 @@ void Echelle::prendre(const profiles::Lignejournal& ligne) {
     }
 }
 
-/// The place of a list's name. A series is of one list.
-std::uint32_t Echelle::ranger(std::string_view liste) {
-    if (derniere_ < listes_.size() && listes_[derniere_] == liste)
-        return derniere_;
-    auto& rang = rangs_.ranger(liste);
-    if (rang == 0) {
-        listes_.emplace_back(liste);
-        rang = static_cast<std::uint32_t>(listes_.size());
-    }
-    return derniere_ = rang - 1;
-}
-
 std::vector<Echeance> Echelle::dues(Jour jour) const {
     std::vector<Echeance> dues;
     racks_.chaque([&](std::string_view identifiant, const Place& place) {
         if (place.jour <= jour)
-            dues.push_back({place.jour, place.palier, identifiant, listes_[place.liste]});
+            dues.push_back({place.jour, place.palier, identifiant, listes_.nom(place.liste)});
     });
     std::sort(dues.begin(), dues.end(), [](const Echeance& a, const Echeance& b) {
         return std::tie(a.jour, a.palier, a.identifiant) <

@@ -12,6 +12,7 @@
 
 #include "calendrier.h"
 #include "journal.h"
+#include "nomsdelistes.h"
 #include "parmots.h"
 
 namespace carnet {
@@ -65,12 +66,9 @@ class Echelle {
         std::uint16_t palier = 0;
         std::uint32_t liste = 0;  ///< in `listes_`
     };
-    std::uint32_t ranger(std::string_view liste);
 
     Parmots<Place> racks_;
-    std::vector<std::string> listes_;
-    Parmots<std::uint32_t> rangs_;  ///< in `listes_`, from 1
-    std::uint32_t derniere_ = 0;    ///< list of the line before
+    Nomsdelistes listes_;
 };
 
 }  // namespace carnet

@@ -55,6 +55,11 @@ bool prendrerecord(std::string_view record, Bilans& bilans) {
     if (bilan.passages == 0 || common::valeur(bilan.dernier) > common::valeur(bilan.meilleur))
         bilan.meilleur = bilan.dernier;
     ++bilan.passages;
+    if (const auto jour = lirejour(bilan.derniereon)) {
+        const bool mode = nom.data() != record.data() + pourcent + 1 + separateur.size();
+        bilan.points.push_back(
+            {*jour, common::valeur(bilan.dernier), mode ? lu->mode.front() : ' '});
+    }
     return true;
 }
 

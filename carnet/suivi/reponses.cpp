@@ -20,11 +20,9 @@ std::optional<int> nombre(std::string_view chiffres) {
     return valeur;
 }
 
-/// A player has a folder: neither no name, nor a way out of the play folder.
+/// A player has a folder.
 std::optional<Refus> sansdossier(common::Disque& disque, std::string_view util) {
-    const bool chemin = util.empty() || util == "." || util == ".." ||
-                        util.find_first_of("/\\") != std::string_view::npos;
-    if (!chemin && disque.estdossier(util))
+    if (nomdejoueur(util) && disque.estdossier(util))
         return std::nullopt;
     return Refus{"Pas de joueur « " + std::string(util) + " » dans ce dossier de jeu."};
 }
@@ -34,6 +32,11 @@ std::string accord(std::size_t lignes) {
 }
 
 }  // namespace
+
+bool nomdejoueur(std::string_view util) {
+    return !util.empty() && util != "." && util != ".." &&
+           util.find_first_of("/\\") == std::string_view::npos;
+}
 
 std::optional<int> lireplafond(std::string_view texte) {
     constexpr std::size_t chiffres = 3;

@@ -19,6 +19,9 @@ struct Refus {
 
 using Reponse = std::variant<std::string, Refus>;
 
+/// A name that may be that of a player's folder: neither empty nor a way out of the play folder.
+[[nodiscard]] bool nomdejoueur(std::string_view util);
+
 /// A day's cap; nothing for a text that is no number from `plafondminimum` to `plafondmaximum`.
 [[nodiscard]] std::optional<int> lireplafond(std::string_view texte);
 
