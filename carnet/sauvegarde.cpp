@@ -71,8 +71,10 @@ std::error_code Sauvegarde::lister(const fs::path& dossier, Contenu& contenu) {
         if (texte == "." || texte == ".." || texte.ends_with(provisoire))
             continue;
         common::Etat etat;
-        const bool fichier = !appels_->etat(dossier / texte, etat) &&
-                             etat.genre == common::Genre::Fichier &&
+        const auto erreur = appels_->etat(dossier / texte, etat);
+        if (erreur && erreur != std::errc::no_such_file_or_directory)
+            return erreur;  // a file may not be left out in silence
+        const bool fichier = !erreur && etat.genre == common::Genre::Fichier &&
                              texte.find('\\') == std::string::npos;
         (fichier ? contenu.fichiers : contenu.laisses).push_back(texte);
     }

@@ -37,6 +37,7 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     carnet::Fenetrecarnet fenetre(seance);
     fenetre.show();
     seance.relire();
+    seance.relirejoueurs();
     return QApplication::exec();
 }
 
