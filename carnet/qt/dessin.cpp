@@ -14,7 +14,7 @@ int lignes(const Sujet& sujet) {
     constexpr int ordinaires = 8;
     constexpr int annee = 28;
     if (const auto* barres = std::get_if<Barres>(&sujet))
-        return barres->couchees ? static_cast<int>(barres->barres.size()) * 3 / 2 + 1 : ordinaires;
+        return barres->couchees ? static_cast<int>(barres->barres.size()) * 3 / 2 + 3 : ordinaires;
     return std::holds_alternative<Annee>(sujet) ? annee : 2 * ordinaires;
 }
 

@@ -25,6 +25,7 @@ struct Barre {
 struct Barres {
     std::vector<Barre> barres;
     bool couchees = false;
+    QString legende{};
 };
 /// Twelve months from one on.
 struct Annee {

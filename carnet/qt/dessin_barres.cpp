@@ -76,8 +76,11 @@ void peindrecouchees(QPainter& peintre, const QRectF& place, const QPalette& pal
     noms = std::min(noms, place.width() / 3);
     const double debut = place.left() + noms + blanc;
     const double longue = std::max(1.0, place.right() - debut - dits - 2 * blanc);
-    const double haute = std::min(place.height() / static_cast<double>(barres.barres.size()),
-                                  metrique.lineSpacing() * 2);
+    const double libre =
+        place.height() - (barres.legende.isEmpty() ? 0 : 2 * metrique.lineSpacing());
+    const double haute =
+        std::min(libre / static_cast<double>(barres.barres.size()), metrique.lineSpacing() * 2);
+    peintre.drawText(place, Qt::AlignLeft | Qt::AlignBottom, barres.legende);
     for (std::size_t i = 0; i < barres.barres.size(); ++i) {
         const auto& barre = barres.barres[i];
         const QRectF rangee(place.left(), place.top() + haute * static_cast<double>(i),

@@ -39,7 +39,7 @@ Pagedonnees::Pagedonnees(Seance& seance, QWidget* parent)
     : QWidget(parent),
       seance_(seance),
       joueur_(explication({}, this)),
-      copier_(new QPushButton(QStringLiteral("&Copier mes données…"), this)),
+      copier_(new QPushButton(QStringLiteral("Co&pier mes données…"), this)),
       remettre_(new QPushButton(QStringLiteral("&Remettre une copie…"), this)),
       message_(explication({}, this)) {
     joueur_->setObjectName(QStringLiteral("aquisont"));

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -83,6 +84,7 @@ Pagerevoir::Pagerevoir(Seance& seance, QWidget* parent)
     compte_->setFont(fonte);
     plafond_->setRange(plafondminimum, plafondmaximum);
     plafond_->setAccessibleName(QStringLiteral("Tirages par jour, au plus"));
+    plafond_->findChild<QLineEdit*>()->setAccessibleName(plafond_->accessibleName());
     plafond_->setObjectName(QStringLiteral("plafond"));
     preparer_->setObjectName(QStringLiteral("preparer"));
     auto* titre = new QLabel(QStringLiteral("&Au plus, par jour :"), this);

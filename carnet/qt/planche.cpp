@@ -20,7 +20,8 @@ Planche::Planche(const QString& titre, QWidget* parent)
     : QWidget(parent),
       dessin_(new Dessin(this)),
       modele_(new Modeletable(this)),
-      table_(new QTableView(this)) {
+      table_(new QTableView(this)),
+      partage_(new QSplitter(this)) {
     auto* vue = new QScrollArea(this);
     vue->setWidget(dessin_);
     vue->setWidgetResizable(true);
@@ -34,16 +35,15 @@ Planche::Planche(const QString& titre, QWidget* parent)
     table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table_->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     table_->horizontalHeader()->setStretchLastSection(true);
-    auto* partage = new QSplitter(this);
-    partage->addWidget(vue);
-    partage->addWidget(table_);
-    partage->setStretchFactor(0, image);
-    partage->setStretchFactor(1, texte);
-    partage->setSizes({image * large, texte * large});
-    partage->setChildrenCollapsible(false);
+    partage_->addWidget(vue);
+    partage_->addWidget(table_);
+    partage_->setStretchFactor(0, image);
+    partage_->setStretchFactor(1, texte);
+    partage_->setSizes({image * large, texte * large});
+    partage_->setChildrenCollapsible(false);
     auto* mise = new QHBoxLayout(this);
     mise->setContentsMargins(0, 0, 0, 0);
-    mise->addWidget(partage);
+    mise->addWidget(partage_);
     nommer(titre);
 }
 
@@ -55,9 +55,16 @@ void Planche::nommer(const QString& titre) {
 
 void Planche::montrer(const QString& titre, Sujet sujet, Tableau tableau) {
     nommer(titre);
+    const auto* barres = std::get_if<Barres>(&sujet);
+    const bool couchees = barres != nullptr && barres->couchees;
+    if (couchees != couchees_)  // their tables have more columns
+        partage_->setSizes({couchees ? large : image * large, couchees ? large : texte * large});
+    couchees_ = couchees;
     dessin_->montrer(std::move(sujet));
     modele_->montrer(std::move(tableau));
+    table_->horizontalHeader()->setStretchLastSection(false);
     table_->resizeColumnsToContents();
+    table_->horizontalHeader()->setStretchLastSection(true);
     table_->scrollToTop();
 }
 

@@ -7,6 +7,7 @@
 #include "dessin.h"
 #include "modeletable.h"
 
+class QSplitter;
 class QTableView;
 
 namespace carnet {
@@ -28,6 +29,8 @@ class Planche : public QWidget {
     Dessin* dessin_;
     Modeletable* modele_;
     QTableView* table_;
+    QSplitter* partage_;
+    bool couchees_ = false;
 };
 
 }  // namespace carnet

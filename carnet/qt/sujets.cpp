@@ -37,6 +37,7 @@ Barres barresdespaliers(std::span<const std::size_t> nombres) {
 Barres barresdeslistes(const Bilans& bilans) {
     Barres barres;
     barres.couchees = true;
+    barres.legende = QStringLiteral("La barre : le dernier résultat. Le trait : le meilleur.");
     for (const auto& [nom, bilan] : bilans) {
         const auto dernier = common::valeur(bilan.dernier);
         barres.barres.push_back(
@@ -48,6 +49,7 @@ Barres barresdeslistes(const Bilans& bilans) {
 Barres barresdesdurs(std::span<const Tiragedur> durs) {
     Barres barres;
     barres.couchees = true;
+    barres.legende = QStringLiteral("Le nombre de fois où il a été manqué.");
     for (const auto& dur : durs)
         barres.barres.push_back(
             {qt(common::depuis1252(dur.identifiant.substr(0, dur.identifiant.find(';')))),

@@ -153,10 +153,8 @@ TEST_F(Donnees, copiees_et_arretees_a_tout_moment_sont_toutes_la) {
             EXPECT_EQ(fichiers(jeu() / "Zoé"), ancien) << ou;
             // A copy that bears the player's name is whole.
             const auto seconde = ailleurs() / "Orvane 2019-04-14 (2)" / "Zoé";
-            for (const auto& faite : {copie(), seconde}) {
-                if (fs::exists(faite))
-                    EXPECT_EQ(fichiers(faite), ancien) << ou;
-            }
+            for (const auto& faite : {copie(), seconde})
+                EXPECT_TRUE(!fs::exists(faite) || fichiers(faite) == ancien) << ou;
             EXPECT_TRUE(etat != 0 || fs::exists(copie()) || fs::exists(seconde)) << ou;
         });
 }
@@ -268,7 +266,10 @@ TEST_F(Retour, arrete_a_tout_moment_ne_perd_ni_l_ancien_ni_le_neuf) {
             // The next start ends what can be ended.
             static_cast<void>(Sauvegarde(jeu()).achever());
             const auto enjeu = fichiers(jeu() / "Zoé");
-            const auto avant = fichiers(jeu() / "Zoé avant le 2019-04-14");
+            // A name that the disk refuses to tell of is passed over for the next one.
+            auto avant = fichiers(jeu() / "Zoé avant le 2019-04-14");
+            if (avant.empty())
+                avant = fichiers(jeu() / "Zoé avant le 2019-04-14 (2)");
             EXPECT_TRUE(enjeu == ancien || enjeu == neuf) << ou;
             EXPECT_TRUE(enjeu == ancien || avant == ancien) << ou;
             if (etat == 0) {
