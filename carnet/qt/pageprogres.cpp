@@ -14,9 +14,9 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableView>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "boites.h"
@@ -136,12 +136,13 @@ QWidget* Pageprogres::boutons() {
     auto* mise = new QHBoxLayout(bas);
     mise->setContentsMargins(0, 0, 0, 0);
     for (auto* une : actions()) {
-        auto* bouton = new QToolButton(bas);
-        bouton->setDefaultAction(une);
-        bouton->setFocusPolicy(Qt::StrongFocus);
+        auto* bouton = new QPushButton(une->text(), bas);  // a tool button has no mnemonic
         mise->addWidget(bouton);
-        connect(une, &QAction::visibleChanged, bouton,
-                [une, bouton] { bouton->setVisible(une->isVisible()); });
+        connect(bouton, &QPushButton::clicked, une, &QAction::trigger);
+        connect(une, &QAction::changed, bouton, [une, bouton] {
+            bouton->setEnabled(une->isEnabled());
+            bouton->setVisible(une->isVisible());
+        });
     }
     mise->addStretch();
     return bas;

@@ -10,7 +10,6 @@
 
 class QComboBox;
 class QLabel;
-class QToolButton;
 
 namespace carnet {
 

@@ -88,7 +88,8 @@ class Annee : public testing::Test {
                  "clic Form3.Command14(7)\nattendre " + forme + ".visible oui\n");
         for (int i = 0; !seance.plateforme.fini(); ++i) {
             const auto tirage =
-                ordonner("lire " + forme + ".tirage(" + std::to_string(i) + ").texte\n");
+                ordonner("lire " + forme + ".tirage(" + std::to_string(i) + ").texte\n")
+                    .substr(2);  // behind "= "
             const auto rack = std::find_if(racks.begin(), racks.end(), [&](const auto& un) {
                 return !tirage.empty() && un.starts_with(tirage + ";");
             });
@@ -96,7 +97,7 @@ class Annee : public testing::Test {
                 break;
             repondre(*rack, ordonner);
         }
-        ordonner("touche F12\nattendresons APP05.WAV\nattendre " + forme + ".motsleft.texte 0\n");
+        ordonner("touche F12\nattendre " + forme + ".motsleft.texte 0\nattendresons APP05.WAV\n");
         EXPECT_THAT(disque("Lea/hist.dat"), EndsWith(" - 100% - T - " + fichier + "\r\n"));
     }
     template <class Ordonner>

@@ -29,7 +29,17 @@ def attendredit(scene, debut, titre=CARNET):
 
 
 def attendrefocus(scene, nom, titre=CARNET):
-    attendre(lambda: scene.etat(visible(scene, nom, titre), "FOCUSED"), f"le focus sur {nom}")
+    attendre(lambda: any(objet.name == nom and scene.etat(objet, "FOCUSED")
+                         for objet in tous(scene.fenetre(titre))), f"le focus sur {nom}")
+
+
+def tableau(scene, nom):
+    """The table of that name, on show; a choice may bear the same name."""
+    for objet in tous(scene.fenetre(CARNET)):
+        if objet.name == nom and objet.getRoleName() in ("table", "tree table") \
+                and scene.etat(objet, "SHOWING"):
+            return objet
+    return None
 
 
 def etiquettes(scene):
@@ -190,21 +200,21 @@ def enregistrersous(scene, titre, raccourci, fichier):
 def progresser(scene):
     """Each view by the keyboard; a picture and a table are saved, the hardest become a list."""
     scene.touche("ctrl+4")
-    attendrefocus(scene, "Voir")
-    table = attendre(lambda: visible(scene, "Tirages corrigés, par jour", CARNET), "le calendrier")
+    attendrefocus(scene, "Le calendrier")  # a choice is named by what it shows
+    table = attendre(lambda: tableau(scene, "Tirages corrigés, par jour"), "le calendrier")
     verifier(table.queryTable().nRows == 1, "le jour joué")
     scene.photographier("calendrier")
     enregistrersous(scene, "Enregistrer l'image", "ctrl+s", "progres.png")
     verifier((scene.dossier / "progres.png").read_bytes().startswith(b"\x89PNG"), "une image")
     for vue in ("Les trente jours qui viennent", "Les paliers", "Toutes les listes"):
         scene.touche("Down")
-        attendre(lambda vue=vue: visible(scene, vue, CARNET), vue)
+        attendre(lambda vue=vue: tableau(scene, vue), vue)
     enregistrersous(scene, "Enregistrer le tableau", "ctrl+shift+s", "progres.csv")
     verifier("mienne.txt;1;100 %;100 %" in (scene.dossier / "progres.csv").read_text("utf-8-sig"),
              "le tableau des listes")
-    scene.cliquer(visible(scene, "Voir", CARNET))
-    scene.touche("End", "Return")
-    attendre(lambda: visible(scene, "Les tirages les plus durs", CARNET), "les plus durs")
+    attendrefocus(scene, "Toutes les listes")
+    scene.touche("Down", "Down")
+    attendre(lambda: tableau(scene, "Les tirages les plus durs"), "les plus durs")
     scene.touche("alt+f")
     attendredit(scene, "1 tirage mis en liste. 1 laissé de côté")
     verifier(scene.lire("listes\\difficiles.txt") == ["KOW;WOK"], "la liste des plus durs")
