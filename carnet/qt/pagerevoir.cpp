@@ -83,6 +83,7 @@ Pagerevoir::Pagerevoir(Seance& seance, QWidget* parent)
     fonte.setBold(true);
     compte_->setFont(fonte);
     plafond_->setRange(plafondminimum, plafondmaximum);
+    plafond_->setValue(plafondordinaire);
     plafond_->setAccessibleName(QStringLiteral("Tirages par jour, au plus"));
     plafond_->findChild<QLineEdit*>()->setAccessibleName(plafond_->accessibleName());
     plafond_->setObjectName(QStringLiteral("plafond"));
@@ -99,13 +100,8 @@ Pagerevoir::Pagerevoir(Seance& seance, QWidget* parent)
     mise->addWidget(detail_);
     mise->addLayout(demande);
     mise->addWidget(message_);
-    mise->addWidget(new QLabel(QStringLiteral("Les trente jours qui viennent"), this));
-    mise->addWidget(jours_, 1);
-    mise->addWidget(
-        new QLabel(QStringLiteral("Les paliers : un tirage trouvé monte d'un, manqué il revient au "
-                                  "premier"),
-                   this));
-    mise->addWidget(paliers_, 1);
+    mise->addWidget(planches(), 1);
+    mise->addStretch();
     setFocusProxy(preparer_);
     connect(plafond_, &QSpinBox::valueChanged, this, &Pagerevoir::changerplafond);
     connect(preparer_, &QPushButton::clicked, this, &Pagerevoir::preparer);
@@ -118,6 +114,20 @@ Pagerevoir::Pagerevoir(Seance& seance, QWidget* parent)
     addAction(action);
     dire({});
     montrer();
+}
+
+QWidget* Pagerevoir::planches() {
+    planches_ = new QWidget(this);
+    auto* mise = new QVBoxLayout(planches_);
+    mise->setContentsMargins(0, 0, 0, 0);
+    mise->addWidget(new QLabel(QStringLiteral("Les trente jours qui viennent"), planches_));
+    mise->addWidget(jours_, 1);
+    mise->addWidget(
+        new QLabel(QStringLiteral("Les paliers : un tirage trouvé monte d'un, manqué il revient au "
+                                  "premier"),
+                   planches_));
+    mise->addWidget(paliers_, 1);
+    return planches_;
 }
 
 void Pagerevoir::showEvent(QShowEvent* evenement) {
@@ -167,12 +177,13 @@ void Pagerevoir::compter() {
 
 void Pagerevoir::montrerplanches() {
     const auto& suivi = seance_.suivi();
-    const auto nombres = suivi ? suivi->echelle.prevoir(suivi->jour, joursprevus)
-                               : std::vector<std::size_t>(joursprevus + 1);
-    const auto jour = suivi ? suivi->jour : seance_.jour();
-    jours_->montrer(QStringLiteral("Tirages à revoir, par jour"), barresdesjours(nombres, jour),
-                    tableauprevision(nombres, jour));
-    const auto parpalier = suivi ? suivi->echelle.parpalier() : decltype(Echelle().parpalier()){};
+    planches_->setVisible(suivi && suivi->echelle.taille() > 0);
+    if (!suivi)
+        return;
+    const auto nombres = suivi->echelle.prevoir(suivi->jour, joursprevus);
+    jours_->montrer(QStringLiteral("Tirages à revoir, par jour"),
+                    barresdesjours(nombres, suivi->jour), tableauprevision(nombres, suivi->jour));
+    const auto parpalier = suivi->echelle.parpalier();
     paliers_->montrer(QStringLiteral("Tirages par palier"), barresdespaliers(parpalier),
                       tableaupaliers(parpalier));
 }

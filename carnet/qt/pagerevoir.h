@@ -22,6 +22,7 @@ class Pagerevoir : public QWidget {
     void showEvent(QShowEvent* evenement) override;
 
   private:
+    QWidget* planches();
     void montrer();
     void compter();
     void montrerplanches();
@@ -35,6 +36,7 @@ class Pagerevoir : public QWidget {
     QSpinBox* plafond_;
     QPushButton* preparer_;
     QLabel* message_;
+    QWidget* planches_ = nullptr;  ///< the pictures, once there is something to show
     Planche* jours_;
     Planche* paliers_;
 };
