@@ -1,4 +1,4 @@
-// The carnet: a journal of a million lines, read and folded into what is due.
+// The carnet: a journal of a million lines, and one of 100 MB, read and folded into what is due.
 
 #include <fstream>
 #include <random>
@@ -14,12 +14,11 @@
 
 namespace {
 
-constexpr std::size_t nombredelignes = 1'000'000;
 constexpr std::size_t nombrederacks = 60'000;
 constexpr carnet::Jour jamais = 1'000'000;
 
 /// Years of play, a series of 30 racks after the other, one in four missed.
-void ecrirejournal(const std::string& chemin) {
+void ecrirejournal(const std::string& chemin, std::size_t nombredelignes) {
     std::ofstream fichier(chemin, std::ios::binary);
     std::minstd_rand hasard(1);
     common::Instant quand{2010, 1, 1, 10, 0, 0};
@@ -40,11 +39,12 @@ void ecrirejournal(const std::string& chemin) {
     }
 }
 
-void pli_d_un_million_de_lignes(benchmark::State& state) {
-    constexpr double borne = 500;  // milliseconds
+/// Lines, and most milliseconds that they may take.
+void pli_d_un_journal(benchmark::State& state) {
+    const auto nombredelignes = static_cast<std::size_t>(state.range(0));
     const banc::Dossier dossier;
     std::filesystem::create_directory(dossier.chemin() / "Zoé");
-    ecrirejournal((dossier.chemin() / "Zoé" / "journal.txt").string());
+    ecrirejournal((dossier.chemin() / "Zoé" / "journal.txt").string(), nombredelignes);
     common::DisqueReel disque(dossier.chemin());
     std::size_t dues = 0;
     profiles::Lecturejournal lecture;
@@ -58,7 +58,7 @@ void pli_d_un_million_de_lignes(benchmark::State& state) {
                 [&](const profiles::Lignejournal& ligne) { echelle.prendre(ligne); }, lecture);
             dues = erreur ? 0 : echelle.dues(jamais).size();
         },
-        {0, borne});
+        {0, static_cast<double>(state.range(1))});
     rusage usage{};
     ::getrusage(RUSAGE_SELF, &usage);
     constexpr double kilo = 1024;
@@ -71,7 +71,11 @@ void pli_d_un_million_de_lignes(benchmark::State& state) {
     if (lecture.lues != nombredelignes || dues == 0)
         state.SkipWithError("lines were lost");
 }
-BENCHMARK(pli_d_un_million_de_lignes)->UseManualTime()->Iterations(5);
+BENCHMARK(pli_d_un_journal)
+    ->Args({1'000'000, 500})
+    ->Args({1'700'000, 850})  // 100 MB
+    ->UseManualTime()
+    ->Iterations(5);
 
 }  // namespace
 
