@@ -3,19 +3,24 @@
 // The command line of orvane-carnet.
 
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
 
 #include "chantier.h"
+#include "echelle.h"
 
 namespace carnet {
 
-enum class Action { fenetre, aide, version };
+enum class Action { fenetre, echeances, progres, aide, version };
 
 struct Options {
     Action action = Action::fenetre;
     std::filesystem::path dossier;  ///< the play folder; empty: the working folder
+    std::string util;               ///< the player whose racks or results are asked for
+    std::optional<Jour> jour;       ///< of the racks that are due; none: today
+    std::optional<int> plafond;     ///< most racks; none: all
     atelier::Chemins chemins = atelier::cheminsdorigine();
 };
 

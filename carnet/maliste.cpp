@@ -4,6 +4,7 @@
 #include <array>
 
 #include "catalogue.h"
+#include "listedujour.h"
 #include "listes.h"
 #include "texte.h"
 
@@ -17,6 +18,9 @@ constexpr std::size_t longueurmax = 60;
 constexpr std::array appareils = std::to_array<std::string_view>(
     {"con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7",
      "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"});
+
+constexpr std::array ducarnet{nomsdujour.simple, nomsdujour.multiple, nomsdesdurs.simple,
+                              nomsdesdurs.multiple};
 
 std::string sansblancs(std::string_view texte) {
     const auto debut = texte.find_first_not_of(" \t");
@@ -63,6 +67,8 @@ std::string refusdunom(std::string_view fichier) {
         return "Ce nom est réservé par certains systèmes.";
     if (fourni(petit))
         return "Ce nom est celui d'une liste du programme.";
+    if (std::find(ducarnet.begin(), ducarnet.end(), petit) != ducarnet.end())
+        return "Ce nom est celui d'une liste que le carnet refait lui-même.";
     if (common::sanspartie(fichier) != fichier)
         return "Un nom qui finit par « _ » et un signe est celui d'une partie de liste.";
     return {};

@@ -1,8 +1,13 @@
 #include "fenetrecarnet.h"
 
 #include <algorithm>
+#include <array>
 
 #include <QAction>
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -25,6 +30,7 @@ constexpr int hauteur = 40;
 Fenetrecarnet::Fenetrecarnet(Seance& seance)
     : seance_(seance),
       onglets_(new QTabWidget(this)),
+      joueurs_(new QComboBox(this)),
       avance_(new QProgressBar(this)),
       annuler_(new QPushButton(QStringLiteral("Annuler"), this)) {
     setWindowTitle(QStringLiteral("Carnet d'Orvane"));
@@ -32,6 +38,7 @@ Fenetrecarnet::Fenetrecarnet(Seance& seance)
     onglets_->setDocumentMode(true);
     setCentralWidget(onglets_);
     garnir();
+    choisirjoueur();
     suivre();
     onglets_->currentWidget()->setFocus();
     const auto place = screen()->availableGeometry().size() * 19 / 20;
@@ -59,28 +66,61 @@ void Fenetrecarnet::garnir() {
                       &QWidget::close);
 }
 
+void Fenetrecarnet::choisirjoueur() {
+    auto* coin = new QWidget(this);
+    auto* mise = new QHBoxLayout(coin);
+    mise->setContentsMargins(0, 0, 0, 0);
+    auto* titre = new QLabel(QStringLiteral("&Joueur :"), coin);
+    titre->setBuddy(joueurs_);
+    joueurs_->setAccessibleName(QStringLiteral("Joueur"));
+    joueurs_->setObjectName(QStringLiteral("joueur"));
+    joueurs_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    mise->addWidget(titre);
+    mise->addWidget(joueurs_);
+    onglets_->setCornerWidget(coin);
+    const auto garnir = [this] {
+        const QSignalBlocker silence(joueurs_);
+        joueurs_->clear();
+        joueurs_->addItems(seance_.joueurs());
+        joueurs_->setCurrentText(seance_.joueur());
+        joueurs_->setEnabled(joueurs_->count() > 0);
+    };
+    garnir();
+    connect(&seance_, &Seance::joueurschanges, this, garnir);
+    connect(joueurs_, &QComboBox::currentTextChanged, &seance_, &Seance::choisirjoueur);
+}
+
+void Fenetrecarnet::changeEvent(QEvent* evenement) {
+    QMainWindow::changeEvent(evenement);
+    if (evenement->type() == QEvent::ActivationChange && isActiveWindow())
+        seance_.relirejoueurs();
+}
+
 void Fenetrecarnet::suivre() {
     avance_->setRange(0, millemes);
     avance_->setAccessibleName(QStringLiteral("Avancement"));
     annuler_->setShortcut(Qt::Key_Escape);
     statusBar()->addPermanentWidget(avance_);
     statusBar()->addPermanentWidget(annuler_);
-    auto& tache = seance_.tache();
-    const auto montrer = [this] {
-        const bool encours = seance_.tache().encours();
+    const std::array taches{&seance_.tache(), &seance_.lecture()};
+    const auto montrer = [this, taches] {
+        const bool encours = std::any_of(taches.begin(), taches.end(),
+                                         [](const Tache* tache) { return tache->encours(); });
         avance_->setVisible(encours);
         annuler_->setVisible(encours);
         if (!encours)
             statusBar()->clearMessage();
     };
     montrer();
-    connect(&tache, &Tache::change, this, montrer);
-    connect(&tache, &Tache::avancee, this, [this](int faits, const QString& quoi) {
-        avance_->setValue(faits);
-        if (seance_.tache().encours())
-            statusBar()->showMessage(quoi);
-    });
-    connect(annuler_, &QPushButton::clicked, this, [this] { seance_.tache().arreter(); });
+    for (auto* tache : taches) {
+        connect(tache, &Tache::change, this, montrer);
+        connect(tache, &Tache::avancee, this, [this, tache](int faits, const QString& quoi) {
+            avance_->setValue(faits);
+            if (tache->encours())
+                statusBar()->showMessage(quoi);
+        });
+        connect(annuler_, &QPushButton::clicked, tache, &Tache::arreter);
+    }
 }
 
 }  // namespace carnet

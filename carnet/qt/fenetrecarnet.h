@@ -6,6 +6,7 @@
 
 #include "seance.h"
 
+class QComboBox;
 class QProgressBar;
 class QPushButton;
 class QTabWidget;
@@ -17,14 +18,23 @@ class Fenetrecarnet : public QMainWindow {
   public:
     explicit Fenetrecarnet(Seance& seance);
     /// Ends the long work first: it is the pages'.
-    ~Fenetrecarnet() override { seance_.tache().finir(); }
+    ~Fenetrecarnet() override {
+        seance_.tache().finir();
+        seance_.lecture().finir();
+    }
+
+  protected:
+    /// The trainer may have been played meanwhile.
+    void changeEvent(QEvent* evenement) override;
 
   private:
     void garnir();
+    void choisirjoueur();
     void suivre();
 
     Seance& seance_;
     QTabWidget* onglets_;
+    QComboBox* joueurs_;
     QProgressBar* avance_;
     QPushButton* annuler_;
 };

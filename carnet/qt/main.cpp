@@ -14,9 +14,11 @@
 #include <QTranslator>
 
 #include "arguments.h"
+#include "disquereel.h"
 #include "faute.h"
 #include "fenetrecarnet.h"
 #include "preparation.h"
+#include "reponses.h"
 #include "textesqt.h"
 
 namespace {
@@ -67,7 +69,30 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     carnet::Fenetrecarnet fenetre(seance);
     fenetre.show();
     seance.relire();
+    seance.relirejoueurs();
     return QApplication::exec();
+}
+
+int repondre(const carnet::Options& options) {
+    common::DisqueReel disque(options.dossier);
+    std::string avis;
+    const auto reponse =
+        options.action == carnet::Action::progres
+            ? carnet::progres(disque, options.util)
+            : carnet::echeances(disque, options.util, options.jour.value_or(carnet::aujourdhui()),
+                                options.plafond, avis);
+    if (!avis.empty())
+        std::cerr << avis << '\n';
+    if (const auto* refus = std::get_if<carnet::Refus>(&reponse)) {
+        std::cerr << refus->raison << '\n';
+        return enfaute;
+    }
+    std::cout << std::get<std::string>(reponse) << std::flush;
+    if (!std::cout) {
+        std::cerr << "La réponse n'a pas pu s'écrire.\n";
+        return enfaute;
+    }
+    return bien;
 }
 
 }  // namespace
@@ -88,6 +113,8 @@ int main(int nombre, char** arguments) {
             std::cerr << options.dossier.string() << " : ce n'est pas un dossier.\n";
             return enfaute;
         }
+        if (options.action != carnet::Action::fenetre)
+            return repondre(options);
         return ouvrir(options, nombre, arguments);
     } catch (const carnet::MauvaisUsage& usage) {
         std::cerr << usage.what() << "\nVoir orvane-carnet --help.\n";

@@ -9,17 +9,16 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "boites.h"
 #include "constats.h"
 #include "criteresqt.h"
 #include "impression.h"
@@ -35,22 +34,6 @@ namespace {
 /// On each printed page.
 QString titre() {
     return QStringLiteral("Orvane – ma liste");
-}
-
-void avertir(QWidget* parent, const QString& texte) {
-    QMessageBox boite(QMessageBox::Warning, QStringLiteral("Attention"), texte,
-                      QMessageBox::NoButton, parent);
-    boite.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
-    boite.exec();
-}
-
-bool confirmer(QWidget* parent, const QString& texte, const QString& oui) {
-    QMessageBox boite(QMessageBox::Question, QStringLiteral("Confirmer"), texte,
-                      QMessageBox::NoButton, parent);
-    auto* accepte = boite.addButton(oui, QMessageBox::AcceptRole);
-    boite.setDefaultButton(boite.addButton(QStringLiteral("Annuler"), QMessageBox::RejectRole));
-    boite.exec();
-    return boite.clickedButton() == accepte;
 }
 
 }  // namespace

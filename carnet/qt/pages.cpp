@@ -3,7 +3,10 @@
 #include <array>
 
 #include "pagedictionnaire.h"
+#include "pagedonnees.h"
 #include "pagelistes.h"
+#include "pageprogres.h"
+#include "pagerevoir.h"
 
 namespace carnet {
 namespace {
@@ -14,8 +17,9 @@ QWidget* faire(Seance& seance, QWidget* parent) {
 }
 
 constexpr std::array lespages{
-    Page{"Mes listes", faire<Pagelistes>},
-    Page{"Mon dictionnaire", faire<Pagedictionnaire>},
+    Page{"Mes listes", faire<Pagelistes>},   Page{"Mon dictionnaire", faire<Pagedictionnaire>},
+    Page{"À revoir", faire<Pagerevoir>},     Page{"Progrès", faire<Pageprogres>},
+    Page{"Mes données", faire<Pagedonnees>},
 };
 
 }  // namespace

@@ -1,15 +1,19 @@
 #pragma once
 
-// What the pages share: the play folder, the words in force, and the one long work.
+// What the pages share: the play folder, the words in force, the player and what they worked, and
+// the long works.
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include <QObject>
+#include <QStringList>
 
 #include "arguments.h"
 #include "disquereel.h"
 #include "motsenvigueur.h"
+#include "suivi.h"
 #include "tache.h"
 
 namespace carnet {
@@ -17,7 +21,8 @@ namespace carnet {
 class Seance : public QObject {
     Q_OBJECT
   public:
-    explicit Seance(const Options& options);
+    /// `jour` tells the day.
+    explicit Seance(const Options& options, std::function<Jour()> jour = aujourdhui);
 
     [[nodiscard]] common::Disque& disque() { return disque_; }
     [[nodiscard]] const std::filesystem::path& dossier() const { return dossier_; }
@@ -31,20 +36,43 @@ class Seance : public QObject {
     /// Why there are no words, in French; empty while they are read and where there are some.
     [[nodiscard]] const QString& ennui() const { return ennui_; }
 
+    /// The players of the folder; `joueur` is the one looked at, empty if there is none.
+    [[nodiscard]] const QStringList& joueurs() const { return joueurs_; }
+    [[nodiscard]] const QString& joueur() const { return joueur_; }
+    void choisirjoueur(const QString& nom);
+    /// What the player worked; null while it is read for the first time and if there is no player.
+    [[nodiscard]] const std::shared_ptr<const Suivi>& suivi() const { return suivi_; }
+    [[nodiscard]] Jour jour() const { return jour_(); }
+    /// The reading of what the player worked.
+    [[nodiscard]] Tache& lecture() { return lecture_; }
+    /// Looks for players and for what they worked, and reads what has changed.
+    void relirejoueurs();
+
     /// Reads the words of the folder, in the thread of the long work.
     void relire();
 
   signals:
     /// The words in force, or why there are none.
     void motschanges();
+    void joueurschanges();
+    void suivichange();
 
   private:
+    void liresuivi();
+    [[nodiscard]] std::string signature() const;
+
     std::filesystem::path dossier_;
     common::DisqueReel disque_;
     atelier::Chemins chemins_;
     Motsenvigueur mots_;
     QString ennui_;
+    std::function<Jour()> jour_;
+    QStringList joueurs_;
+    QString joueur_;
+    std::shared_ptr<const Suivi> suivi_;
+    std::string lu_;  ///< signature of what `suivi_` was read of
     Tache tache_;
+    Tache lecture_;
 };
 
 }  // namespace carnet
