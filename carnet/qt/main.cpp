@@ -73,7 +73,10 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     return QApplication::exec();
 }
 
-int repondre(const carnet::Options& options) {
+int repondre(const carnet::Options& options, int& nombre, char** arguments) {
+    const QCoreApplication application(nombre, arguments);
+    if (options.dossier.empty())
+        installation::sinstaller(QCoreApplication::applicationDirPath().toStdU16String());
     common::DisqueReel disque(options.dossier);
     std::string avis;
     const auto reponse =
@@ -114,7 +117,7 @@ int main(int nombre, char** arguments) {
             return enfaute;
         }
         if (options.action != carnet::Action::fenetre)
-            return repondre(options);
+            return repondre(options, nombre, arguments);
         return ouvrir(options, nombre, arguments);
     } catch (const carnet::MauvaisUsage& usage) {
         std::cerr << usage.what() << "\nVoir orvane-carnet --help.\n";
