@@ -13,6 +13,11 @@ import subprocess
 import tempfile
 import time
 
+# What libraries write of the machine: it has no sound server and no graphics card.
+DEHORS = ("PulseAudioService", "qt.multimedia.ffmpeg: ", "Failed to open VDPAU backend",
+          # The cell of a table that went away while the scene was reading it.
+          "QAccessibleTable::child: Invalid index")
+
 ATTENTE = 40  # seconds after which a condition that has not come is a failure
 
 
@@ -127,12 +132,9 @@ class Scene:
             raise Echec("avertissements : " + self.journal())
 
     def journal(self):
-        """What the program wrote on its error output, but for the sound server that is not here and
-        the cell of a table that went away while the scene was reading it."""
+        """What the program wrote on its error output, but for what is not of its making."""
         lignes = (self.depart / "journal").read_text(errors="replace").splitlines()
-        return "\n".join(ligne for ligne in lignes
-                         if not ligne.startswith(("PulseAudioService",
-                                                  "QAccessibleTable::child: Invalid index")))
+        return "\n".join(ligne for ligne in lignes if not ligne.startswith(DEHORS))
 
     # Its files, with a backslash as the program writes them.
 
