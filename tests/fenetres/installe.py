@@ -6,6 +6,7 @@ this. With INVENTORY JEU behind, PROGRAM is installed for the trial: JEU is what
 INVENTORY the program that makes the inventory. With --apres behind, the list was played before the
 upgrade that has just been made; with --revient, it was, and there is no upgrade."""
 
+import contextlib
 import os
 import pathlib
 import shutil
@@ -56,8 +57,16 @@ def pareil(scene, fournis, nom):
 
 
 def quitterbienvenue(scene):
+    """The first window is closed. Its manager has just started: it may miss the first keys."""
+    def fermee():
+        if scene.processus.poll() is not None:
+            return True
+        with contextlib.suppress(subprocess.CalledProcessError, IndexError):
+            scene.fermer(BIENVENUE)
+        return False
+
     scene.devant(BIENVENUE)
-    scene.fermer(BIENVENUE)
+    attendre(fermee, "la fin du programme")
     scene.fini()
 
 
