@@ -193,11 +193,32 @@ bool Pagedonnees::accord(const Sauvegarde::Retour& retour) {
 }
 
 void Pagedonnees::remettre() {
-    const auto copie = QFileDialog::getExistingDirectory(
+    const auto choisi = QFileDialog::getExistingDirectory(
         this, QStringLiteral("La copie à remettre"), QDir::homePath());
-    if (copie.isEmpty() || !accord(Sauvegarde(seance_.dossier()).examiner(utf8(copie))))
+    if (choisi.isEmpty())
         return;
-    lancer([jeu = seance_.dossier(), copie = utf8(copie), jour = seance_.jour()](
+    const auto retour = std::make_shared<Sauvegarde::Retour>();
+    const auto copie = utf8(choisi);
+    message_->setText(QStringLiteral("La copie est regardée…"));
+    seance_.tache().lancer(
+        [jeu = seance_.dossier(), copie, retour](const Avance& avance) {
+            avance(0, "Lecture de la copie");
+            *retour = Sauvegarde(jeu).examiner(copie);
+        },
+        [this, copie, retour](const QString& faute) {
+            if (!faute.isEmpty())
+                retour->ennui = utf8(faute);
+            // The reading is over before the question.
+            QMetaObject::invokeMethod(
+                this, [this, copie, retour] { revenir(copie, *retour); }, Qt::QueuedConnection);
+        });
+}
+
+void Pagedonnees::revenir(const std::string& copie, const Sauvegarde::Retour& retour) {
+    message_->clear();
+    if (!accord(retour))
+        return;
+    lancer([jeu = seance_.dossier(), copie, jour = seance_.jour()](
                const Avancecopie& avance) { return Sauvegarde(jeu).remettre(copie, jour, avance); },
            true);
 }

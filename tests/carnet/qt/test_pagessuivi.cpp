@@ -17,6 +17,7 @@
 
 #include "dessin.h"
 #include "dossiertemporaire.h"
+#include "fenetrecarnet.h"
 #include "pagedonnees.h"
 #include "pageprogres.h"
 #include "pagerevoir.h"
@@ -223,6 +224,44 @@ TEST_F(Suividunjoueur, les_plus_durs_font_une_liste) {
     EXPECT_EQ(dossier.lire("listes/difficiles-multi.txt"), "ENZ;NEZ;ZEN\r\n");
     EXPECT_THAT(dit(progres, "fait").toStdString(), HasSubstr("tapez difficiles.txt"));
     EXPECT_THAT(dit(progres, "fait").toStdString(), HasSubstr("1 laissé de côté"));
+}
+
+TEST_F(Suividunjoueur, la_fenetre_laisse_choisir_le_joueur) {
+    jouer();
+    const Fenetrecarnet fenetre(seance);
+    auto* choix = fenetre.findChild<QComboBox*>(QStringLiteral("joueur"));
+    EXPECT_FALSE(choix->isEnabled());
+    lire();
+    EXPECT_TRUE(choix->isEnabled());
+    EXPECT_EQ(choix->count(), 2);
+    EXPECT_EQ(choix->currentText(), QStringLiteral("Zoé"));
+    choix->setCurrentText(QStringLiteral("Anne"));
+    EXPECT_EQ(seance.joueur(), QStringLiteral("Anne"));
+}
+
+TEST_F(Suividunjoueur, une_lecture_arretee_se_refait) {
+    jouer();
+    const Pagerevoir revoir(seance, nullptr);
+    QSignalSpy espion(&seance, &Seance::suivichange);
+    seance.relirejoueurs();
+    seance.lecture().arreter();
+    while (seance.lecture().encours())
+        ASSERT_TRUE(espion.wait(60000));
+    lire();
+    EXPECT_EQ(dit(revoir, "dus"), QStringLiteral("3 tirages à revoir aujourd'hui"));
+}
+
+TEST_F(Suividunjoueur, un_dossier_de_joueur_qui_disparait_laisse_la_place_a_un_autre) {
+    jouer();
+    const Pagerevoir revoir(seance, nullptr);
+    lire();
+    std::filesystem::remove_all(dossier.chemin() / "Zoé");
+    lire();
+    EXPECT_EQ(seance.joueur(), QStringLiteral("Anne"));
+    EXPECT_EQ(dit(revoir, "dus"), QStringLiteral("Rien à revoir aujourd'hui"));
+    std::filesystem::remove_all(dossier.chemin() / "Anne");
+    lire();
+    EXPECT_EQ(dit(revoir, "dus"), QStringLiteral("Pas encore de joueur"));
 }
 
 TEST_F(Suividunjoueur, un_retour_inacheve_est_acheve_ou_dit) {
