@@ -336,7 +336,7 @@ TEST_F(Devant, suit_la_sienne_sans_prendre_le_clavier_d_un_autre_programme) {
     montrer(serie);
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED  // in later versions of Qt, which have no other way to say it
-    QApplication::setActiveWindow(nullptr);
+        QApplication::setActiveWindow(nullptr);
     QT_WARNING_POP
     fenetrier->executer([this] { serie.visible = false; });
     laisser();
