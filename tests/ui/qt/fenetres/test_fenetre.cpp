@@ -334,10 +334,10 @@ TEST_F(Devant, reste_quand_la_sienne_s_en_va_et_garde_le_clavier) {
 
 TEST_F(Devant, suit_la_sienne_sans_prendre_le_clavier_d_un_autre_programme) {
     montrer(serie);
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED  // in later versions of Qt, which have no other way to say it
-        QApplication::setActiveWindow(nullptr);
-    QT_WARNING_POP
+    QWindow autre;  // to the widgets it is another program's
+    autre.show();
+    autre.requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&autre));
     fenetrier->executer([this] { serie.visible = false; });
     laisser();
     EXPECT_EQ(systeme(options)->transientParent(), systeme(*forme));
