@@ -109,6 +109,22 @@ TEST_P(Ajustements, le_texte_ajuste_tient_dans_sa_place) {
     EXPECT_LE(tour.height(), cas.place.height());
 }
 
+TEST_P(Ajustements, un_cran_de_plus_ne_tiendrait_pas) {
+    const auto& cas = GetParam();
+    const QPixmap support(10, 10);
+    const auto texte = QString::fromUtf8(cas.texte);
+    const auto entiere = ui::qt::fonte("", 24, support);
+    auto fonte = ui::qt::ajuster(entiere, texte, cas.place, support);
+    constexpr double cran = .6 / 24;  // of the font's size, down to .4 of it
+    fonte.setPointSizeF(fonte.pointSizeF() + cran * entiere.pointSizeF());
+    if (fonte.pointSizeF() > entiere.pointSizeF())
+        return;  // it fits as it is
+    const auto tour = QFontMetricsF(fonte, &support)
+                          .boundingRect(QRectF(QPointF(), QSizeF(cas.place.width(), 1e6)),
+                                        Qt::TextWordWrap, texte);
+    EXPECT_TRUE(tour.width() > cas.place.width() || tour.height() > cas.place.height());
+}
+
 INSTANTIATE_TEST_SUITE_P(
     tous, Ajustements,
     testing::Values(CasAjustement{"court", "OK", {200, 40}},
