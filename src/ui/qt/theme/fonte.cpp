@@ -5,7 +5,9 @@
 #include <cmath>
 #include <functional>
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPaintDevice>
 #include <QStringList>
 
@@ -31,6 +33,26 @@ constexpr std::array remplacements{
     Remplacement{"Georgia", {"Gelasio", "C059", "DejaVu Serif"}},
     Remplacement{"Constantia", {"P052", "C059", "DejaVu Serif"}},
     Remplacement{"Segoe UI", {"Liberation Sans", "Nimbus Sans", "DejaVu Sans"}}};
+
+/// The family that stands for a name on this system: itself if it is there or none of its
+/// substitutes is. Given the whole list, Qt would ask fontconfig to go on with it at every size.
+QString presente(const QString& famille) {
+    static const auto absentes = [] {
+        QHash<QString, QString> resultat;
+        auto toutes = QFontDatabase::families();
+        for (auto& nom : toutes)  // told with its maker where there are several
+            nom = nom.section(QStringLiteral(" ["), 0, 0);
+        for (const auto& [nom, substituts] : remplacements) {
+            const auto trouve = std::find_if(
+                substituts.begin(), substituts.end(),
+                [&](const char* nomme) { return toutes.contains(QString::fromLatin1(nomme)); });
+            if (trouve != substituts.end() && !toutes.contains(QString::fromLatin1(nom)))
+                resultat.insert(QString::fromLatin1(nom), QString::fromLatin1(*trouve));
+        }
+        return resultat;
+    }();
+    return absentes.value(famille, famille);
+}
 
 /// The largest font, in steps, in which a text fits its place; `fonte` itself if it does. A smaller
 /// one is also set a little closer: screens know whole pixels only, and a step down may be a large
@@ -89,7 +111,7 @@ void inscrirefamilles() {
 }
 
 QFont fonte(std::string_view famille, double corps, const QPaintDevice& support) {
-    QFont resultat(famille.empty() ? familledebase() : versqt(famille));
+    QFont resultat(presente(famille.empty() ? familledebase() : versqt(famille)));
     // A size in points keeps its fraction, one in pixels is rounded.
     resultat.setPointSizeF(std::max(corps, 1.0) * pointsparpouce / support.logicalDpiY());
     resultat.setHintingPreference(QFont::PreferVerticalHinting);

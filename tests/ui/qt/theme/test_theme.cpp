@@ -133,6 +133,16 @@ INSTANTIATE_TEST_SUITE_P(
                     CasAjustement{"une_seule_ligne", "Eliminer un tirage trouvé en", {220, 30}}),
     [](const auto& cas) { return cas.param.nom; });
 
+TEST(Fontes, une_famille_absente_cede_a_celle_que_qt_prendrait) {
+    const QPixmap support(10, 10);
+    for (const auto* nom : {"Arial", "Verdana", "Times New Roman", "Lucida Sans", "Georgia",
+                            "Constantia", "Segoe UI"}) {
+        const auto fonte = ui::qt::fonte(nom, 20, support);
+        EXPECT_EQ(QFontInfo(fonte).family(), QFontInfo(QFont(nom)).family()) << nom;
+        EXPECT_TRUE(QFontInfo(fonte).family().startsWith(fonte.family())) << nom;
+    }
+}
+
 TEST(Fontes, un_texte_qui_tient_garde_sa_taille) {
     const QPixmap support(10, 10);
     const auto fonte = ui::qt::fonte("", 24, support);
