@@ -5,6 +5,9 @@
 #include <dlfcn.h>
 #include <future>
 #include <system_error>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
 #endif
 
 namespace ui::qt {
@@ -21,6 +24,10 @@ Operation* operation(const char* nom) {
 /// The settings as `FcInit` makes them, but for the descriptions of all settings that there might
 /// be, which take it twice as long and which nobody asks for. Null if they cannot be read.
 void* lirereglages() {
+#ifdef __SANITIZE_ADDRESS__
+    // fontconfig keeps distances in the place of addresses: all that it holds would seem lost.
+    const __lsan::ScopedDisabler sansfuites;
+#endif
     auto* creer = operation<void*()>("FcConfigCreate");
     auto* lire = operation<int(void*, const unsigned char*, int)>("FcConfigParseAndLoad");
     auto* dossiers = operation<void*(const void*)>("FcConfigGetCacheDirs");
