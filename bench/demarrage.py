@@ -120,9 +120,9 @@ def premierefenetre(ecran, commande, dossier):
 
 
 def processeur(pid):
-    """Milliseconds of processor time that a process has taken, over its threads."""
-    return sum(int((fil / "schedstat").read_text().split()[0])
-               for fil in pathlib.Path(f"/proc/{pid}/task").iterdir()) / 1e6
+    """Milliseconds of processor time that a process has taken, threads that have ended included."""
+    horloge = (~pid << 3) | 2  # clock_getcpuclockid of the C library
+    return 1000 * time.clock_gettime(horloge)
 
 
 def joueurconnu(dossier, jeu):

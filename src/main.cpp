@@ -1,12 +1,14 @@
 #include <QApplication>
 
 #include "application.h"
+#include "fontessysteme.h"
 #include "plateformeqt.h"
 #include "preparation.h"
 #include "theme.h"
 
 int main(int argc, char** argv) {
     ui::qt::preparer();
+    ui::qt::lirefontes();
     QApplication qt(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));

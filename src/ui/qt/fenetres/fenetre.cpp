@@ -13,6 +13,7 @@
 
 #include "bureau.h"
 #include "fonte.h"
+#include "fontessysteme.h"
 #include "menucontextuel.h"
 #include "nouvellevue.h"
 #include "texteqt.h"
@@ -65,6 +66,7 @@ Fenetre::~Fenetre() {
 void Fenetre::completer() {
     if (!dimensionnee_)
         return;
+    attendrefontes();
     const auto& controles = formulaire_->controles();
     for (auto i = vues_.size() + entrees_; i < controles.size(); ++i) {
         auto& controle = *controles[i];

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPaintDevice>
 #include <QStringList>
 
@@ -31,10 +34,37 @@ constexpr std::array remplacements{
     Remplacement{"Constantia", {"P052", "C059", "DejaVu Serif"}},
     Remplacement{"Segoe UI", {"Liberation Sans", "Nimbus Sans", "DejaVu Sans"}}};
 
-/// The largest font, in steps, that passes a test; `fonte` itself if it does. A smaller one is also
-/// set a little closer: screens know whole pixels only, and a step down may be a large one.
-QFont reduire(const QFont& fonte, double plancher, const std::function<bool(const QFont&)>& tient) {
-    if (tient(fonte))
+/// The family that stands for a name on this system: itself if it is there or none of its
+/// substitutes is. Given the whole list, Qt would ask fontconfig to go on with it at every size.
+QString presente(const QString& famille) {
+    static const auto absentes = [] {
+        QHash<QString, QString> resultat;
+        auto toutes = QFontDatabase::families();
+        for (auto& nom : toutes)  // told with its maker where there are several
+            nom = nom.section(QStringLiteral(" ["), 0, 0);
+        for (const auto& [nom, substituts] : remplacements) {
+            const auto trouve = std::find_if(
+                substituts.begin(), substituts.end(),
+                [&](const char* nomme) { return toutes.contains(QString::fromLatin1(nomme)); });
+            if (trouve != substituts.end() && !toutes.contains(QString::fromLatin1(nom)))
+                resultat.insert(QString::fromLatin1(nom), QString::fromLatin1(*trouve));
+        }
+        return resultat;
+    }();
+    return absentes.value(famille, famille);
+}
+
+/// The largest font, in steps, in which a text fits its place; `fonte` itself if it does. A smaller
+/// one is also set a little closer: screens know whole pixels only, and a step down may be a large
+/// one. `mesure` tells what the text takes in a font. Every size that is tried is read from the
+/// disk, so the search begins where the first one says.
+QFont reduire(const QFont& fonte, double plancher, const QSizeF& place,
+              const std::function<QSizeF(const QFont&)>& mesure) {
+    const auto tient = [&](const QSizeF& prise) {
+        return prise.width() <= place.width() && prise.height() <= place.height();
+    };
+    const auto entiere = mesure(fonte);
+    if (tient(entiere))
         return fonte;
     constexpr int crans = 24;
     int bas = 0;  // smallest size, taken as it comes
@@ -44,10 +74,17 @@ QFont reduire(const QFont& fonte, double plancher, const std::function<bool(cons
     const auto taille = [&](int cran) {
         essai.setPointSizeF(fonte.pointSizeF() * (plancher + (1 - plancher) * cran / crans));
     };
-    while (haut - bas > 1) {
-        const int milieu = (bas + haut) / 2;
-        taille(milieu);
-        (tient(essai) ? bas : haut) = milieu;
+    const double part = std::min(place.width() / std::max(entiere.width() * serrage / 100, 1.0),
+                                 place.height() / std::max(entiere.height(), 1.0));
+    const double vise = std::ceil((part - plancher) / (1 - plancher) * crans);
+    int cran = static_cast<int>(std::clamp<double>(vise, bas + 1, haut - 1));
+    for (int pas = 1; haut - bas > 1; pas *= 2) {
+        taille(cran);
+        const bool convient = tient(mesure(essai));
+        (convient ? bas : haut) = cran;
+        cran += convient ? pas : -pas;
+        if (cran <= bas || cran >= haut)
+            cran = (bas + haut) / 2;
     }
     taille(bas);
     return essai;
@@ -74,7 +111,7 @@ void inscrirefamilles() {
 }
 
 QFont fonte(std::string_view famille, double corps, const QPaintDevice& support) {
-    QFont resultat(famille.empty() ? familledebase() : versqt(famille));
+    QFont resultat(presente(famille.empty() ? familledebase() : versqt(famille)));
     // A size in points keeps its fraction, one in pixels is rounded.
     resultat.setPointSizeF(std::max(corps, 1.0) * pointsparpouce / support.logicalDpiY());
     resultat.setHintingPreference(QFont::PreferVerticalHinting);
@@ -92,21 +129,22 @@ QFont fonte(const Controle& controle, double corps, const QPaintDevice& support)
 
 QFont ajuster(const QFont& fonte, const QString& texte, const QSizeF& place,
               const QPaintDevice& support, double plancher) {
-    return reduire(fonte, plancher, [&](const QFont& essai) {
+    if (texte.isEmpty())
+        return fonte;
+    return reduire(fonte, plancher, place, [&](const QFont& essai) {
         constexpr double sansfond = 1e6;
-        const auto tour = QFontMetricsF(essai, &support)
-                              .boundingRect(QRectF(0, 0, place.width(), sansfond),
-                                            Qt::TextWordWrap | Qt::AlignLeft, texte);
-        return tour.width() <= place.width() && tour.height() <= place.height();
+        return QFontMetricsF(essai, &support)
+            .boundingRect(QRectF(0, 0, place.width(), sansfond), Qt::TextWordWrap | Qt::AlignLeft,
+                          texte)
+            .size();
     });
 }
 
 QFont ajusterligne(const QFont& fonte, const QString& texte, const QSizeF& place,
                    const QPaintDevice& support, double plancher) {
-    return reduire(fonte, plancher, [&](const QFont& essai) {
-        const QFontMetricsF mesure(essai, &support);
-        return mesure.horizontalAdvance(texte) <= place.width() &&
-               mesure.height() <= place.height();
+    return reduire(fonte, plancher, place, [&](const QFont& essai) {
+        const QFontMetricsF metrique(essai, &support);
+        return QSizeF(metrique.horizontalAdvance(texte), metrique.height());
     });
 }
 

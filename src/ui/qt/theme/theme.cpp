@@ -87,7 +87,9 @@ void habiller(QApplication& application) {
     QApplication::setPalette(palette());
     QFont base(familledebase());
     base.setPointSizeF(corpsdebase);
+    // As the font of a control: of the same size, it is read once.
     base.setHintingPreference(QFont::PreferVerticalHinting);
+    base.setStyleStrategy(QFont::PreferAntialias);
     QApplication::setFont(base);
     QToolTip::setPalette(palette());
     QToolTip::setFont(base);

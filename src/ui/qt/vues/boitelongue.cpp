@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include <QContextMenuEvent>
 #include <QPainter>
@@ -39,7 +40,9 @@ BoiteLongue::BoiteLongue(QWidget& parent, Hote& hote, Controle& controle)
 }
 
 void BoiteLongue::montrer(Champs champs) {
-    if ((champs & (champsfonte | champsplace)) != 0) {
+    // The document is laid out at once: not before somebody sees it.
+    remise_ = remise_ || (champs & (champsfonte | champsplace)) != 0;
+    if (controle()->visible() && std::exchange(remise_, false)) {
         setFont(fonte());
         const int bord = static_cast<int>(std::lround(marge * unite()));
         setViewportMargins(bord, bord, bord, bord);

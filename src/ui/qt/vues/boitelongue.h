@@ -23,6 +23,7 @@ class BoiteLongue : public VueDe<QPlainTextEdit> {
     void rapportertexte();
 
     bool montre_ = false;  ///< the text is being set from the model
+    bool remise_ = false;  ///< its font or its place has changed since it was laid out
 };
 
 }  // namespace ui::qt

@@ -40,7 +40,7 @@ void Bouton::montrer(Champs champs) {
 }
 
 void Bouton::mesurer() {
-    if (std::exchange(mesuree_, true))
+    if (texte().isEmpty() || std::exchange(mesuree_, true))
         return;
     if (controle()->aspect() == Aspect::Tuile) {
         auto grande = qt::fonte(*controle(), lettredetuile * std::min(width(), height()), *this);

@@ -60,7 +60,6 @@ void Etiquette::mesurer() {
 void Etiquette::paintEvent(QPaintEvent* /*evenement*/) {
     if (controle() == nullptr)
         return;
-    mesurer();
     QPainter peintre(this);
     if (controle()->aspect() == Aspect::Horloge) {
         dessin::boite(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()),
@@ -71,6 +70,9 @@ void Etiquette::paintEvent(QPaintEvent* /*evenement*/) {
         peintre.setBrush(couleurqt(controle()->fond()));
         peintre.drawRoundedRect(QRectF(rect()), rayon * unite(), rayon * unite());
     }
+    if (texte().isEmpty())
+        return;
+    mesurer();
     auto trait = ajustee_;
     const bool cliquable = controle()->clic && isEnabled() && underMouse();
     trait.setUnderline(cliquable);

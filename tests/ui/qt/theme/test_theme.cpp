@@ -109,6 +109,22 @@ TEST_P(Ajustements, le_texte_ajuste_tient_dans_sa_place) {
     EXPECT_LE(tour.height(), cas.place.height());
 }
 
+TEST_P(Ajustements, un_cran_de_plus_ne_tiendrait_pas) {
+    const auto& cas = GetParam();
+    const QPixmap support(10, 10);
+    const auto texte = QString::fromUtf8(cas.texte);
+    const auto entiere = ui::qt::fonte("", 24, support);
+    auto fonte = ui::qt::ajuster(entiere, texte, cas.place, support);
+    constexpr double cran = .6 / 24;  // of the font's size, down to .4 of it
+    fonte.setPointSizeF(fonte.pointSizeF() + cran * entiere.pointSizeF());
+    if (fonte.pointSizeF() > entiere.pointSizeF())
+        return;  // it fits as it is
+    const auto tour = QFontMetricsF(fonte, &support)
+                          .boundingRect(QRectF(QPointF(), QSizeF(cas.place.width(), 1e6)),
+                                        Qt::TextWordWrap, texte);
+    EXPECT_TRUE(tour.width() > cas.place.width() || tour.height() > cas.place.height());
+}
+
 INSTANTIATE_TEST_SUITE_P(
     tous, Ajustements,
     testing::Values(CasAjustement{"court", "OK", {200, 40}},
@@ -116,6 +132,16 @@ INSTANTIATE_TEST_SUITE_P(
                     CasAjustement{"plusieurs_lignes", "Vérifier la mise à jour", {140, 70}},
                     CasAjustement{"une_seule_ligne", "Eliminer un tirage trouvé en", {220, 30}}),
     [](const auto& cas) { return cas.param.nom; });
+
+TEST(Fontes, une_famille_absente_cede_a_celle_que_qt_prendrait) {
+    const QPixmap support(10, 10);
+    for (const auto* nom : {"Arial", "Verdana", "Times New Roman", "Lucida Sans", "Georgia",
+                            "Constantia", "Segoe UI"}) {
+        const auto fonte = ui::qt::fonte(nom, 20, support);
+        EXPECT_EQ(QFontInfo(fonte).family(), QFontInfo(QFont(nom)).family()) << nom;
+        EXPECT_TRUE(QFontInfo(fonte).family().startsWith(fonte.family())) << nom;
+    }
+}
 
 TEST(Fontes, un_texte_qui_tient_garde_sa_taille) {
     const QPixmap support(10, 10);
