@@ -1,5 +1,7 @@
-#include <array>
+#include <stdexcept>
+#include <string>
 #include <string_view>
+#include <zlib.h>
 
 #include "image.h"
 #include "octets.h"
@@ -8,59 +10,26 @@ namespace assets {
 
 namespace {
 
-std::array<std::uint32_t, 256> tablecrc() {
-    std::array<std::uint32_t, 256> table{};
-    for (std::uint32_t i = 0; i < table.size(); ++i) {
-        table[i] = i;
-        for (int bit = 0; bit < 8; ++bit) {
-            table[i] = (table[i] & 1U) != 0 ? table[i] >> 1U ^ 0xEDB88320U : table[i] >> 1U;
-        }
-    }
-    return table;
-}
-
-std::uint32_t crc(std::string_view octets) {
-    static const auto table = tablecrc();
-    std::uint32_t reste = 0xFFFFFFFFU;
-    for (const char c : octets) {
-        reste = table[(reste ^ static_cast<std::uint8_t>(c)) & 0xFFU] ^ reste >> 8U;
-    }
-    return ~reste;
-}
-
-std::uint32_t adler(std::string_view octets) {
-    constexpr std::uint32_t premier = 65521;
-    std::uint32_t a = 1;
-    std::uint32_t b = 0;
-    for (const char c : octets) {
-        a = (a + static_cast<std::uint8_t>(c)) % premier;
-        b = (b + a) % premier;
-    }
-    return b << 16U | a;
+const Bytef* debut(std::string_view octets) {
+    return reinterpret_cast<const Bytef*>(octets.data());
 }
 
 void bloc(std::string& fichier, std::string_view nom, std::string_view contenu) {
     grosboutien(fichier, static_cast<std::uint32_t>(contenu.size()));
     const std::string corps = std::string(nom) + std::string(contenu);
     fichier += corps;
-    grosboutien(fichier, crc(corps));
+    grosboutien(fichier, static_cast<std::uint32_t>(
+                             crc32_z(crc32_z(0, nullptr, 0), debut(corps), corps.size())));
 }
 
-// The zlib form of the bytes, stored as they are: the pictures are few and small.
-std::string zlib(std::string_view octets) {
-    constexpr std::size_t limite = 65535;
-    std::string flux = "\x78\x01";
-    const std::uint32_t somme = adler(octets);
-    do {
-        const std::string_view morceau = octets.substr(0, limite);
-        octets.remove_prefix(morceau.size());
-        const auto taille = static_cast<std::uint32_t>(morceau.size());
-        flux += octets.empty() ? '\1' : '\0';
-        petitboutien(flux, taille, 2);
-        petitboutien(flux, ~taille & 0xFFFFU, 2);
-        flux += morceau;
-    } while (!octets.empty());
-    grosboutien(flux, somme);
+/// Throws `std::runtime_error` if there is no memory for it.
+std::string comprimer(std::string_view octets) {
+    auto taille = compressBound(octets.size());
+    std::string flux(taille, '\0');
+    if (compress2(reinterpret_cast<Bytef*>(flux.data()), &taille, debut(octets), octets.size(),
+                  Z_BEST_COMPRESSION) != Z_OK)
+        throw std::runtime_error("zlib");
+    flux.resize(taille);
     return flux;
 }
 
@@ -76,7 +45,7 @@ std::string fichierpng(int largeur, int hauteur, const std::string& genre,
     format += genre;
     std::string fichier = "\x89PNG\r\n\x1a\n";
     bloc(fichier, "IHDR", format);
-    bloc(fichier, "IDAT", zlib(lignes));
+    bloc(fichier, "IDAT", comprimer(lignes));
     bloc(fichier, "IEND", {});
     return fichier;
 }

@@ -24,16 +24,16 @@ struct Options {
     atelier::Chemins chemins = atelier::cheminsdorigine();
 };
 
-/// A wrong use of the command line, said in French.
+/// A wrong use of the command line, explained in French.
 class MauvaisUsage : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the arguments behind the program's name. Throws `MauvaisUsage`.
+/// Reads the arguments after the program's name. Throws `MauvaisUsage`.
 [[nodiscard]] Options lireoptions(std::span<const std::string> arguments);
 
-/// What the program tells of its use.
+/// The help text of the program, in French.
 [[nodiscard]] std::string aide();
 
 }  // namespace carnet

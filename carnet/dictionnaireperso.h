@@ -1,7 +1,7 @@
 #pragma once
 
-// A player's file of words, looked at before anything is made of it: what was read, what was
-// refused and why, and how it stands beside the lexicon.
+// A player's file of words, examined before lists are made from it: what was read, what was
+// refused and why, and how it differs from the lexicon.
 
 #include <array>
 #include <cstddef>
@@ -17,9 +17,9 @@
 
 namespace carnet {
 
-/// Largest file that is taken for words, in bytes: some six dictionaries of the game.
+/// Largest file that is read as words, in bytes: about six times a dictionary of the game.
 inline constexpr std::size_t octetsmax = std::size_t{32} << 20U;
-/// Lines that are told one by one.
+/// Refused lines that are listed one by one; the others are only counted.
 inline constexpr std::size_t refusmontres = 1000;
 
 enum class Encodage { ascii, utf8, windows1252, meles };
@@ -34,17 +34,18 @@ struct Motslus {
     atelier::Dictionnaire mots;  ///< sorted, each once
     Encodage encodage = Encodage::ascii;
     std::array<std::size_t, atelier::longueurmax + 1> parlongueur{};
-    std::size_t doubles = 0;             ///< lines whose word was there already
+    std::size_t doubles = 0;             ///< lines that repeat a word
     std::size_t refusees = 0;            ///< lines
     std::vector<Lignerefusee> montrees;  ///< the first of them
 };
 
 /// Reads bytes: one word a line, any line end, any case, accents or none; UTF-8 or Windows-1252,
-/// line by line if both stand in it. A line that is no word of 2 to 15 letters is refused, the rest
-/// taken. A text instead, in French: the bytes are no text, or hold no word.
+/// decided line by line if the file mixes them. A line that is not a word of 2 to 15 letters is
+/// refused, and the rest taken. Otherwise says in French why: the bytes are not text, or hold no
+/// word.
 [[nodiscard]] std::variant<Motslus, std::string> liremots(std::string_view octets);
 
-/// The same on a file, named in what is said.
+/// The same for a file, which what is said names.
 [[nodiscard]] std::variant<Motslus, std::string> lirefichierdemots(common::Disque& disque,
                                                                    std::string_view chemin);
 

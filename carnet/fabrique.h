@@ -1,6 +1,6 @@
 #pragma once
 
-// Making all lists anew, of a dictionary of the player's own or of the free lexicon.
+// Remakes all lists, from a dictionary of the player's own or from the free lexicon.
 
 #include <array>
 #include <cstddef>
@@ -19,14 +19,15 @@
 
 namespace carnet {
 
-/// Is told how far the work is, in thousandths, and what it is at; false stops it.
+/// Called with how much of the work is done, in thousandths, and with the present step, in French.
+/// Returns false to stop the work.
 using Avance = std::function<bool(int millemes, std::string_view quoi)>;
 
-/// What the lists are made of.
+/// What the lists are made from.
 struct Commande {
     std::optional<atelier::Dictionnaire> dictionnaire;  ///< none: the whole lexicon
     atelier::Nouveautes nouveautes;
-    recherche::Envigueur envigueur;  ///< to be remembered; the number of words is counted
+    recherche::Envigueur envigueur;  ///< to be recorded; its number of words is filled in
 };
 
 /// Editions of a dictionary that a player may own: the marked ones and the one before them.
@@ -39,8 +40,8 @@ using Fichiersdeditions = std::array<std::string, nombrededitions>;
 void comparereditions(common::Disque& disque, const Fichiersdeditions& fichiers,
                       Commande& commande);
 
-/// Makes the lists and puts them in the place of those of `dossier`. False if it was stopped:
-/// nothing has changed then. Throws `common::Faute`; nothing has changed then either.
+/// Makes the lists and replaces those of `dossier`. False if it was stopped. Throws
+/// `common::Faute`. In both cases nothing has changed.
 [[nodiscard]] bool fabriquer(const atelier::Chemins& chemins, const Commande& commande,
                              const std::filesystem::path& dossier, const Avance& avance,
                              const atelier::Ecrire& ecrire = atelier::ecrirefichier);

@@ -15,8 +15,8 @@ namespace carnet {
 /// no list of players.
 [[nodiscard]] std::vector<std::string> joueurs(common::Disque& disque);
 
-/// `<user>\carnet.dat`: the racks that the player wants of a day. The usual number if it is missing
-/// or out of bounds.
+/// `<user>\carnet.dat`: how many racks the player wants a day. `plafondordinaire` if the file is
+/// missing or its number out of bounds.
 [[nodiscard]] int lireplafonddejoueur(common::Disque& disque, std::string_view util);
 [[nodiscard]] std::error_code ecrireplafonddejoueur(common::Disque& disque, std::string_view util,
                                                     int plafond);

@@ -5,14 +5,10 @@
 #include "catalogue.h"
 #include "listes.h"
 #include "maliste.h"
-#include "partage.h"
 #include "texte.h"
 
 namespace carnet {
 namespace {
-
-/// Of a rack only the letters that lengthen it are typed.
-constexpr std::string_view benjamins = "benj_uni.txt";
 
 /// Puts a rack on its list, unless it cannot be played there.
 void poser(Paire& paire, std::string_view identifiant, std::string_view liste) {
@@ -42,15 +38,8 @@ std::string ecrireune(common::Disque& disque, std::string_view fichier,
 }  // namespace
 
 bool surlarangee(std::string_view liste) {
-    const auto fichier = common::sanspartie(common::depuis1252(liste));
-    if (fichier == benjamins)
-        return false;
-    const auto tous = menu::panneaux();
-    return std::none_of(tous.begin(), tous.end(), [&](const menu::Panneau& panneau) {
-        return panneau.typ == common::typrallonges &&
-               std::any_of(panneau.rangees.begin(), panneau.rangees.end(),
-                           [&](const menu::Rangee& rangee) { return rangee.fichier == fichier; });
-    });
+    const auto* rangee = menu::rangeedefichier(common::depuis1252(liste));
+    return rangee == nullptr || rangee->reponses == menu::Reponses::mots;
 }
 
 Paire listedujour(std::span<const Echeance> dues, int plafond) {

@@ -27,13 +27,14 @@ struct Paire {
     std::vector<std::string> simple;    ///< rows, in UTF-8
     std::vector<std::string> multiple;  ///< rows, in UTF-8
     std::size_t laisses = 0;            ///< racks that could not be typed on the personal row
-    std::size_t attendent = 0;          ///< racks over the day's cap
+    std::size_t attendent = 0;          ///< racks beyond the day's limit
 
     [[nodiscard]] std::size_t taille() const { return simple.size() + multiple.size(); }
 };
 
-/// A rack last seen in this list can be typed on the personal row: neither a list of rallonges nor
-/// that of the benjamins, where the letters to type are not those of the rack.
+/// Whether a rack last seen in this list (a file name in Windows-1252) can be played on the
+/// personal row. Not one of a list of extensions or of "Benjamins uniques", where the letters to
+/// type are not those of the rack.
 [[nodiscard]] bool surlarangee(std::string_view liste);
 
 /// The list of the day: the first `plafond` of the racks that can be typed.
@@ -41,8 +42,8 @@ struct Paire {
 /// The same of the hardest racks, all of them.
 [[nodiscard]] Paire listedesdurs(std::span<const Tiragedur> durs);
 
-/// Writes each list in one step; one that would be empty is taken away. A French report of what
-/// could not be done; the empty text: all was.
+/// Writes each list in one step; deletes one that would be empty. Returns a French report of what
+/// failed, empty if nothing did.
 [[nodiscard]] std::string ecrirepaire(common::Disque& disque, const Paire& paire,
                                       const Nomsdepaire& noms);
 

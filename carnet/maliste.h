@@ -11,18 +11,19 @@
 
 namespace carnet {
 
-/// The file of a list that the player names: blanks at the ends go, ".txt" comes if it is missing.
+/// The file of a list that the player names: without blanks at its ends, and with ".txt" added if
+/// it is missing.
 [[nodiscard]] std::string fichierdenom(std::string_view nom);
 
-/// Why a list may not bear that file name, in French; the empty text: it may. Names of the
-/// catalogue are refused, and those that another system or the trainer cannot write or would read
-/// as something else.
+/// Why a list may not have that file name, in French; empty if it may. Refused are the names of the
+/// catalogue, and those that another system or the trainer cannot write or would take for something
+/// else.
 [[nodiscard]] std::string refusdunom(std::string_view fichier);
 
-/// The list is there already.
+/// A list of that name exists.
 [[nodiscard]] bool existeliste(common::Disque& disque, std::string_view fichier);
 
-/// Writes the rows in one step, in the place of a list of that name.
+/// Writes the rows in one step, replacing a list of that name.
 [[nodiscard]] std::error_code enregistrer(common::Disque& disque, std::string_view fichier,
                                           const std::vector<std::string>& rangees);
 

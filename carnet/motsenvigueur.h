@@ -18,8 +18,8 @@ struct Motsenvigueur {
     recherche::Envigueur envigueur;
 };
 
-/// Reads them from the folder of the lists; the free lexicon is read from its sources if they are
-/// not there. A French sentence that says what to do instead, if there are none.
+/// Reads them from the folder of the lists, or if they are not there, those of the free lexicon
+/// from its sources. If there are none at all, a French sentence that says what to do.
 [[nodiscard]] std::variant<Motsenvigueur, std::string> lire(common::Disque& disque,
                                                             const atelier::Chemins& chemins);
 

@@ -1,8 +1,8 @@
 #pragma once
 
-// A player's folder, copied to a dated folder of the player's choice and brought back. Whatever
-// stops it at whatever moment: the folder in play and the copy are there, each whole, under their
-// own names or those told below.
+// Copies a player's folder to a dated folder where the player chooses, and brings a copy back.
+// Whenever either is interrupted, the folder in play and the copy are both complete, under their
+// own names or those given below.
 
 #include <cstddef>
 #include <filesystem>
@@ -16,7 +16,7 @@
 
 namespace carnet {
 
-/// Is told how far the work is, in thousandths; false stops it.
+/// Called with how much of the work is done, in thousandths. Returns false to stop it.
 using Avancecopie = std::function<bool(int millemes)>;
 
 struct Issue {
@@ -25,7 +25,8 @@ struct Issue {
     std::filesystem::path dossier;  ///< what was made
     std::filesystem::path ancien;   ///< what stood in its place before, under its new name
     std::size_t fichiers = 0;
-    std::vector<std::string> laisses;  ///< names in the folder that are no plain files
+    std::vector<std::string>
+        laisses;  ///< names in the folder that are not regular files, not copied
 };
 
 class Sauvegarde {
@@ -36,13 +37,13 @@ class Sauvegarde {
         : jeu_(std::move(jeu)), appels_(&appels) {}
 
     /// Copies `<jeu>/<util>` to `<destination>/Orvane yyyy-mm-dd/<util>`, or to one with a number
-    /// behind the date if that is taken. The copy gets its name once it is whole.
+    /// after the date if that is taken. The copy gets its name once it is complete.
     [[nodiscard]] Issue copier(const std::string& util, const std::filesystem::path& destination,
                                Jour jour, const Avancecopie& avance);
 
     /// What bringing back a copy would do.
     struct Retour {
-        std::string ennui;       ///< why it is no copy, in French; empty: it is one
+        std::string ennui;       ///< why it is not a copy, in French; empty if it is one
         std::string util;        ///< the name of its folder
         bool existe = false;     ///< the player has a folder in play
         bool identique = false;  ///< with the same files
@@ -52,12 +53,12 @@ class Sauvegarde {
     };
     [[nodiscard]] Retour examiner(const std::filesystem::path& copie);
 
-    /// Puts a copy in the place of the player's folder. That one stays, as `<util> avant le
-    /// yyyy-mm-dd`, or with a number behind the date.
+    /// Replaces the player's folder by a copy. The old one is kept as `<util> avant le yyyy-mm-dd`,
+    /// with a number after the date if that is taken.
     [[nodiscard]] Issue remettre(const std::filesystem::path& copie, Jour jour,
                                  const Avancecopie& avance);
-    /// Ends a bringing back that was stopped when all was copied and the name was free. The players
-    /// whose copy waits beside a folder of their name, under `dossierenattente`.
+    /// Completes each `remettre` that was interrupted after the copying, if the player's name is
+    /// free. Returns the players whose name is not: their copy waits under `dossierenattente`.
     [[nodiscard]] std::vector<std::string> achever();
 
   private:

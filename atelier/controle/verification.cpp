@@ -26,27 +26,26 @@ constexpr std::string_view findeligne = "\r\n";
 /// Most lines of notes that the makers of the lists put in the file.
 constexpr std::size_t seizebits = common::plusgrand16;
 
-/// Rows that the help of the menu names, and one that it says is not there.
+/// A row of a list that the help of the menu names, and whether it says that the list has it.
 struct Exemple {
-    std::string_view panneau;
-    std::size_t rangee;
+    std::string_view fichier;
     std::string_view ligne;
     bool present;
 };
 constexpr std::array exemples{
-    Exemple{"rallong", 1, "CELEBRE;T", true},
-    Exemple{"autres", 3, "ACEENOT;ACETONE", true},
-    Exemple{"formdif", 2, "AAAINOPR;PARANOIA", true},
-    Exemple{"formdif", 2, "AEGIOTUZ;ZIGOTEAU", true},
-    Exemple{"formdif", 2, "CEIINOPT;OPTICIEN", true},
-    Exemple{"6", 0, "ACINSU;ACINUS", false},
-    Exemple{"6", 1, "ACINSU;ACINUS", false},
-    Exemple{"6", 2, "ACINSU;ACINUS", false},
-    Exemple{"6", 3, "ACINSU;ACINUS", false},
-    Exemple{"6", 4, "ACINSU;ACINUS", false},
-    Exemple{"6", 5, "ACINSU;ACINUS", false},
-    Exemple{"6", 6, "ACINSU;ACINUS", false},
-    Exemple{"6", 7, "ACINSU;ACINUS", false},
+    Exemple{"rallonge_ar_7a8L.txt", "CELEBRE;T", true},
+    Exemple{"transifausses.txt", "ACEENOT;ACETONE", true},
+    Exemple{"courant_8L.txt", "AAAINOPR;PARANOIA", true},
+    Exemple{"courant_8L.txt", "AEGIOTUZ;ZIGOTEAU", true},
+    Exemple{"courant_8L.txt", "CEIINOPT;OPTICIEN", true},
+    Exemple{"6up.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v6.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v0.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v5.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v1.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v4.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v2.txt", "ACINSU;ACINUS", false},
+    Exemple{"6v3.txt", "ACINSU;ACINUS", false},
 };
 
 class Verificateur {
@@ -141,15 +140,14 @@ class Verificateur {
 
     void catalogue(const fs::path& dossier) {
         for (const auto& panneau : menu::panneaux()) {
-            for (std::size_t i = 0; i < panneau.rangees.size(); ++i) {
-                const auto& rangee = panneau.rangees[i];
+            for (const auto& rangee : panneau.rangees) {
                 const auto chemin = dossier / rangee.fichier;
                 const auto octets = lire(chemin);
                 if (octets)
-                    liste(chemin, *octets, sorte(panneau.cle, i));
+                    liste(chemin, *octets, sorte(rangee));
                 parties(dossier, rangee, octets.value_or(""));
                 if (octets)
-                    chercherexemples(chemin, *octets, panneau.cle, i);
+                    chercherexemples(chemin, *octets, rangee.fichier);
             }
         }
         for (const auto& r : common::listesreference)
@@ -188,9 +186,9 @@ class Verificateur {
     }
 
     void chercherexemples(const fs::path& chemin, const std::string& octets,
-                          std::string_view panneau, std::size_t rangee) {
+                          std::string_view fichier) {
         for (const auto& exemple : exemples) {
-            if (exemple.panneau != panneau || exemple.rangee != rangee)
+            if (exemple.fichier != fichier)
                 continue;
             const auto ligne = std::string(findeligne) + std::string(exemple.ligne);
             const bool trouve =

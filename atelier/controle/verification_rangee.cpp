@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "capitales.h"
-#include "catalogue.h"
 #include "listes.h"
 
 namespace atelier {
@@ -13,7 +12,6 @@ namespace {
 /// Racks of this many letters or more are written smaller.
 constexpr std::size_t tiragelong = 9;
 constexpr std::size_t lettresdebenjamin = 3;
-constexpr std::size_t rangeebenjamins = 5;
 /// Signs that a rack may hold beside its letters.
 constexpr std::string_view signes = "+()12345678-";
 
@@ -54,28 +52,22 @@ std::string nu(std::string_view tirage, Sorte sorte) {
 
 }  // namespace
 
-Sorte sorte(std::string_view panneau, std::size_t rangee) {
-    if (panneau == "rallong")
-        return Sorte::rallonge;
-    if (panneau == "autres" && rangee == rangeebenjamins)
-        return Sorte::benjamin;
-    const auto ecran = menu::panneau(panneau)->rangees[rangee].ecran();
-    return ecran == menu::Ecran::multi ? Sorte::multi : Sorte::simple;
+Sorte sorte(const menu::Rangee& rangee) {
+    switch (rangee.reponses) {
+        case menu::Reponses::devant:
+        case menu::Reponses::derriere:
+            return Sorte::rallonge;
+        case menu::Reponses::benjamin:
+            return Sorte::benjamin;
+        case menu::Reponses::mots:
+            break;
+    }
+    return rangee.ecran() == menu::Ecran::multi ? Sorte::multi : Sorte::simple;
 }
 
 std::optional<Sorte> sorteconnue(std::string_view fichier) {
-    for (const auto& panneau : menu::panneaux()) {
-        for (std::size_t i = 0; i < panneau.rangees.size(); ++i) {
-            const auto& rangee = panneau.rangees[i];
-            if (rangee.fichier == fichier)
-                return sorte(panneau.cle, i);
-            for (std::size_t k = 0; k < rangee.parties; ++k) {
-                if (menu::fichierdepartie(rangee.fichier, k) == fichier)
-                    return sorte(panneau.cle, i);
-            }
-        }
-    }
-    return std::nullopt;
+    const auto* rangee = menu::rangeedefichier(fichier);
+    return rangee == nullptr ? std::nullopt : std::optional(sorte(*rangee));
 }
 
 bool motjouable(std::string_view texte) {

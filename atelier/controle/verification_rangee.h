@@ -9,6 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "catalogue.h"
+
 namespace atelier {
 
 /// The kind of the rows of a list.
@@ -20,8 +22,8 @@ enum class Sorte {
     perso,     ///< a rack and one to five words made of its letters
 };
 
-/// The kind of rows in the lists of a row of the catalogue.
-[[nodiscard]] Sorte sorte(std::string_view panneau, std::size_t rangee);
+/// The kind of rows in the list of a row of the catalogue.
+[[nodiscard]] Sorte sorte(const menu::Rangee& rangee);
 
 /// The kind of rows in a file of the catalogue, parts included; nothing for another file.
 [[nodiscard]] std::optional<Sorte> sorteconnue(std::string_view fichier);

@@ -47,7 +47,7 @@ struct Fiche {
     std::uint32_t lettres = 0;     ///< letters of the word
     std::int16_t difficulte = 0;   ///< of formation
     std::uint16_t marques = 0;     ///< bits of `natures`, and `bitcommun`
-    std::uint16_t anagrammes = 0;  ///< words on its letters, itself counted
+    std::uint16_t anagrammes = 0;  ///< words on its letters, itself included
     std::uint8_t poids = 0;
     std::uint8_t voyelles = 0;  ///< A E I O U Y
 

@@ -15,12 +15,8 @@ using atelier::Sorte;
 
 /// The extensions of a list stand in front of its racks.
 bool rallongesdevant(std::string_view fichier) {
-    const auto nom = common::sanspartie(fichier);
-    for (const auto& rangee : menu::panneau("rallong")->rangees) {
-        if (rangee.fichier == nom)
-            return rangee.libelle.starts_with("Rallonges ava");
-    }
-    return false;
+    const auto* rangee = menu::rangeedefichier(fichier);
+    return rangee != nullptr && rangee->reponses == menu::Reponses::devant;
 }
 
 /// The words that a row asks.

@@ -19,7 +19,7 @@ struct Barre {
     QString nom;
     double valeur = 0;
     QString dit;         ///< its value, as text
-    double repere = -1;  ///< a mark on it, under no one's length; negative: none
+    double repere = -1;  ///< value at which a line is drawn across the bar; negative: none
 };
 /// Columns from left to right, or bars from top to bottom where the names are long.
 struct Barres {
@@ -27,7 +27,7 @@ struct Barres {
     bool couchees = false;
     QString legende{};
 };
-/// Twelve months from one on.
+/// Twelve months from a given one on, a cell for each day.
 struct Annee {
     int annee = 0;
     int mois = 1;

@@ -103,16 +103,16 @@ void peindrecouchees(QPainter& peintre, const QRectF& place, const QPalette& pal
 /// A shape of its own for each mode.
 QPainterPath forme(char mode, const QPointF& ou, double rayon) {
     QPainterPath chemin;
-    if (mode == 'T') {
+    if (mode == modetout) {
         chemin.addEllipse(ou, rayon, rayon);
         return chemin;
     }
-    if (mode == 'E') {
+    if (mode == modeechantillon) {
         chemin.addRect(QRectF(ou.x() - rayon, ou.y() - rayon, 2 * rayon, 2 * rayon));
         return chemin;
     }
     chemin.moveTo(ou.x(), ou.y() - rayon);
-    if (mode == 'R') {
+    if (mode == moderevision) {
         chemin.lineTo(ou.x() + rayon, ou.y() + rayon);
         chemin.lineTo(ou.x() - rayon, ou.y() + rayon);
     } else {
@@ -127,7 +127,7 @@ QPainterPath forme(char mode, const QPointF& ou, double rayon) {
 void peindrelegende(QPainter& peintre, const QRectF& place, const QPalette& palette, double rayon) {
     const QFontMetricsF metrique(peintre.font());
     double ici = place.left();
-    for (const char mode : {'T', 'E', 'R', ' '}) {
+    for (const char mode : {modetout, modeechantillon, moderevision, modepartie}) {
         const auto nom = qt(nomdemode(mode));
         const auto signe = forme(mode, {ici + rayon, place.center().y()}, rayon);
         peintre.fillPath(signe, palette.color(QPalette::Highlight));

@@ -17,7 +17,7 @@ class Fenetrecarnet : public QMainWindow {
     Q_OBJECT
   public:
     explicit Fenetrecarnet(Seance& seance);
-    /// Ends the long work first: it is the pages'.
+    /// First ends the long work, which uses the pages.
     ~Fenetrecarnet() override {
         seance_.tache().finir();
         seance_.lecture().finir();

@@ -1,7 +1,7 @@
 #pragma once
 
-// What a player has done: calendar, days to come, steps, lists, hardest racks; each a picture and
-// its table.
+// The progress of a player: calendar, days to come, steps, lists, hardest racks; each as a picture
+// with its table.
 
 #include <string>
 #include <vector>

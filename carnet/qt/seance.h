@@ -1,7 +1,7 @@
 #pragma once
 
-// What the pages share: the play folder, the words in force, the player and what they worked, and
-// the long works.
+// What the pages share: the play folder, the words in force, the player and the player's work, and
+// the long-running tasks.
 
 #include <filesystem>
 #include <functional>
@@ -21,7 +21,7 @@ namespace carnet {
 class Seance : public QObject {
     Q_OBJECT
   public:
-    /// `jour` tells the day.
+    /// `jour` returns the present day.
     explicit Seance(const Options& options, std::function<Jour()> jour = aujourdhui);
 
     [[nodiscard]] common::Disque& disque() { return disque_; }
@@ -40,12 +40,12 @@ class Seance : public QObject {
     [[nodiscard]] const QStringList& joueurs() const { return joueurs_; }
     [[nodiscard]] const QString& joueur() const { return joueur_; }
     void choisirjoueur(const QString& nom);
-    /// What the player worked; null while it is read for the first time and if there is no player.
+    /// The player's work; null until it has been read, and if there is no player.
     [[nodiscard]] const std::shared_ptr<const Suivi>& suivi() const { return suivi_; }
     [[nodiscard]] Jour jour() const { return jour_(); }
-    /// The reading of what the player worked.
+    /// The task that reads the player's work.
     [[nodiscard]] Tache& lecture() { return lecture_; }
-    /// Looks for players and for what they worked, and reads what has changed.
+    /// Looks for players and for the work of the chosen one, and reads what has changed.
     void relirejoueurs();
 
     /// Reads the words of the folder, in the thread of the long work.
@@ -70,7 +70,7 @@ class Seance : public QObject {
     QStringList joueurs_;
     QString joueur_;
     std::shared_ptr<const Suivi> suivi_;
-    std::string lu_;  ///< signature of what `suivi_` was read of
+    std::string lu_;  ///< signature of the files that `suivi_` was read from
     Tache tache_;
     Tache lecture_;
 };

@@ -20,7 +20,7 @@ class Tache : public QObject {
     ~Tache() override { finir(); }
 
     /// Runs `travail` in the thread, then `fin` here. `fin` gets what a `Faute` said, or nothing.
-    /// One work at a time: false, and nothing is run, while there is one.
+    /// One work at a time: while there is one, returns false and runs nothing.
     bool lancer(std::function<void(const Avance&)> travail,
                 std::function<void(const QString& faute)> fin);
     [[nodiscard]] bool encours() const { return fil_ != nullptr; }

@@ -21,10 +21,10 @@ int intervalle(std::size_t palier, std::string_view identifiant) {
 }
 
 void Echelle::prendre(const profiles::Lignejournal& ligne) {
-    auto* dedans = ligne.trouve ? racks_.chercher(ligne.identifiant) : nullptr;
+    auto* dedans = ligne.trouve ? tirages_.chercher(ligne.identifiant) : nullptr;
     if (ligne.trouve && dedans == nullptr)
         return;
-    auto& place = ligne.trouve ? *dedans : racks_.ranger(ligne.identifiant);
+    auto& place = ligne.trouve ? *dedans : tirages_.ranger(ligne.identifiant);
     place.liste = listes_.ranger(ligne.liste);
     if (!ligne.trouve) {
         place.palier = 0;
@@ -38,7 +38,7 @@ void Echelle::prendre(const profiles::Lignejournal& ligne) {
 
 std::vector<Echeance> Echelle::dues(Jour jour) const {
     std::vector<Echeance> dues;
-    racks_.chaque([&](std::string_view identifiant, const Place& place) {
+    tirages_.chaque([&](std::string_view identifiant, const Place& place) {
         if (place.jour <= jour)
             dues.push_back({place.jour, place.palier, identifiant, listes_.nom(place.liste)});
     });
@@ -51,13 +51,13 @@ std::vector<Echeance> Echelle::dues(Jour jour) const {
 
 std::array<std::size_t, paliers.size()> Echelle::parpalier() const {
     std::array<std::size_t, paliers.size()> nombres{};
-    racks_.chaque([&](std::string_view, const Place& place) { ++nombres.at(place.palier); });
+    tirages_.chaque([&](std::string_view, const Place& place) { ++nombres.at(place.palier); });
     return nombres;
 }
 
 std::vector<std::size_t> Echelle::prevoir(Jour jour, std::size_t suivants) const {
     std::vector<std::size_t> nombres(suivants + 1);
-    racks_.chaque([&](std::string_view, const Place& place) {
+    tirages_.chaque([&](std::string_view, const Place& place) {
         const auto dans = std::max<std::int64_t>(0, std::int64_t{place.jour} - jour);
         if (dans <= static_cast<std::int64_t>(suivants))
             ++nombres[static_cast<std::size_t>(dans)];

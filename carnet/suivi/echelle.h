@@ -1,7 +1,7 @@
 #pragma once
 
-// The ladder of days: when a rack that was missed is to be seen again. It is worked out from the
-// journal each time and stored nowhere.
+// The ladder of days: when a rack that was missed is due again. It is worked out from the journal
+// each time and stored nowhere.
 
 #include <array>
 #include <cstddef>
@@ -17,9 +17,9 @@
 
 namespace carnet {
 
-/// Days from one sight of a rack to the next, by step from 0.
+/// Days after which a rack is due again, by step from 0.
 inline constexpr std::array paliers{1, 3, 7, 15, 30, 60, 120, 240, 365};
-/// Racks given on a day, unless the player says otherwise, and how few or many may be asked for.
+/// Racks a day, unless the player says otherwise, and the bounds of what the player may ask for.
 inline constexpr int plafondordinaire = 60;
 inline constexpr int plafondminimum = 1;
 inline constexpr int plafondmaximum = 900;
@@ -34,11 +34,11 @@ inline constexpr int plafondmaximum = 900;
     return somme;
 }
 
-/// Days from a success that leads to a step to the next sight. From the step of 7 days on the
-/// racks of a day are spread by at most a tenth, each by its own fixed amount.
+/// Days after which a rack that a success has brought to this step is due again. From the step of 7
+/// days on, these vary by up to a tenth from rack to rack, always alike for the same rack.
 [[nodiscard]] int intervalle(std::size_t palier, std::string_view identifiant);
 
-/// A rack that is to be seen again.
+/// A rack that is due.
 struct Echeance {
     Jour jour = 0;
     std::size_t palier = 0;        ///< from 0
@@ -50,15 +50,15 @@ class Echelle {
   public:
     /// Takes the next line of the journal.
     void prendre(const profiles::Lignejournal& ligne);
-    /// The racks due up to a day, the earliest first, ties by lower step, then by the bytes. Valid
+    /// The racks due up to a day, the earliest first; of a day, by step, then by the bytes. Valid
     /// until the next line is taken.
     [[nodiscard]] std::vector<Echeance> dues(Jour jour) const;
-    /// Racks on each step.
+    /// Number of racks on each step.
     [[nodiscard]] std::array<std::size_t, paliers.size()> parpalier() const;
-    /// Racks due up to `jour`, then those of each of the `suivants` days behind it.
+    /// Number of racks due up to `jour`, then of those due on each of the `suivants` days after it.
     [[nodiscard]] std::vector<std::size_t> prevoir(Jour jour, std::size_t suivants) const;
-    /// Racks that have entered.
-    [[nodiscard]] std::size_t taille() const { return racks_.taille(); }
+    /// Number of racks on the ladder.
+    [[nodiscard]] std::size_t taille() const { return tirages_.taille(); }
 
   private:
     struct Place {
@@ -67,7 +67,7 @@ class Echelle {
         std::uint32_t liste = 0;  ///< in `listes_`
     };
 
-    Parmots<Place> racks_;
+    Parmots<Place> tirages_;
     Nomsdelistes listes_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// Names of lists, each held once. A series is of one list: the name of the line before comes again.
+// Names of lists, each stored once. The lines of a series name the same list, so the last name is
+// tried first.
 
 #include <cstdint>
 #include <string>
@@ -13,7 +14,7 @@ namespace carnet {
 
 class Nomsdelistes {
   public:
-    /// The place of a name, which it keeps.
+    /// The place of a name, from 0, which never changes.
     std::uint32_t ranger(std::string_view nom) {
         if (derniere_ < noms_.size() && noms_[derniere_] == nom)
             return derniere_;

@@ -1,7 +1,7 @@
 #pragma once
 
-// A value for each of many short texts. A short text stands beside its value, and no text is an
-// allocation of its own, so that a look-up misses the cache twice.
+// A value for each of many short texts. Short texts are stored beside their values, and none is
+// allocated by itself, so that a look-up costs two cache misses.
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@
 
 namespace carnet {
 
-/// Mixes the bytes of a text eight at a time. Not for anything that is kept or shown.
+/// A hash of a text, taken eight bytes at a time. It differs between machines: not to be stored.
 [[nodiscard]] inline std::uint32_t empreinte(std::string_view texte) {
     constexpr std::uint64_t melange = 0x9e3779b97f4a7c15;
     std::uint64_t somme = texte.size();
@@ -69,7 +69,7 @@ class Parmots {
     [[nodiscard]] std::size_t taille() const { return entrees_.size(); }
 
   private:
-    /// With the place of a rack on the ladder this fills a line of the cache.
+    /// An entry with the place of a rack on the ladder (`Echelle`) then fills one cache line.
     static constexpr std::size_t court = 36;
     struct Entree {
         std::size_t taille = 0;

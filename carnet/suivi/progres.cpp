@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view separateur = " - ";
 
 bool estmode(char signe) {
-    return signe == 'T' || signe == 'E' || signe == 'R';
+    return signe == modetout || signe == modeechantillon || signe == moderevision;
 }
 
 /// The name behind the percent and the mode, which parts do not have.
@@ -58,7 +58,7 @@ bool prendrerecord(std::string_view record, Bilans& bilans) {
     if (const auto jour = lirejour(bilan.derniereon)) {
         const bool mode = nom.data() != record.data() + pourcent + 1 + separateur.size();
         bilan.points.push_back(
-            {*jour, common::valeur(bilan.dernier), mode ? lu->mode.front() : ' '});
+            {*jour, common::valeur(bilan.dernier), mode ? lu->mode.front() : modepartie});
     }
     return true;
 }

@@ -10,14 +10,21 @@
 
 #include "calendrier.h"
 #include "fichier.h"
+#include "partage.h"
 
 namespace carnet {
+
+/// Modes of a run, as letters.
+inline constexpr char modetout = common::modes::tout.front();
+inline constexpr char modeechantillon = common::modes::echantillon.front();
+inline constexpr char moderevision = common::modes::revision.front();
+inline constexpr char modepartie = ' ';
 
 /// A run of a list.
 struct Passage {
     Jour jour = 0;
     double pourcent = 0;
-    char mode = ' ';  ///< T, E or R; a blank for a part
+    char mode = modepartie;
 };
 
 /// What a player has done with a list, or with a part of one.

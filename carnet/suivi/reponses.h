@@ -19,10 +19,12 @@ struct Refus {
 
 using Reponse = std::variant<std::string, Refus>;
 
-/// A name that may be that of a player's folder: neither empty nor a way out of the play folder.
+/// Whether a name may be that of a player's folder: it is not empty and does not lead out of the
+/// play folder.
 [[nodiscard]] bool nomdejoueur(std::string_view util);
 
-/// A day's cap; nothing for a text that is no number from `plafondminimum` to `plafondmaximum`.
+/// The most racks of a day; nothing for a text that is not a number from `plafondminimum` to
+/// `plafondmaximum`.
 [[nodiscard]] std::optional<int> lireplafond(std::string_view texte);
 
 /// What is due for a player up to a day: a line a rack, "due day;step (1 to 9);rack;solutions", in

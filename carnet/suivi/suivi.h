@@ -16,7 +16,7 @@ namespace carnet {
 
 struct Suivi {
     std::string util;
-    Jour jour = 0;  ///< on which it is looked at
+    Jour jour = 0;  ///< the day that due racks are counted to
     Echelle echelle;
     Travail travail;
     Bilans bilans;
@@ -24,11 +24,11 @@ struct Suivi {
     std::string ennui;  ///< what could not be read, in French; empty: all was
 };
 
-/// Is told how many lines were read; false stops the reading.
+/// Called with the number of lines read so far. Returns false to stop the reading.
 using Lues = std::function<bool(std::size_t lignes)>;
 
 /// Reads journal and results of a player. A file that is missing counts as empty. False if it was
-/// stopped: `suivi` is then of no use.
+/// stopped: `suivi` is then incomplete.
 [[nodiscard]] bool liresuivi(common::Disque& disque, Suivi& suivi, const Lues& lues);
 
 }  // namespace carnet

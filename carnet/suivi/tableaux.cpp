@@ -54,11 +54,11 @@ std::string pourcentage(double pourcent) {
 
 std::string nomdemode(char mode) {
     switch (mode) {
-        case 'T':
+        case modetout:
             return "Toute la liste";
-        case 'E':
+        case modeechantillon:
             return "Échantillon";
-        case 'R':
+        case moderevision:
             return "Révision";
         default:
             return "Partie";

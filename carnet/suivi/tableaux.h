@@ -20,8 +20,8 @@ struct Tableau {
     std::vector<std::vector<std::string>> rangees;  ///< as many cells as titles
 };
 
-/// The table as a file for a spreadsheet: UTF-8 with its mark, ";" between cells, CR LF. A cell
-/// that a spreadsheet would read as a formula gets an apostrophe in front.
+/// The table as a file for a spreadsheet: UTF-8 with a byte order mark, ";" between cells, CR LF. A
+/// cell that a spreadsheet would read as a formula gets an apostrophe in front.
 [[nodiscard]] std::string encsv(const Tableau& tableau);
 
 /// "12,5 %"

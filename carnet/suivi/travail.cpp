@@ -18,7 +18,7 @@ bool plusdur(const Tiragedur& a, const Tiragedur& b) {
 void Travail::prendre(const profiles::Lignejournal& ligne) {
     auto& journee = journees_[ligne.jour];
     ++journee.juges;
-    auto& compte = racks_.ranger(ligne.identifiant);
+    auto& compte = tirages_.ranger(ligne.identifiant);
     ++compte.vus;
     if (ligne.trouve)
         ++journee.trouves;
@@ -30,7 +30,7 @@ void Travail::prendre(const profiles::Lignejournal& ligne) {
 
 std::vector<Tiragedur> Travail::durs(std::size_t nombre) const {
     std::vector<Tiragedur> durs;
-    racks_.chaque([&](std::string_view identifiant, const Compte& compte) {
+    tirages_.chaque([&](std::string_view identifiant, const Compte& compte) {
         if (compte.manques > 0)
             durs.push_back({identifiant, listes_.nom(compte.liste), compte.vus, compte.manques,
                             compte.dernier});

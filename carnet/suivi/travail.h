@@ -1,6 +1,6 @@
 #pragma once
 
-// What a player has worked, from the journal: racks by day, and how often each was missed.
+// The work of a player, from the journal: racks by day, and how often each was missed.
 
 #include <cstddef>
 #include <cstdint>
@@ -48,7 +48,7 @@ class Travail {
         std::uint32_t liste = 0;
     };
     std::map<Jour, Journee> journees_;
-    Parmots<Compte> racks_;
+    Parmots<Compte> tirages_;
     Nomsdelistes listes_;
 };
 

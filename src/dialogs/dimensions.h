@@ -5,6 +5,9 @@
 
 #include "fichier.h"
 
+// The sizes of pictures. A form takes the size of the picture that it shows, and forms see no Qt:
+// so the header of the file is read here, through the disk of the rules.
+
 namespace dialogs {
 
 /// The size of a picture, in pixels.

@@ -1,6 +1,7 @@
 #pragma once
 
-// New files that wait, under numbers, until all are there; then each takes its place.
+// New files, written under numbers in a folder of their own. Once all are there, each is moved to
+// its place.
 
 #include <deque>
 #include <filesystem>
@@ -15,21 +16,21 @@ namespace installation {
 
 class Attente {
   public:
-    /// The waiting folder is made when it is needed.
+    /// `dossier` is created when the first file is added.
     Attente(common::Appels& appels, std::filesystem::path dossier)
         : appels_(appels), dossier_(std::move(dossier)) {}
     Attente(const Attente&) = delete;
     Attente& operator=(const Attente&) = delete;
-    /// Removes what still waits, from this run and from one that was killed, and the folder.
+    /// Deletes the folder with what is left in it, by this run or by one that was killed.
     ~Attente();
 
     /// Writes the file of the next number, from 0.
     [[nodiscard]] std::error_code ajouter(std::string_view octets);
     /// Returns once all files would survive a power cut. To be called before the first is placed.
     [[nodiscard]] std::error_code synchroniser();
-    /// Puts the file of a number in the place of another or of none.
+    /// Moves the file of a number to `place`, replacing the file there, if any.
     [[nodiscard]] std::error_code placer(std::size_t rang, const std::filesystem::path& place);
-    /// Returns once all that were placed would be found there after a power cut.
+    /// Returns once the moves of all placed files would survive a power cut.
     [[nodiscard]] std::error_code finir();
 
     [[nodiscard]] std::filesystem::path fichier(std::size_t rang) const;

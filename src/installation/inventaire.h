@@ -1,6 +1,6 @@
 #pragma once
 
-// What comes with the program: the sum and name of each file (format: docs/formats.md).
+// What comes with the program: the checksum and name of each file (format: docs/formats.md).
 
 #include <filesystem>
 #include <string>
@@ -16,7 +16,7 @@ inline constexpr std::string_view fichierinventaire = "inventaire.txt";
 
 struct Fourni {
     std::string somme;   ///< SHA-256 in lower-case hexadecimal
-    std::string chemin;  ///< a path of the rules, relative to the folder
+    std::string chemin;  ///< relative to the folder, with backslashes
     bool operator==(const Fourni&) const = default;
 };
 
@@ -24,18 +24,19 @@ struct Fourni {
 [[nodiscard]] std::string lignede(const Fourni& fourni);
 
 struct Inventaire {
-    std::string version;  ///< empty if nobody has given one
+    std::string version;  ///< empty if none is stated
     std::vector<Fourni> fichiers;
 };
 
-/// The inventory of a folder as it stands, in the order of the paths, without its inventory. Throws
-/// `common::Faute`.
+/// The inventory of the files now in a folder, in the order of their paths. A file of that name is
+/// left out. Throws `common::Faute`.
 [[nodiscard]] Inventaire inventorier(const std::filesystem::path& dossier);
 
-/// A version that tells two sets of files apart even if their program bears one number.
+/// The version of a set of files: the program's number, then a checksum, so that two sets differ
+/// even under the same number.
 [[nodiscard]] std::string versionde(std::string_view numero, const std::vector<Fourni>& fichiers);
 
-/// The inventory as a text, and back. Reading throws `common::Faute` for what is no inventory.
+/// The inventory as a text, and back. Reading throws `common::Faute` for any other text.
 [[nodiscard]] std::string ecrire(const Inventaire& inventaire);
 [[nodiscard]] Inventaire lireinventaire(common::Disque& disque);
 

@@ -19,19 +19,20 @@ struct Environs {
 /// The environs of a program whose executable stands in `programme`. One source a system.
 [[nodiscard]] Environs environs(const std::filesystem::path& programme);
 
-/// `$XDG_DATA_HOME/orvane`, or `.local/share/orvane` in the home; null is a variable that is not
-/// set. A path that does not begin at the root says nothing.
+/// `$XDG_DATA_HOME/orvane`, or `.local/share/orvane` in the home; empty if neither is known. The
+/// arguments are the two variables, null if not set; a relative path counts as not set.
 [[nodiscard]] std::filesystem::path donneesxdg(const char* donnees, const char* maison);
 
-/// The play folder of a program, and where that is filled from.
+/// The play folder of a program, and the folder that it is filled from.
 struct Lieu {
     std::filesystem::path dossier;  ///< empty: the folder in which the program was started
-    std::filesystem::path fournis;  ///< what came with an installed program; empty for another
+    std::filesystem::path
+        fournis;  ///< what came with an installed program; empty if it is not installed
     bool operator==(const Lieu&) const = default;
 };
 
-/// The folder of the executable when that holds `listes` and can be written (a stick, an archive
-/// that was unpacked). Otherwise, for a program that has an inventory beside it or in
+/// The folder of the executable when that holds `listes` and can be written (on a USB stick,
+/// or unpacked from an archive). Otherwise, for a program that has an inventory beside it or in
 /// `../share/games/orvane`, the player's folder. Otherwise the one in which it was started. Throws
 /// `common::Faute` if the player's folder is wanted and unknown.
 [[nodiscard]] Lieu choisir(common::Appels& appels, const Environs& environs);

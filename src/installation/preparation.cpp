@@ -18,7 +18,7 @@ void verifier(const fs::path& dossier, const std::error_code& erreur) {
             common::rapportfichier(action, dossier.string(), common::raison(erreur)));
 }
 
-/// Makes the folder, and those that it is to be in.
+/// Creates the folder and its missing parents.
 std::error_code creer(common::Appels& appels, const fs::path& dossier) {
     auto erreur = appels.creerdossier(dossier);
     if (erreur == std::errc::no_such_file_or_directory && dossier.has_relative_path()) {

@@ -5,12 +5,12 @@
 
 namespace installation {
 
-/// Makes and brings up to date the play folder of a program that starts, if that is to be done, and
-/// says which it is. Throws `common::Faute`.
+/// Chooses the play folder of a program that is starting, creates it or brings it up to date if it
+/// is that of an installed program, and returns it. Throws `common::Faute`.
 [[nodiscard]] Lieu preparer(common::Appels& appels, const Environs& environs);
 
-/// The same for this program, which then works in that folder. `programme` is the folder of the
-/// executable.
+/// Does the same for this program and makes that folder its working folder. `programme` is the
+/// folder of the executable.
 Lieu sinstaller(const std::filesystem::path& programme);
 
 }  // namespace installation

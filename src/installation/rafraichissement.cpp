@@ -52,8 +52,8 @@ class Connus {
     std::set<std::string, std::less<>> lignes_;
 };
 
-/// The file as the folder has it; nothing if there is none. Without a sum if what has its name is
-/// no file, or none that the player lets be read.
+/// The file as it is in the folder; nothing if it is missing. Its sum is empty if what has its name
+/// is not a file or cannot be read.
 std::optional<Fourni> present(common::Disque& cible, const std::string& chemin) {
     Fourni fichier{{}, chemin};
     const auto erreur = sommer(cible, chemin, fichier.somme);

@@ -175,6 +175,19 @@ const Panneau* panneau(std::string_view cle) {
     return trouve == lespanneaux.end() ? nullptr : trouve;
 }
 
+const Rangee* rangeedefichier(std::string_view fichier) {
+    for (const auto& p : lespanneaux) {
+        for (const auto& rangee : p.rangees) {
+            bool trouvee = rangee.fichier == fichier;
+            for (std::size_t i = 0; i < rangee.parties && !trouvee; ++i)
+                trouvee = fichierdepartie(rangee.fichier, i) == fichier;
+            if (trouvee)
+                return &rangee;
+        }
+    }
+    return nullptr;
+}
+
 std::span<const Boutondegroupe> boutonsdegroupe() {
     return groupes;
 }

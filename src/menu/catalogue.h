@@ -25,6 +25,15 @@ enum class Ecran : std::uint8_t {
     multi,  ///< a rack has two to five solutions
 };
 
+/// What the answers of a list are made of. During play the title of the list tells the same
+/// (`series::naturedelaliste`).
+enum class Reponses : std::uint8_t {
+    mots,      ///< words with the letters of their rack
+    devant,    ///< extensions: letters that make a word in front of the rack
+    derriere,  ///< extensions: letters that make a word behind it
+    benjamin,  ///< three letters that make a word in front of the rack
+};
+
 /// A row of a panel: one list, whole and in parts.
 struct Rangee {
     std::string_view libelle;   ///< caption, UTF-8
@@ -35,6 +44,7 @@ struct Rangee {
     /// Texts of the help box, lines separated by a line feed. Empty: the box stays as it is.
     std::string_view aidetout{};     ///< over "Tout": how the list was made
     std::string_view aidelibelle{};  ///< over its caption: what the list is for
+    Reponses reponses = Reponses::mots;
 
     [[nodiscard]] constexpr Ecran ecran() const {
         return solutions > 1 ? Ecran::multi : Ecran::form1;
@@ -88,6 +98,9 @@ struct Panneau {
 
 /// The panel with this key; null if there is none.
 [[nodiscard]] const Panneau* panneau(std::string_view cle);
+
+/// The row of a list, given the file of the whole list or of a part; null for any other file.
+[[nodiscard]] const Rangee* rangeedefichier(std::string_view fichier);
 
 /// The buttons that show a group, in the order of the menu.
 [[nodiscard]] std::span<const Boutondegroupe> boutonsdegroupe();

@@ -10,6 +10,7 @@
 namespace menu::listes {
 
 using enum Insigne;
+using enum Reponses;
 
 inline constexpr std::string_view rallonges =
     "Rallonges particulières à privilégier (CELEBRET plutôt que CELEBRER).\n? = plusieurs "
@@ -33,14 +34,14 @@ inline constexpr std::array formdif{
 };
 
 inline constexpr std::array rallong{
-    Rangee{"Rallonges avant 7-8", "rallonge_av_7a8L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges arrière 7-8", "rallonge_ar_7a8L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges avant 8-9", "rallonge_av_8a9L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges arrière 8-9", "rallonge_ar_8a9L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges avant 6-7", "rallonge_av_6a7L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges arrière 6-7", "rallonge_ar_6a7L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges avant 5-6", "rallonge_av_5a6L.txt", 0, 1, aucun, "", rallonges},
-    Rangee{"Rallonges arrière 5-6", "rallonge_ar_5a6L.txt", 0, 1, aucun, "", rallonges},
+    Rangee{"Rallonges avant 7-8", "rallonge_av_7a8L.txt", 0, 1, aucun, "", rallonges, devant},
+    Rangee{"Rallonges arrière 7-8", "rallonge_ar_7a8L.txt", 0, 1, aucun, "", rallonges, derriere},
+    Rangee{"Rallonges avant 8-9", "rallonge_av_8a9L.txt", 0, 1, aucun, "", rallonges, devant},
+    Rangee{"Rallonges arrière 8-9", "rallonge_ar_8a9L.txt", 0, 1, aucun, "", rallonges, derriere},
+    Rangee{"Rallonges avant 6-7", "rallonge_av_6a7L.txt", 0, 1, aucun, "", rallonges, devant},
+    Rangee{"Rallonges arrière 6-7", "rallonge_ar_6a7L.txt", 0, 1, aucun, "", rallonges, derriere},
+    Rangee{"Rallonges avant 5-6", "rallonge_av_5a6L.txt", 0, 1, aucun, "", rallonges, devant},
+    Rangee{"Rallonges arrière 5-6", "rallonge_ar_5a6L.txt", 0, 1, aucun, "", rallonges, derriere},
 };
 
 inline constexpr std::array autres{
@@ -58,7 +59,8 @@ inline constexpr std::array autres{
            "(liste initiale Oriel Vantac)"},
     Rangee{"Benjamins uniques", "benj_uni.txt", 0, 1, aucun, "",
            "Un benjamin unique de 3L à retrouver à partir de mots de 5 à 7 lettres (liste Oriel "
-           "Vantac)"},
+           "Vantac)",
+           benjamin},
     Rangee{"Verbe+1=Verbe", "vbavb.txt", 0, 1, verbe, "",
            "Tirages sous la forme VERBE+1 qui donnent aussi un verbe."},
 };

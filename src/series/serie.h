@@ -109,7 +109,6 @@ void retenirjugement(Serie& serie, int place, std::vector<std::string> solutions
 /// What the racks of the series were judged on, in the order of the screen.
 [[nodiscard]] std::vector<profiles::Tiragejuge> jugements(const Serie& serie);
 
-/// Takes a judgement of the seconds criterion; none is told if the box had failed before.
 /// Records whether a box met the seconds criterion, and returns it; nothing if the box had failed
 /// before.
 std::optional<bool> retenir(Serie& serie, int boite, bool bon);

@@ -1,7 +1,10 @@
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <map>
 #include <numeric>
+#include <string>
+#include <zlib.h>
 
 #include <gtest/gtest.h>
 
@@ -81,14 +84,22 @@ TEST(Bmp, HoldsBlueGreenRedOpacityFromTheFoot) {
     EXPECT_EQ(octets.substr(petit(octets, 10, 4)), "\7\6\5\10\3\2\1\4");
 }
 
-TEST(Png, HoldsItsRowsUnfilteredAndStored) {
+TEST(Png, HoldsItsRowsUnfilteredAndCompressed) {
     const Image image{1, 2, {1, 2, 3, 4, 5, 6, 7, 8}};
     const std::string octets = png(image);
     EXPECT_EQ(octets.substr(0, 8), "\x89PNG\r\n\x1a\n");
     EXPECT_EQ(gros(octets, 8), 13U);
     EXPECT_EQ(gros(octets, 16), 1U);
     EXPECT_EQ(gros(octets, 20), 2U);
-    EXPECT_NE(octets.find(std::string("\0\1\2\3\4\0\5\6\7\10", 10)), std::string::npos);
+    constexpr std::size_t contenu = 41;  // behind the signature, IHDR and the head of IDAT
+    std::array<Bytef, 11> lignes{};
+    uLongf taille = lignes.size();
+    ASSERT_EQ(
+        uncompress(lignes.data(), &taille, reinterpret_cast<const Bytef*>(octets.data()) + contenu,
+                   gros(octets, contenu - 8)),
+        Z_OK);
+    EXPECT_EQ(std::string(lignes.begin(), lignes.begin() + taille),
+              std::string("\0\1\2\3\4\0\5\6\7\10", 10));
     EXPECT_EQ(gros(octets, octets.size() - 4), 0xAE426082U) << "the known sum of an empty IEND";
 }
 

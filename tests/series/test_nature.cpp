@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "catalogue.h"
 #include "nature.h"
 
 namespace {
@@ -39,6 +40,29 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"le_panneau_passe_avant_le_titre", "rallong", "Benjamins uniques",
             Nature::Rallongesautres}),
     [](const auto& cas) { return cas.param.regle; });
+
+Nature attendue(menu::Reponses reponses) {
+    switch (reponses) {
+        case menu::Reponses::devant:
+            return Nature::Rallongesavant;
+        case menu::Reponses::derriere:
+            return Nature::Rallongesarriere;
+        case menu::Reponses::benjamin:
+            return Nature::Benjamins;
+        case menu::Reponses::mots:
+            break;
+    }
+    return Nature::Simple;
+}
+
+TEST(Naturesducatalogue, le_titre_de_chaque_liste_dit_ce_que_dit_sa_rangee) {
+    for (const auto& panneau : menu::panneaux()) {
+        for (const auto& rangee : panneau.rangees)
+            EXPECT_EQ(series::naturedelaliste(panneau.typ, rangee.libelle),
+                      attendue(rangee.reponses))
+                << rangee.libelle;
+    }
+}
 
 struct Effet {
     const char* regle;

@@ -26,8 +26,8 @@ class PlateformeQt : public Plateforme {
     [[nodiscard]] std::string dossierprogramme() override;
     void accueillir(Formulaire& formulaire) override { fenetrier_.accueillir(formulaire); }
 
-    /// An installed program leaves its own folder alone: it is in its player's that it finds
-    /// itself.
+    /// Whether the program is installed: it then runs in its player's folder, and writes nothing to
+    /// that of its executable (`dossierprogramme`).
     void installee(bool installee) { installee_ = installee; }
 
     [[nodiscard]] Fenetrier& fenetrier() { return fenetrier_; }

@@ -40,6 +40,12 @@ TEST(Images, s_allongent_avec_les_rangees_et_s_elargissent_avec_les_mots) {
     EXPECT_GT(nombre(table, 20), nombre(courte, 20));
 }
 
+TEST(Images, sont_comprimees) {
+    const auto png = dessinertable("TITRE", rangees, 2);
+    constexpr std::size_t compression = 8;  // pixels a byte; stored, a byte has two
+    EXPECT_LT(png.size() * compression, std::size_t{nombre(png, 16)} * nombre(png, 20));
+}
+
 TEST(Images, une_table_vide_n_a_que_son_titre) {
     EXPECT_GT(nombre(dessinertable("TIRAGES DE 7 LETTRES", {}, 1), 16), 100U);
 }

@@ -27,7 +27,7 @@ constexpr unsigned bit(ChampFormulaire champ) {
 }
 
 // The design that a screen of 1366 by 768 shows one to one. Smaller forms take its scale, so that
-// all windows of the program speak in the same size.
+// all windows of the program have texts of the same size.
 constexpr QSize designdereference(20490, 10980);
 constexpr int decor = 36;           // pixels that a title bar takes, at the most
 constexpr double corpsdemenu = 10;  // points
@@ -264,8 +264,8 @@ void Fenetre::apparaitre() {
         ouvrirdevant();
     else
         bureau_.montree(*this);
-    // A window that follows another comes up dressed. The first one, for which somebody waits, is
-    // dressed while the desktop finds it its place, and painted no earlier either.
+    // A window that replaces another gets its widgets before it is shown. The first one, which the
+    // player waits for, gets them while the desktop places it, and is not painted before either.
     if (voisine != nullptr)
         completer();
     show();
@@ -291,7 +291,8 @@ void Fenetre::rattacher() {
         return;
     // A window that shows itself just now takes the keyboard, though nothing has told so yet.
     const bool active = active_ && bureau_.enavant() == this;
-    const bool ailleurs = QApplication::activeWindow() == nullptr;  // the player is
+    const bool ailleurs =
+        QApplication::activeWindow() == nullptr;  // the player is in another program
     const auto place = pos();
     hide();
     windowHandle()->setTransientParent(dessous->windowHandle());

@@ -6,6 +6,9 @@
 #include <QByteArray>
 #include <QString>
 
+// Plays wave files. They are decoded here, since the length of a sound has to be known before it is
+// played: no device, however it hangs, may hold the program up for longer.
+
 namespace ui::qt {
 
 class Minuteur;
