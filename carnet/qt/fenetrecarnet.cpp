@@ -12,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTabWidget>
 
@@ -24,6 +25,17 @@ constexpr int millemes = 1000;
 /// Wanted size, in characters and lines of the system's font.
 constexpr int largeur = 180;
 constexpr int hauteur = 40;
+
+/// A page scrolls where the screen is too small for it.
+QScrollArea* defilant(QWidget* contenu, QWidget* parent) {
+    auto* vue = new QScrollArea(parent);
+    vue->setWidget(contenu);
+    vue->setWidgetResizable(true);
+    vue->setFrameShape(QFrame::NoFrame);
+    vue->setFocusPolicy(Qt::NoFocus);
+    vue->setFocusProxy(contenu);
+    return vue;
+}
 
 }  // namespace
 
@@ -52,7 +64,7 @@ void Fenetrecarnet::garnir() {
     for (const auto& page : pages()) {
         const auto titre = QString::fromUtf8(page.titre);
         auto* contenu = page.faire(seance_, onglets_);
-        const int onglet = onglets_->addTab(contenu, titre);
+        const int onglet = onglets_->addTab(defilant(contenu, onglets_), titre);
         auto* aller = carnet->addAction(titre, this, [this, onglet] {
             onglets_->setCurrentIndex(onglet);
             onglets_->currentWidget()->setFocus();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <functional>
 #include <set>
 
@@ -20,7 +19,6 @@
 #include <QVBoxLayout>
 
 #include "boites.h"
-#include "disquereel.h"
 #include "listedujour.h"
 #include "planche.h"
 #include "seance.h"
@@ -266,12 +264,7 @@ void Pageprogres::montrerannee() {
 }
 
 void Pageprogres::ecrire(const QString& chemin, const std::string& octets) {
-    const std::filesystem::path fichier(utf8(chemin));
-    common::DisqueReel disque(fichier.parent_path());
-    if (const auto erreur = disque.remplacer(fichier.filename().string(), octets))
-        avertir(this, chemin + QStringLiteral(" ne peut être écrit : ") +
-                          qt(common::raison(erreur)) + QLatin1Char('.'));
-    else
+    if (ecrirefichier(this, chemin, octets))
         dire(chemin + QStringLiteral(" est écrit."));
 }
 
