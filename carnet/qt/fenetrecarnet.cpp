@@ -33,8 +33,12 @@ QScrollArea* defilant(QWidget* contenu, QWidget* parent) {
     vue->setWidgetResizable(true);
     vue->setFrameShape(QFrame::NoFrame);
     vue->setFocusPolicy(Qt::NoFocus);
-    vue->setFocusProxy(contenu);
     return vue;
+}
+
+/// To the first field of the page in front.
+void viser(const QTabWidget& onglets) {
+    static_cast<QScrollArea*>(onglets.currentWidget())->widget()->setFocus();
 }
 
 }  // namespace
@@ -52,7 +56,7 @@ Fenetrecarnet::Fenetrecarnet(Seance& seance)
     garnir();
     choisirjoueur();
     suivre();
-    onglets_->currentWidget()->setFocus();
+    viser(*onglets_);
     const auto place = screen()->availableGeometry().size() * 19 / 20;
     resize(std::min(place.width(), fontMetrics().averageCharWidth() * largeur),
            std::min(place.height(), fontMetrics().lineSpacing() * hauteur));
@@ -67,7 +71,7 @@ void Fenetrecarnet::garnir() {
         const int onglet = onglets_->addTab(defilant(contenu, onglets_), titre);
         auto* aller = carnet->addAction(titre, this, [this, onglet] {
             onglets_->setCurrentIndex(onglet);
-            onglets_->currentWidget()->setFocus();
+            viser(*onglets_);
         });
         aller->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + rang++)));
         if (!contenu->actions().empty())

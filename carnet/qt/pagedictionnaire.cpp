@@ -108,8 +108,6 @@ Pagedictionnaire::Pagedictionnaire(Seance& seance, QWidget* parent)
     mise->addWidget(marques);
     mise->addLayout(bas);
     setFocusProxy(choisir_);
-    setTabOrder(revenir_, choisir_);
-    setTabOrder(choisir_, examen_);
 
     connect(choisir_, &QPushButton::clicked, this, &Pagedictionnaire::choisir);
     connect(faire_, &QPushButton::clicked, this, &Pagedictionnaire::faire);

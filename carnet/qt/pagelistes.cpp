@@ -45,6 +45,8 @@ Pagelistes::Pagelistes(Seance& seance, QWidget* parent)
       table_(new QTableView(this)),
       compte_(new QLabel(this)),
       message_(new QLabel(this)) {
+    // Before a layout takes the fields: this sets the page's place in the order of Tab.
+    setFocusProxy(criteres_->findChild<QWidget*>(QStringLiteral("longueur")));
     auto* gauche = new QScrollArea(this);
     gauche->setWidget(criteres_);
     gauche->setWidgetResizable(true);
@@ -61,8 +63,6 @@ Pagelistes::Pagelistes(Seance& seance, QWidget* parent)
     partage->setChildrenCollapsible(false);
     auto* mise = new QVBoxLayout(this);
     mise->addWidget(partage);
-    setFocusProxy(criteres_->findChild<QWidget*>(QStringLiteral("longueur")));
-    setTabOrder(criteres_, table_);
     connect(criteres_, &Criteres::change, this, &Pagelistes::chercher);
     connect(&seance_, &Seance::motschanges, this, [this] {
         proposer();

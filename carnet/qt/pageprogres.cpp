@@ -65,6 +65,8 @@ Pageprogres::Pageprogres(Seance& seance, QWidget* parent)
       planche_(new Planche(QString::fromUtf8(libelles.front().titre), this)),
       surlesdurs_(nullptr),
       message_(new QLabel(this)) {
+    // Before a layout takes the choice: this sets the page's place in the order of Tab.
+    setFocusProxy(vues_);
     vide_->setObjectName(QStringLiteral("vide"));
     vide_->setWordWrap(true);
     message_->setObjectName(QStringLiteral("fait"));
@@ -78,7 +80,6 @@ Pageprogres::Pageprogres(Seance& seance, QWidget* parent)
     mise->addWidget(message_);
     mise->addWidget(boutons());
     dire({});
-    setFocusProxy(vues_);
     connect(vues_, &QComboBox::currentIndexChanged, this, [this] {
         dire({});
         proposer();

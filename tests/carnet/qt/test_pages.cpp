@@ -12,8 +12,10 @@
 #include <QMenuBar>
 #include <QPdfWriter>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QTest>
 #include <QThread>
 #include <gmock/gmock.h>
 
@@ -217,6 +219,42 @@ TEST_F(Fenetre, une_lettre_ne_mene_qu_a_un_endroit) {
             EXPECT_EQ(std::count(toutes.begin(), toutes.end(), lettre), 1)
                 << onglets->tabText(i).toStdString() << " : Alt+" << lettre.toLatin1();
         EXPECT_GT(toutes.size(), 2U);
+    }
+}
+
+/// What Tab can reach among what is on show.
+std::vector<QWidget*> atteignables(const Fenetrecarnet& fenetre) {
+    std::vector<QWidget*> tous;
+    for (auto* quoi : fenetre.findChildren<QWidget*>()) {
+        const bool tab = (quoi->focusPolicy() & Qt::TabFocus) != 0;
+        if (tab && quoi->focusProxy() == nullptr && quoi->isVisible() && quoi->isEnabled() &&
+            qobject_cast<QComboBox*>(quoi->parent()) == nullptr)
+            tous.push_back(quoi);
+    }
+    return tous;
+}
+
+TEST_F(Fenetre, la_touche_tab_mene_partout) {
+    seance.relire();
+    attendre(&seance, SIGNAL(motschanges()));
+    auto* onglets = fenetre.findChild<QTabWidget*>();
+    fenetre.show();
+    fenetre.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+    for (int i = 0; i < onglets->count(); ++i) {
+        onglets->setCurrentIndex(i);
+        qobject_cast<QScrollArea*>(onglets->currentWidget())->widget()->setFocus();
+        std::set<const QWidget*> vus;
+        const auto tous = atteignables(fenetre);
+        for (std::size_t pas = 0; pas < 2 * tous.size(); ++pas) {
+            vus.insert(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        for (const auto* quoi : tous)
+            EXPECT_TRUE(vus.contains(quoi))
+                << onglets->tabText(i).toStdString() << " : " << quoi->metaObject()->className()
+                << ' ' << quoi->objectName().toStdString() << ' '
+                << quoi->accessibleName().toStdString();
     }
 }
 
