@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -36,6 +37,14 @@ QScrollArea* defilant(QWidget* contenu, QWidget* parent) {
     return vue;
 }
 
+/// Scrolls to what took the focus, by a letter of Alt too.
+void devoiler(QWidget* vise) {
+    for (auto* autour = vise; autour != nullptr; autour = autour->parentWidget()) {
+        if (auto* vue = qobject_cast<QScrollArea*>(autour))
+            vue->ensureWidgetVisible(vise);
+    }
+}
+
 /// To the first field of the page in front.
 void viser(const QTabWidget& onglets) {
     static_cast<QScrollArea*>(onglets.currentWidget())->widget()->setFocus();
@@ -56,6 +65,8 @@ Fenetrecarnet::Fenetrecarnet(Seance& seance)
     garnir();
     choisirjoueur();
     suivre();
+    connect(qApp, &QApplication::focusChanged, this,
+            [](const QWidget* /*avant*/, QWidget* vise) { devoiler(vise); });
     viser(*onglets_);
     const auto place = screen()->availableGeometry().size() * 19 / 20;
     resize(std::min(place.width(), fontMetrics().averageCharWidth() * largeur),

@@ -258,6 +258,18 @@ TEST_F(Fenetre, la_touche_tab_mene_partout) {
     }
 }
 
+TEST_F(Fenetre, ce_qui_prend_le_focus_se_voit) {
+    fenetre.show();
+    fenetre.resize(fenetre.minimumSizeHint());
+    fenetre.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+    for (const char* cle : {"max", "longueur", "nature_entree"}) {
+        auto* champ = fenetre.findChild<QWidget*>(QString::fromUtf8(cle));
+        champ->setFocus(Qt::ShortcutFocusReason);
+        EXPECT_FALSE(champ->visibleRegion().isEmpty()) << cle;
+    }
+}
+
 TEST_F(Fenetre, la_verification_attend_la_fin_d_un_travail) {
     const auto actions = fenetre.findChildren<QAction*>();
     const auto verifier = std::find_if(actions.begin(), actions.end(), [](const QAction* une) {
