@@ -1,7 +1,12 @@
 #include "boites.h"
 
+#include <filesystem>
+
 #include <QMessageBox>
 #include <QPushButton>
+
+#include "disquereel.h"
+#include "textesqt.h"
 
 namespace carnet {
 
@@ -19,6 +24,16 @@ bool confirmer(QWidget* parent, const QString& texte, const QString& oui) {
     boite.setDefaultButton(boite.addButton(QStringLiteral("Annuler"), QMessageBox::RejectRole));
     boite.exec();
     return boite.clickedButton() == accepte;
+}
+
+bool ecrirefichier(QWidget* parent, const QString& chemin, const std::string& octets) {
+    const std::filesystem::path fichier(utf8(chemin));
+    common::DisqueReel disque(fichier.parent_path());
+    const auto erreur = disque.remplacer(fichier.filename().string(), octets);
+    if (erreur)
+        avertir(parent, chemin + QStringLiteral(" ne peut être écrit : ") +
+                            qt(common::raison(erreur)) + QLatin1Char('.'));
+    return !erreur;
 }
 
 }  // namespace carnet

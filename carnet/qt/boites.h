@@ -2,6 +2,8 @@
 
 // What a page says or asks in a box of its own.
 
+#include <string>
+
 #include <QString>
 
 class QWidget;
@@ -11,5 +13,7 @@ namespace carnet {
 void avertir(QWidget* parent, const QString& texte);
 /// Asks; `oui` is the caption of the button that agrees, "Annuler" is the default one.
 [[nodiscard]] bool confirmer(QWidget* parent, const QString& texte, const QString& oui);
+/// Writes a whole file in one step; false, once it has been said why, if it stays as it was.
+[[nodiscard]] bool ecrirefichier(QWidget* parent, const QString& chemin, const std::string& octets);
 
 }  // namespace carnet

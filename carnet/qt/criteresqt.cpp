@@ -41,7 +41,7 @@ Criteres::Criteres(QWidget* parent) : QWidget(parent) {
             "Le mot peut se faire avec ces lettres, sans les prendre toutes");
     ajouter("motif", "&Motif", ligne("B?N*E"),
             "? une lettre, * des lettres ou aucune, [AE] l'une d'elles, [^AE] aucune d'elles");
-    ajouter("debut", "&Commence par", ligne("RE"), "Premières lettres");
+    ajouter("debut", "Comme&nce par", ligne("RE"), "Premières lettres");
     ajouter("fin", "&Finit par", ligne("ENT"), "Dernières lettres");
     ajouter("contient", "C&ontient", ligne("QU,K"), "Chacune de ces suites de lettres");
     ajouter("sans", "&Sans", ligne("E,A"), "Aucune de ces suites de lettres");
@@ -50,11 +50,11 @@ Criteres::Criteres(QWidget* parent) : QWidget(parent) {
     ajouter("voyelles", "&Voyelles", ligne("2-3"), "Nombre de voyelles, Y compris");
     ajouter("anagrammes", "&Anagrammes", ligne("1"),
             "Nombre de mots sur les mêmes lettres, lui compris");
-    ajouter("devant", "Rallonge de&vant", ligne("oui, non ou lettres"),
+    ajouter("devant", "Rallon&ge devant", ligne("oui, non ou lettres"),
             "Une lettre devant fait un mot");
     ajouter("derriere", "Rallonge de&rrière", ligne("oui, non ou lettres"),
             "Une lettre derrière fait un mot");
-    ajouter("nature", "&Nature", natures(), "Ce que le mot est, ou n'est pas");
+    ajouter("nature", "Nature", natures(), "Ce que le mot est, ou n'est pas");
     ajouter("commun", "Mot co&urant", choix({{"indifférent", ""}, {"oui", "oui"}, {"non", "non"}}),
             "Le thésaurus connaît le mot");
     ajouter("dans", "Dans la l&iste", listes(), "Le mot est une solution de cette liste");

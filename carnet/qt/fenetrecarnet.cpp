@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -12,6 +13,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTabWidget>
 
@@ -24,6 +26,29 @@ constexpr int millemes = 1000;
 /// Wanted size, in characters and lines of the system's font.
 constexpr int largeur = 180;
 constexpr int hauteur = 40;
+
+/// A page scrolls where the screen is too small for it.
+QScrollArea* defilant(QWidget* contenu, QWidget* parent) {
+    auto* vue = new QScrollArea(parent);
+    vue->setWidget(contenu);
+    vue->setWidgetResizable(true);
+    vue->setFrameShape(QFrame::NoFrame);
+    vue->setFocusPolicy(Qt::NoFocus);
+    return vue;
+}
+
+/// Scrolls to what took the focus, by a letter of Alt too.
+void devoiler(QWidget* vise) {
+    for (auto* autour = vise; autour != nullptr; autour = autour->parentWidget()) {
+        if (auto* vue = qobject_cast<QScrollArea*>(autour))
+            vue->ensureWidgetVisible(vise);
+    }
+}
+
+/// To the first field of the page in front.
+void viser(const QTabWidget& onglets) {
+    static_cast<QScrollArea*>(onglets.currentWidget())->widget()->setFocus();
+}
 
 }  // namespace
 
@@ -40,7 +65,9 @@ Fenetrecarnet::Fenetrecarnet(Seance& seance)
     garnir();
     choisirjoueur();
     suivre();
-    onglets_->currentWidget()->setFocus();
+    connect(qApp, &QApplication::focusChanged, this,
+            [](const QWidget* /*avant*/, QWidget* vise) { devoiler(vise); });
+    viser(*onglets_);
     const auto place = screen()->availableGeometry().size() * 19 / 20;
     resize(std::min(place.width(), fontMetrics().averageCharWidth() * largeur),
            std::min(place.height(), fontMetrics().lineSpacing() * hauteur));
@@ -52,10 +79,10 @@ void Fenetrecarnet::garnir() {
     for (const auto& page : pages()) {
         const auto titre = QString::fromUtf8(page.titre);
         auto* contenu = page.faire(seance_, onglets_);
-        const int onglet = onglets_->addTab(contenu, titre);
+        const int onglet = onglets_->addTab(defilant(contenu, onglets_), titre);
         auto* aller = carnet->addAction(titre, this, [this, onglet] {
             onglets_->setCurrentIndex(onglet);
-            onglets_->currentWidget()->setFocus();
+            viser(*onglets_);
         });
         aller->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + rang++)));
         if (!contenu->actions().empty())

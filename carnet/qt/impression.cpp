@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <span>
 
+#include <QBuffer>
 #include <QFontMetrics>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPdfWriter>
 
 #include "textesqt.h"
 
@@ -110,6 +112,20 @@ bool imprimer(QPagedPaintDevice& papier, const std::vector<std::string>& rangees
         feuille.dessiner(page, numero, true);
     }
     return peintre.end();
+}
+
+std::string enpdf(const std::vector<std::string>& rangees, const QString& titre) {
+    constexpr qreal marge = 15;
+    QBuffer octets;
+    octets.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter papier(&octets);
+        papier.setTitle(titre);
+        papier.setPageSize(QPageSize(QPageSize::A4));
+        papier.setPageMargins(QMarginsF(marge, marge, marge, marge), QPageLayout::Millimeter);
+        static_cast<void>(imprimer(papier, rangees, titre));  // memory takes it all
+    }
+    return octets.data().toStdString();
 }
 
 }  // namespace carnet

@@ -15,5 +15,7 @@ namespace carnet {
 /// the same. False if the device cannot be drawn on.
 [[nodiscard]] bool imprimer(QPagedPaintDevice& papier, const std::vector<std::string>& rangees,
                             const QString& titre);
+/// The bytes of a PDF of these rows, on A4.
+[[nodiscard]] std::string enpdf(const std::vector<std::string>& rangees, const QString& titre);
 
 }  // namespace carnet

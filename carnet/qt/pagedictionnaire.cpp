@@ -73,7 +73,7 @@ Pagedictionnaire::Pagedictionnaire(Seance& seance, QWidget* parent)
     : QWidget(parent),
       seance_(seance),
       envigueur_(new QLabel(this)),
-      choisir_(new QPushButton(QStringLiteral("&Choisir un fichier de mots…"), this)),
+      choisir_(new QPushButton(QStringLiteral("C&hoisir un fichier de mots…"), this)),
       examen_(new QPlainTextEdit(this)),
       editions_(new Editions(this)),
       faire_(new QPushButton(QStringLiteral("&Faire les listes"), this)),
@@ -108,8 +108,6 @@ Pagedictionnaire::Pagedictionnaire(Seance& seance, QWidget* parent)
     mise->addWidget(marques);
     mise->addLayout(bas);
     setFocusProxy(choisir_);
-    setTabOrder(revenir_, choisir_);
-    setTabOrder(choisir_, examen_);
 
     connect(choisir_, &QPushButton::clicked, this, &Pagedictionnaire::choisir);
     connect(faire_, &QPushButton::clicked, this, &Pagedictionnaire::faire);
@@ -117,7 +115,7 @@ Pagedictionnaire::Pagedictionnaire(Seance& seance, QWidget* parent)
     connect(editions_, &Editions::change, this, &Pagedictionnaire::accorder);
     connect(&seance_.tache(), &Tache::change, this, &Pagedictionnaire::accorder);
     connect(&seance_, &Seance::motschanges, this, &Pagedictionnaire::direenvigueur);
-    auto* ouvrir = new QAction(QStringLiteral("&Choisir un fichier de mots…"), this);
+    auto* ouvrir = new QAction(QStringLiteral("C&hoisir un fichier de mots…"), this);
     ouvrir->setShortcut(QKeySequence::Open);
     ouvrir->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(ouvrir, &QAction::triggered, choisir_, &QPushButton::click);
@@ -155,8 +153,9 @@ void Pagedictionnaire::accorder() {
     for (std::size_t i = 0; i + 1 < fichiers.size(); ++i)
         editions = editions || (!fichiers.at(i).empty() && !fichiers.at(i + 1).empty());
     choisir_->setEnabled(libre);
-    faire_->setEnabled(libre && (mots_ != nullptr || editions));
     const auto& e = seance_.envigueur();
+    const bool connus = e.libre() || seance_.glossaire() != nullptr;
+    faire_->setEnabled(libre && (mots_ != nullptr || (editions && connus)));
     revenir_->setEnabled(libre &&
                          (!seance_.glossaire() || e != recherche::Envigueur{{}, e.mots, {}}));
 }
@@ -219,6 +218,12 @@ void Pagedictionnaire::fabriquerlistes(bool libre) {
     if (!libre && mots_ != nullptr) {
         commande->dictionnaire = mots_->mots;
         commande->envigueur.fichier = utf8(fichier_);
+    } else if (!libre && !seance_.envigueur().libre() && seance_.glossaire()) {
+        // Editions alone change the marks, not the words.
+        auto& mots = commande->dictionnaire.emplace();
+        for (const auto& fiche : seance_.glossaire()->fiches())
+            mots.push_back(fiche.mot);
+        commande->envigueur.fichier = seance_.envigueur().fichier;
     }
     const auto fichiers = libre ? Fichiersdeditions{} : editions_->fichiers();
     const auto faites = std::make_shared<bool>(false);

@@ -9,7 +9,6 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
-#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollArea>
@@ -46,6 +45,8 @@ Pagelistes::Pagelistes(Seance& seance, QWidget* parent)
       table_(new QTableView(this)),
       compte_(new QLabel(this)),
       message_(new QLabel(this)) {
+    // Before a layout takes the fields: this sets the page's place in the order of Tab.
+    setFocusProxy(criteres_->findChild<QWidget*>(QStringLiteral("longueur")));
     auto* gauche = new QScrollArea(this);
     gauche->setWidget(criteres_);
     gauche->setWidgetResizable(true);
@@ -62,8 +63,6 @@ Pagelistes::Pagelistes(Seance& seance, QWidget* parent)
     partage->setChildrenCollapsible(false);
     auto* mise = new QVBoxLayout(this);
     mise->addWidget(partage);
-    setFocusProxy(criteres_->findChild<QWidget*>(QStringLiteral("longueur")));
-    setTabOrder(criteres_, table_);
     connect(criteres_, &Criteres::change, this, &Pagelistes::chercher);
     connect(&seance_, &Seance::motschanges, this, [this] {
         proposer();
@@ -77,6 +76,9 @@ void Pagelistes::action(const char* libelle, const QKeySequence& raccourci,
     auto* nouvelle = new QAction(QString::fromUtf8(libelle), this);
     nouvelle->setShortcut(raccourci);
     nouvelle->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    nouvelle->setToolTip(nouvelle->toolTip() + QStringLiteral(" (") +
+                         nouvelle->shortcut().toString(QKeySequence::NativeText) +
+                         QLatin1Char(')'));
     connect(nouvelle, &QAction::triggered, this, faire);
     addAction(nouvelle);
     if (surliste)
@@ -89,6 +91,8 @@ void Pagelistes::agir() {
     action("En &PDF…", Qt::CTRL | Qt::SHIFT | Qt::Key_P, &Pagelistes::enpdf, true);
     action("&Copier", Qt::CTRL | Qt::SHIFT | Qt::Key_C, &Pagelistes::copier, true);
     action("&Vérifier une liste…", QKeySequence::Open, &Pagelistes::verifier, false);
+    connect(&seance_.tache(), &Tache::change, actions().constLast(),
+            [this, une = actions().constLast()] { une->setEnabled(!seance_.tache().encours()); });
     auto* effacer = new QAction(QStringLiteral("E&ffacer les critères"), this);
     effacer->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_N);
     effacer->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -265,8 +269,15 @@ void Pagelistes::imprimer() {
     imprimante.setDuplex(QPrinter::DuplexLongSide);
     QPrintDialog boite(&imprimante, this);
     boite.setWindowTitle(QStringLiteral("Imprimer la liste"));
-    if (boite.exec() == QDialog::Accepted && !carnet::imprimer(imprimante, faite->rangees, titre()))
+    if (boite.exec() != QDialog::Accepted)
+        return;
+    if (!carnet::imprimer(imprimante, faite->rangees, titre())) {
         avertir(this, QStringLiteral("L'imprimante n'a pas pris la liste."));
+        return;
+    }
+    message_->setText(
+        QStringLiteral("La liste est imprimée : tirages au recto, réponses au verso."));
+    message_->show();
 }
 
 void Pagelistes::enpdf() {
@@ -278,15 +289,9 @@ void Pagelistes::enpdf() {
         QDir::home().filePath(QStringLiteral("liste.pdf")), QStringLiteral("PDF (*.pdf)"));
     if (chemin.isEmpty())
         return;
-    QPdfWriter papier(chemin);
-    papier.setTitle(titre());
-    papier.setPageSize(QPageSize(QPageSize::A4));
-    papier.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-    if (carnet::imprimer(papier, faite->rangees, titre()))
-        message_->setText(chemin +
-                          QStringLiteral(" est écrit : tirages au recto, réponses au verso."));
-    else
-        avertir(this, chemin + QStringLiteral(" ne peut être écrit."));
+    if (!ecrirefichier(this, chemin, carnet::enpdf(faite->rangees, titre())))
+        return;
+    message_->setText(chemin + QStringLiteral(" est écrit : tirages au recto, réponses au verso."));
     message_->show();
 }
 
@@ -315,10 +320,14 @@ void Pagelistes::verifier() {
             *constats = atelier::verifierfichier(utf8(chemin));
         },
         [this, constats, chemin](const QString& faute) {
-            if (faute.isEmpty())
-                montrerconstats(this, chemin, *constats);
-            else
-                avertir(this, faute);
+            const auto dire = [this, constats, chemin, faute] {
+                if (faute.isEmpty())
+                    montrerconstats(this, chemin, *constats);
+                else
+                    avertir(this, faute);
+            };
+            // The reading is over before the box.
+            QMetaObject::invokeMethod(this, dire, Qt::QueuedConnection);
         });
 }
 

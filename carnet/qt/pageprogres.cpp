@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <functional>
 #include <set>
 
@@ -20,7 +19,6 @@
 #include <QVBoxLayout>
 
 #include "boites.h"
-#include "disquereel.h"
 #include "listedujour.h"
 #include "planche.h"
 #include "seance.h"
@@ -67,6 +65,8 @@ Pageprogres::Pageprogres(Seance& seance, QWidget* parent)
       planche_(new Planche(QString::fromUtf8(libelles.front().titre), this)),
       surlesdurs_(nullptr),
       message_(new QLabel(this)) {
+    // Before a layout takes the choice: this sets the page's place in the order of Tab.
+    setFocusProxy(vues_);
     vide_->setObjectName(QStringLiteral("vide"));
     vide_->setWordWrap(true);
     message_->setObjectName(QStringLiteral("fait"));
@@ -80,7 +80,6 @@ Pageprogres::Pageprogres(Seance& seance, QWidget* parent)
     mise->addWidget(message_);
     mise->addWidget(boutons());
     dire({});
-    setFocusProxy(vues_);
     connect(vues_, &QComboBox::currentIndexChanged, this, [this] {
         dire({});
         proposer();
@@ -266,12 +265,7 @@ void Pageprogres::montrerannee() {
 }
 
 void Pageprogres::ecrire(const QString& chemin, const std::string& octets) {
-    const std::filesystem::path fichier(utf8(chemin));
-    common::DisqueReel disque(fichier.parent_path());
-    if (const auto erreur = disque.remplacer(fichier.filename().string(), octets))
-        avertir(this, chemin + QStringLiteral(" ne peut être écrit : ") +
-                          qt(common::raison(erreur)) + QLatin1Char('.'));
-    else
+    if (ecrirefichier(this, chemin, octets))
         dire(chemin + QStringLiteral(" est écrit."));
 }
 

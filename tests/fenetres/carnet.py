@@ -84,6 +84,28 @@ def enregistrer(scene):
     attendredit(scene, "mienne.txt : 1 tirage enregistré.")
 
 
+def sortir(scene):
+    """What is found is copied, made a PDF, printed; the saved list is checked."""
+    scene.touche("ctrl+shift+c")
+    attendredit(scene, "1 mot copié.")
+    enregistrersous(scene, "Enregistrer en PDF", "ctrl+shift+p", "liste.pdf")
+    verifier((scene.dossier / "liste.pdf").read_bytes().startswith(b"%PDF-"), "un PDF")
+    scene.touche("ctrl+p")
+    scene.devant("Imprimer la liste")
+    scene.photographier("impression")
+    scene.touche("Escape")
+    scene.devant(CARNET)
+    scene.touche("ctrl+o")
+    scene.devant("Vérifier une liste")
+    scene.taper(str(scene.dossier / "listes" / "mienne.txt"))
+    scene.touche("Return")
+    scene.devant("Vérification de mienne.txt")
+    attendredit(scene, "Aucune faute : cette liste se joue.", "Vérification de mienne.txt")
+    verifier(not dit(scene, "Annuler"), "le travail est fini")
+    scene.touche("Escape")
+    scene.devant(CARNET)
+
+
 def effacer(scene):
     scene.touche("ctrl+shift+n")
     attendredit(scene, "17 mots")
@@ -190,7 +212,7 @@ def enregistrersous(scene, titre, raccourci, fichier):
     scene.touche("ctrl+a")
     scene.taper(str(scene.dossier / fichier))
     scene.touche("Return")
-    attendredit(scene, str(scene.dossier / fichier) + " est écrit.")
+    attendredit(scene, str(scene.dossier / fichier) + " est écrit")
 
 
 def progresser(scene):
@@ -267,6 +289,7 @@ def main(carnet, jeu, captures, entraineur, listes, petit):
         scene.devant(CARNET)
         chercherparlesclavier(scene)
         enregistrer(scene)
+        sortir(scene)
         effacer(scene)
         fairelesiennes(scene)
         revenir(scene)

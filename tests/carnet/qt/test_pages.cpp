@@ -1,14 +1,21 @@
 // The widgets of the carnet, without a screen.
 
+#include <algorithm>
 #include <atomic>
 #include <set>
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPdfWriter>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
 #include <QThread>
 #include <gmock/gmock.h>
 
@@ -17,6 +24,7 @@
 #include "fenetrecarnet.h"
 #include "impression.h"
 #include "modelemots.h"
+#include "petitchantier.h"
 #include "petitglossaire.h"
 
 namespace {
@@ -32,23 +40,16 @@ std::vector<std::string> rangees(std::size_t nombre) {
 }
 
 /// Pages of a PDF of that many rows.
-std::size_t pages(const essais::DossierTemporaire& dossier, std::size_t nombre) {
-    const auto chemin = (dossier.chemin() / "liste.pdf").string();
-    {
-        QPdfWriter papier(QString::fromStdString(chemin));
-        papier.setPageSize(QPageSize(QPageSize::A4));
-        EXPECT_TRUE(imprimer(papier, rangees(nombre), QStringLiteral("Essai")));
-    }
-    const auto octets = dossier.lire("liste.pdf");
+std::size_t pages(std::size_t nombre) {
+    const auto octets = enpdf(rangees(nombre), QStringLiteral("Essai"));
     EXPECT_EQ(octets.substr(0, 5), "%PDF-");
     const auto compte = octets.find("/Count ");
     return compte == std::string::npos ? 0 : std::stoul(octets.substr(compte + 7));
 }
 
 TEST(Impression, chaque_page_de_tirages_a_sa_page_de_reponses) {
-    const essais::DossierTemporaire dossier;
-    EXPECT_EQ(pages(dossier, 1), 2U);
-    const auto longue = pages(dossier, 2000);
+    EXPECT_EQ(pages(1), 2U);
+    const auto longue = pages(2000);
     EXPECT_EQ(longue % 2, 0U);
     EXPECT_GT(longue, 10U);
     EXPECT_LT(longue, 80U);
@@ -178,6 +179,133 @@ TEST_F(Fenetre, chaque_controle_a_un_nom_pour_qui_ne_voit_pas) {
             sansnom.insert(controle->objectName().toStdString());
     }
     EXPECT_THAT(sansnom, testing::IsEmpty());
+}
+
+TEST_F(Fenetre, tient_sur_un_ecran_de_1366_points_grossi_deux_fois) {
+    constexpr QSize ecran(683, 384);
+    EXPECT_LE(fenetre.minimumSizeHint().width(), ecran.width());
+    EXPECT_LE(fenetre.minimumSizeHint().height(), ecran.height());
+}
+
+/// Letters that Alt gives on the page in front, menus included, one after the other.
+std::vector<QChar> lettres(const Fenetrecarnet& fenetre) {
+    std::vector<QChar> toutes;
+    const auto prendre = [&](const QString& texte) {
+        const auto touche = QKeySequence::mnemonic(texte);
+        if (!touche.isEmpty())
+            toutes.push_back(QChar(touche[0].key()));
+    };
+    for (const auto* menu : fenetre.menuBar()->actions())
+        prendre(menu->text());
+    const auto vu = [&](const QWidget* quoi) { return quoi->isVisibleTo(&fenetre); };
+    for (const auto* libelle : fenetre.findChildren<QLabel*>()) {
+        if (vu(libelle) && libelle->buddy() != nullptr)
+            prendre(libelle->text());
+    }
+    for (const auto* bouton : fenetre.findChildren<QPushButton*>()) {
+        if (vu(bouton))
+            prendre(bouton->text());
+    }
+    return toutes;
+}
+
+TEST_F(Fenetre, une_lettre_ne_mene_qu_a_un_endroit) {
+    auto* onglets = fenetre.findChild<QTabWidget*>();
+    fenetre.show();
+    for (int i = 0; i < onglets->count(); ++i) {
+        onglets->setCurrentIndex(i);
+        const auto toutes = lettres(fenetre);
+        for (const auto lettre : toutes)
+            EXPECT_EQ(std::count(toutes.begin(), toutes.end(), lettre), 1)
+                << onglets->tabText(i).toStdString() << " : Alt+" << lettre.toLatin1();
+        EXPECT_GT(toutes.size(), 2U);
+    }
+}
+
+/// What Tab can reach among what is on show.
+std::vector<QWidget*> atteignables(const Fenetrecarnet& fenetre) {
+    std::vector<QWidget*> tous;
+    for (auto* quoi : fenetre.findChildren<QWidget*>()) {
+        const bool tab = (quoi->focusPolicy() & Qt::TabFocus) != 0;
+        if (tab && quoi->focusProxy() == nullptr && quoi->isVisible() && quoi->isEnabled() &&
+            qobject_cast<QComboBox*>(quoi->parent()) == nullptr)
+            tous.push_back(quoi);
+    }
+    return tous;
+}
+
+TEST_F(Fenetre, la_touche_tab_mene_partout) {
+    seance.relire();
+    attendre(&seance, SIGNAL(motschanges()));
+    auto* onglets = fenetre.findChild<QTabWidget*>();
+    fenetre.show();
+    fenetre.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+    for (int i = 0; i < onglets->count(); ++i) {
+        onglets->setCurrentIndex(i);
+        qobject_cast<QScrollArea*>(onglets->currentWidget())->widget()->setFocus();
+        std::set<const QWidget*> vus;
+        const auto tous = atteignables(fenetre);
+        for (std::size_t pas = 0; pas < 2 * tous.size(); ++pas) {
+            vus.insert(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        for (const auto* quoi : tous)
+            EXPECT_TRUE(vus.contains(quoi))
+                << onglets->tabText(i).toStdString() << " : " << quoi->metaObject()->className()
+                << ' ' << quoi->objectName().toStdString() << ' '
+                << quoi->accessibleName().toStdString();
+    }
+}
+
+TEST_F(Fenetre, ce_qui_prend_le_focus_se_voit) {
+    fenetre.show();
+    fenetre.resize(fenetre.minimumSizeHint());
+    fenetre.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenetre));
+    for (const char* cle : {"max", "longueur", "nature_entree"}) {
+        auto* champ = fenetre.findChild<QWidget*>(QString::fromUtf8(cle));
+        champ->setFocus(Qt::ShortcutFocusReason);
+        EXPECT_FALSE(champ->visibleRegion().isEmpty()) << cle;
+    }
+}
+
+TEST_F(Fenetre, la_verification_attend_la_fin_d_un_travail) {
+    const auto actions = fenetre.findChildren<QAction*>();
+    const auto verifier = std::find_if(actions.begin(), actions.end(), [](const QAction* une) {
+        return une->text() == QStringLiteral("&Vérifier une liste…");
+    });
+    ASSERT_NE(verifier, actions.end());
+    EXPECT_TRUE((*verifier)->isEnabled());
+    seance.relire();
+    EXPECT_FALSE((*verifier)->isEnabled());
+    attendre(&seance.tache(), SIGNAL(change()));
+    EXPECT_TRUE((*verifier)->isEnabled());
+}
+
+TEST_F(Fenetre, des_editions_seules_gardent_le_dictionnaire_du_joueur) {
+    ASSERT_TRUE(fabriquer(essais::petitschemins(), essais::perso({"NEZ", "WOK", "XYSTE"}),
+                          dossier.chemin(), essais::continuer));
+    seance.relire();
+    attendre(&seance, SIGNAL(motschanges()));
+    dossier.ecrire("avant.txt", "nez\n");
+    dossier.ecrire("apres.txt", "nez\nwok\n");
+    const auto saisir = [&](const char* edition, const char* fichier) {
+        for (auto* saisie : fenetre.findChildren<QLineEdit*>()) {
+            if (saisie->accessibleName() == QString::fromUtf8(edition))
+                saisie->setText(QString::fromStdString((dossier.chemin() / fichier).string()));
+        }
+    };
+    saisir("Édition de 2008", "avant.txt");
+    saisir("Édition de 2012", "apres.txt");
+    for (auto* bouton : fenetre.findChildren<QPushButton*>()) {
+        if (bouton->text() == QStringLiteral("&Faire les listes"))
+            bouton->click();
+    }
+    attendre(&seance, SIGNAL(motschanges()));
+    EXPECT_EQ(seance.envigueur().fichier, "miens.txt");
+    EXPECT_EQ(seance.envigueur().mots, 3U);
+    EXPECT_EQ(dossier.lire("listes/ods6.txt"), "WOK\r\n");
 }
 
 TEST(Fenetrefermee, en_plein_travail_l_attend_sans_le_finir) {
