@@ -49,10 +49,9 @@ std::string dernieredate(std::string_view hist) {
     return std::string(hist.substr(hist.find_last_of('\n') + 1).substr(0, longueur));
 }
 
-/// Folders of the play folder that are no player's.
-bool dujeu(std::string_view nom) {
-    return nom == common::dossierlistes || nom == "images" || nom.ends_with(provisoire) ||
-           nom.starts_with(attente);
+/// Folders of a copy under way.
+bool enroute(std::string_view nom) {
+    return nom.ends_with(provisoire) || nom.starts_with(attente);
 }
 
 }  // namespace
@@ -196,7 +195,7 @@ Sauvegarde::Retour Sauvegarde::examiner(const fs::path& copie) {
             "Ce n'est pas la copie d'un joueur : il y manque hist.dat ou settings.dat. "
             "Choisissez le dossier qui porte le nom du joueur, dans « Orvane » et une "
             "date.";
-    else if (!nomdejoueur(retour.util) || dujeu(retour.util))
+    else if (!nomdejoueur(retour.util) || enroute(retour.util))
         retour.ennui = "« " + retour.util + " » ne peut être le nom d'un joueur.";
     if (!retour.ennui.empty())
         return retour;

@@ -2,6 +2,9 @@
 
 #include <filesystem>
 
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -24,6 +27,15 @@ bool confirmer(QWidget* parent, const QString& texte, const QString& oui) {
     boite.setDefaultButton(boite.addButton(QStringLiteral("Annuler"), QMessageBox::RejectRole));
     boite.exec();
     return boite.clickedButton() == accepte;
+}
+
+QString ouenregistrer(QWidget* parent, const QString& titre, const QString& nom,
+                      const QString& filtre) {
+    QFileDialog boite(parent, titre, QDir::homePath(), filtre);
+    boite.setAcceptMode(QFileDialog::AcceptSave);
+    boite.setDefaultSuffix(QFileInfo(nom).suffix());
+    boite.selectFile(nom);
+    return boite.exec() == QDialog::Accepted ? boite.selectedFiles().value(0) : QString();
 }
 
 bool ecrirefichier(QWidget* parent, const QString& chemin, const std::string& octets) {

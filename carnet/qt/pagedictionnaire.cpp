@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "boites.h"
 #include "editions.h"
 #include "seance.h"
 #include "textesqt.h"
@@ -206,7 +207,25 @@ void Pagedictionnaire::montrer(const QString& chemin, Examen& examen) {
 }
 
 void Pagedictionnaire::faire() {
-    fabriquerlistes(false);
+    if (const auto perdues = editionsperdues();
+        perdues.isEmpty() ||
+        confirmer(this,
+                  QStringLiteral("Les éditions d'où viennent les nouveautés de %1 ne sont pas "
+                                 "données : ces marques et listes de référence seront vides.")
+                      .arg(perdues),
+                  QStringLiteral("Faire les listes sans")))
+        fabriquerlistes(false);
+}
+
+QString Pagedictionnaire::editionsperdues() const {
+    const auto fichiers = editions_->fichiers();
+    QStringList annees;
+    for (std::size_t i = 0; i < atelier::editions.size(); ++i) {
+        const bool donnee = !fichiers.at(i).empty() && !fichiers.at(i + 1).empty();
+        if (!donnee && !seance_.envigueur().comparaisons.at(i).empty())
+            annees << qt(atelier::editions.at(i).annee);
+    }
+    return annees.join(QStringLiteral(", "));
 }
 
 void Pagedictionnaire::revenir() {

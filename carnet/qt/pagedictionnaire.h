@@ -33,6 +33,8 @@ class Pagedictionnaire : public QWidget {
     void examiner(const QString& chemin);
     void montrer(const QString& chemin, Examen& examen);
     void faire();
+    /// Years of the marks in force that a making would empty, as their editions are not given.
+    [[nodiscard]] QString editionsperdues() const;
     void revenir();
     void fabriquerlistes(bool libre);
     void direenvigueur();

@@ -284,9 +284,8 @@ void Pagelistes::enpdf() {
     const auto faite = liste();
     if (!faite)
         return;
-    const auto chemin = QFileDialog::getSaveFileName(
-        this, QStringLiteral("Enregistrer en PDF"),
-        QDir::home().filePath(QStringLiteral("liste.pdf")), QStringLiteral("PDF (*.pdf)"));
+    const auto chemin = ouenregistrer(this, QStringLiteral("Enregistrer en PDF"),
+                                      QStringLiteral("liste.pdf"), QStringLiteral("PDF (*.pdf)"));
     if (chemin.isEmpty())
         return;
     if (!ecrirefichier(this, chemin, carnet::enpdf(faite->rangees, titre())))

@@ -8,8 +8,6 @@
 #include <QAction>
 #include <QBuffer>
 #include <QComboBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
@@ -275,9 +273,9 @@ void Pageprogres::dire(const QString& texte) {
 }
 
 void Pageprogres::enimage() {
-    const auto chemin = QFileDialog::getSaveFileName(
-        this, QStringLiteral("Enregistrer l'image"),
-        QDir::home().filePath(QStringLiteral("progres.png")), QStringLiteral("Image (*.png)"));
+    const auto chemin =
+        ouenregistrer(this, QStringLiteral("Enregistrer l'image"), QStringLiteral("progres.png"),
+                      QStringLiteral("Image (*.png)"));
     if (chemin.isEmpty())
         return;
     QBuffer octets;
@@ -287,9 +285,9 @@ void Pageprogres::enimage() {
 }
 
 void Pageprogres::encsv() {
-    const auto chemin = QFileDialog::getSaveFileName(
-        this, QStringLiteral("Enregistrer le tableau"),
-        QDir::home().filePath(QStringLiteral("progres.csv")), QStringLiteral("Tableau (*.csv)"));
+    const auto chemin =
+        ouenregistrer(this, QStringLiteral("Enregistrer le tableau"), QStringLiteral("progres.csv"),
+                      QStringLiteral("Tableau (*.csv)"));
     if (!chemin.isEmpty())
         ecrire(chemin, carnet::encsv(planche_->tableau()));
 }
@@ -305,7 +303,7 @@ void Pageprogres::faireliste() {
     if (paire.laisses > 0)
         dit += compte(paire.laisses, QStringLiteral("laissé de côté"),
                       QStringLiteral("laissés de côté")) +
-               QStringLiteral(" (rallonges, benjamins). ");
+               QStringLiteral(" (rallonges, benjamins, plus de cinq solutions). ");
     dire(dit + qt(commentjouerpaire(paire, nomsdesdurs)));
 }
 

@@ -62,8 +62,8 @@ QString laisses(const Paire& paire) {
         dit += compte(paire.laisses, QStringLiteral("laissé de côté"),
                       QStringLiteral("laissés de côté")) +
                QStringLiteral(
-                   " : rallonges et benjamins ne se tapent pas sur la ligne du fichier "
-                   "personnel ; revoyez-les dans leur liste.");
+                   " : rallonges et benjamins, comme ce qui a plus de cinq solutions, ne se "
+                   "tapent pas sur la ligne du fichier personnel ; revoyez-les dans leur liste.");
     return dit.trimmed();
 }
 

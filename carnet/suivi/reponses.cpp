@@ -3,11 +3,14 @@
 #include <algorithm>
 
 #include "faute.h"
+#include "listes.h"
 #include "progres.h"
 #include "texte.h"
 
 namespace carnet {
 namespace {
+
+constexpr std::string_view dossierimages = "images";
 
 std::optional<int> nombre(std::string_view chiffres) {
     constexpr int base = 10;
@@ -34,8 +37,8 @@ std::string accord(std::size_t lignes) {
 }  // namespace
 
 bool nomdejoueur(std::string_view util) {
-    return !util.empty() && util != "." && util != ".." &&
-           util.find_first_of("/\\") == std::string_view::npos;
+    return !util.empty() && util != "." && util != ".." && util != common::dossierlistes &&
+           util != dossierimages && util.find_first_of("/\\") == std::string_view::npos;
 }
 
 std::optional<int> lireplafond(std::string_view texte) {

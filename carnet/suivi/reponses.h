@@ -19,8 +19,8 @@ struct Refus {
 
 using Reponse = std::variant<std::string, Refus>;
 
-/// Whether a name may be that of a player's folder: it is not empty and does not lead out of the
-/// play folder.
+/// Whether a name may be that of a player's folder: it is not empty, is no folder of the program,
+/// and does not lead out of the play folder.
 [[nodiscard]] bool nomdejoueur(std::string_view util);
 
 /// The most racks of a day; nothing for a text that is not a number from `plafondminimum` to

@@ -207,10 +207,11 @@ def revoir(scene):
 
 
 def enregistrersous(scene, titre, raccourci, fichier):
+    """Typed without its extension."""
     scene.touche(raccourci)
     scene.devant(titre)
     scene.touche("ctrl+a")
-    scene.taper(str(scene.dossier / fichier))
+    scene.taper(str(scene.dossier / pathlib.Path(fichier).stem))
     scene.touche("Return")
     attendredit(scene, str(scene.dossier / fichier) + " est écrit")
 

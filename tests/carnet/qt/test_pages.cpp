@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPdfWriter>
 #include <QPushButton>
 #include <QScrollArea>
@@ -17,6 +18,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 #include <gmock/gmock.h>
 
 #include "criteresqt.h"
@@ -306,6 +308,33 @@ TEST_F(Fenetre, des_editions_seules_gardent_le_dictionnaire_du_joueur) {
     EXPECT_EQ(seance.envigueur().fichier, "miens.txt");
     EXPECT_EQ(seance.envigueur().mots, 3U);
     EXPECT_EQ(dossier.lire("listes/ods6.txt"), "WOK\r\n");
+}
+
+TEST_F(Fenetre, des_marques_ne_se_perdent_pas_sans_question) {
+    auto commande = essais::perso({"NEZ", "WOK", "XYSTE"});
+    commande.envigueur.comparaisons.at(1) = "a.txt, b.txt";
+    ASSERT_TRUE(fabriquer(essais::petitschemins(), commande, dossier.chemin(), essais::continuer));
+    seance.relire();
+    attendre(&seance, SIGNAL(motschanges()));
+    dossier.ecrire("b.txt", "nez\n");
+    for (auto* saisie : fenetre.findChildren<QLineEdit*>()) {
+        const auto nom = saisie->accessibleName();
+        if (nom == QStringLiteral("Édition de 2012") || nom == QStringLiteral("Édition de 2016"))
+            saisie->setText(QString::fromStdString((dossier.chemin() / "b.txt").string()));
+    }
+    QString question;
+    QTimer::singleShot(0, [&] {
+        auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(boite, nullptr);
+        question = boite->text();
+        boite->reject();
+    });
+    for (auto* bouton : fenetre.findChildren<QPushButton*>()) {
+        if (bouton->text() == QStringLiteral("&Faire les listes"))
+            bouton->click();
+    }
+    EXPECT_THAT(question.toStdString(), HasSubstr("2012"));
+    EXPECT_FALSE(seance.tache().encours());
 }
 
 TEST(Fenetrefermee, en_plein_travail_l_attend_sans_le_finir) {

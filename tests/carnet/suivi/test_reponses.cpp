@@ -63,7 +63,9 @@ TEST_F(Reponses, un_journal_illisible_est_un_refus) {
 
 TEST_F(Reponses, un_joueur_inconnu_est_un_refus) {
     dossier.ecrire("fichier", "");
-    for (const char* nom : {"Paul", "", ".", "..", "Zoé/", "a\\b", "fichier"}) {
+    for (const char* nom : {"listes", "images"})
+        std::filesystem::create_directory(dossier.chemin() / nom);
+    for (const char* nom : {"Paul", "", ".", "..", "Zoé/", "a\\b", "fichier", "listes", "images"}) {
         EXPECT_TRUE(std::holds_alternative<carnet::Refus>(carnet::progres(disque, nom))) << nom;
         EXPECT_TRUE(std::holds_alternative<carnet::Refus>(
             carnet::echeances(disque, nom, 0, std::nullopt, avis)))
