@@ -67,7 +67,7 @@ TEST(Arguments, nomment_le_dossier_et_les_sources) {
 
 int statut(const std::string& arguments) {
     const auto fin =
-        std::system(("'" ORVANE_CARNET "' " + arguments + " > /dev/null 2>&1").c_str());
+        std::system(("\"" ORVANE_CARNET "\" " + arguments + " > /dev/null 2>&1").c_str());
     return WEXITSTATUS(fin);
 }
 

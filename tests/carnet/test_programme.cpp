@@ -30,9 +30,9 @@ class Programme : public testing::Test {
         dossier.ecrire("jeu/Zoé/hist.dat", "24/08/2019 - 14:35 - 95.3% - T - 3lc.txt\r\n");
     }
     [[nodiscard]] Fin lancer(const std::string& arguments) const {
-        const auto ici = "cd '" + dossier.chemin().string() + "' && ";
+        const auto ici = "cd \"" + dossier.chemin().string() + "\" && ";
         const int statut = std::system(
-            (ici + "env -u DISPLAY -u WAYLAND_DISPLAY '" ORVANE_CARNET "' --dossier jeu " +
+            (ici + "env -u DISPLAY -u WAYLAND_DISPLAY \"" ORVANE_CARNET "\" --dossier jeu " +
              arguments + " > sortie 2> erreurs")
                 .c_str());
         return {WEXITSTATUS(statut), dossier.lire("sortie"), dossier.lire("erreurs")};
