@@ -66,8 +66,10 @@ Fenetre::~Fenetre() {
 void Fenetre::completer() {
     if (!dimensionnee_)
         return;
-    attendrefontes();
     const auto& controles = formulaire_->controles();
+    if (vues_.empty())
+        annoncerimage(*this, *formulaire_, devicePixelRatio());
+    attendrefontes();
     for (auto i = vues_.size() + entrees_; i < controles.size(); ++i) {
         auto& controle = *controles[i];
         auto* vue = nouvellevue(*this, *this, controle);

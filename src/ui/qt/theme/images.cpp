@@ -1,8 +1,11 @@
 #include "images.h"
 
 #include <array>
+#include <chrono>
+#include <future>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include <QFileInfo>
@@ -52,20 +55,67 @@ QImage choisir(const QString& chemin, const QSize& voulue) {
     return choix ? choix->read() : QImage();
 }
 
+/// A picture at its size on a screen.
+struct Vignette {
+    QString chemin;
+    QSize voulue;  ///< pixels of the screen
+
+    [[nodiscard]] QString cle() const {
+        return QStringLiteral("%1 %2 %3").arg(chemin).arg(voulue.width()).arg(voulue.height());
+    }
+    [[nodiscard]] QImage faire() const {
+        const auto originale = choisir(chemin, voulue);
+        if (originale.isNull() || voulue.isEmpty())
+            return {};
+        return originale.scaled(voulue, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+};
+
+/// What a thread is making.
+struct Enroute {
+    QString cle;
+    std::future<QImage> image;
+};
+
+Enroute& enroute() {
+    static Enroute seule;
+    return seule;
+}
+
 }  // namespace
 
+void annoncer(const QString& chemin, const QSize& taille, double densite) {
+    constexpr int grande = 10000;  // pixels: decoding fewer is quicker than a thread
+    const Vignette vignette{chemin, (QSizeF(taille) * densite).toSize()};
+    const auto cle = vignette.cle();
+    auto& route = enroute();
+    const bool prise = route.image.valid() &&
+                       route.image.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+    if (prise || route.cle == cle || QPixmapCache::find(cle, nullptr) ||
+        vignette.voulue.width() * vignette.voulue.height() < grande)
+        return;
+    try {
+        route.image = std::async(std::launch::async, &Vignette::faire, vignette);
+        route.cle = cle;
+    } catch (const std::system_error&) {
+        route.cle.clear();  // no thread to be had
+    }
+}
+
 QPixmap image(const QString& chemin, const QSize& taille, double densite) {
-    const auto voulue = (QSizeF(taille) * densite).toSize();
-    const auto cle =
-        QStringLiteral("%1 %2 %3").arg(chemin).arg(voulue.width()).arg(voulue.height());
+    const Vignette voulue{chemin, (QSizeF(taille) * densite).toSize()};
+    const auto cle = voulue.cle();
     QPixmap vignette;
     if (QPixmapCache::find(cle, &vignette))
         return vignette;
-    const auto originale = choisir(chemin, voulue);
-    if (originale.isNull() || voulue.isEmpty())
+    auto& route = enroute();
+    const bool annoncee = route.image.valid() && route.cle == cle;
+    const auto faite = annoncee ? route.image.get() : voulue.faire();
+    if (annoncee)
+        route.cle.clear();
+    if (faite.isNull())
         return {};
-    vignette =
-        QPixmap::fromImage(originale.scaled(voulue, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    vignette = QPixmap::fromImage(faite);
     vignette.setDevicePixelRatio(densite);
     QPixmapCache::insert(cle, vignette);
     return vignette;

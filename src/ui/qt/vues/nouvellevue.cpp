@@ -6,6 +6,8 @@
 #include "casecochee.h"
 #include "decor.h"
 #include "etiquette.h"
+#include "formulaire.h"
+#include "images.h"
 #include "liste.h"
 
 namespace ui::qt {
@@ -45,6 +47,17 @@ Vue* nouvellevue(QWidget& parent, Hote& hote, Controle& controle) {
             break;
     }
     return nullptr;
+}
+
+void annoncerimage(const Hote& hote, const Formulaire& formulaire, double densite) {
+    for (const auto& c : formulaire.controles()) {
+        if (c->genre() != Genre::Image || !c->visible() || c->image().empty())
+            continue;
+        const auto cadre =
+            hote.echelle().cadre({c->gauche(), c->haut(), c->largeur(), c->hauteur()});
+        annoncer(hote.chemin(c->image()), cadre.size(), densite);
+        return;
+    }
 }
 
 }  // namespace ui::qt

@@ -57,6 +57,26 @@ TEST_F(Images, garde_ses_proportions) {
     EXPECT_EQ(image(80, 1).size(), QSize(80, 40));
 }
 
+TEST_F(Images, annoncee_est_la_meme) {
+    dessiner("marque.bmp", 120, Qt::red);
+    dessiner("marque@2x.bmp", 240, Qt::green);
+    const auto chemin = dossier.filePath("marque.bmp");
+    for (const double densite : {1., 2.}) {  // the first one is never asked for
+        ui::qt::annoncer(chemin, {150, 150}, densite);
+        ui::qt::annoncer(chemin, {150, 150}, densite);
+    }
+    EXPECT_EQ(couleur(150, 2), QColor(Qt::green));
+    EXPECT_EQ(image(150, 2).size(), QSize(300, 300));
+    EXPECT_EQ(couleur(110, 1), QColor(Qt::red));
+}
+
+TEST_F(Images, annoncee_sans_fichier_n_est_rien) {
+    ui::qt::annoncer(dossier.filePath("marque.bmp"), {150, 150}, 1);
+    EXPECT_TRUE(image(150, 1).isNull());
+    dessiner("marque.bmp", 150, Qt::red);
+    EXPECT_EQ(couleur(150, 1), QColor(Qt::red));
+}
+
 TEST_F(Images, sans_fichier_il_n_y_a_rien_a_montrer) {
     EXPECT_TRUE(image(28, 1).isNull());
 }
