@@ -174,7 +174,10 @@ void commun(std::string_view valeur, const Contexte& /*contexte*/, Demande& dema
     });
 }
 
-void rallonge(std::string_view valeur, std::uint32_t Fiche::*cote, Demande& demande) {
+/// The letters in front of a word, or those behind it.
+using Cote = decltype(&Fiche::devant);
+
+void rallonge(std::string_view valeur, Cote cote, Demande& demande) {
     const auto voulu = ouiounon(valeur);
     std::uint32_t bits = (1U << 26U) - 1;
     if (!voulu) {

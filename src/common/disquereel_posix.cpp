@@ -127,7 +127,7 @@ class AppelsPosix : public Appels {
     }
 
     std::error_code etat(Poignee poignee, Etat& etat) override {
-        struct stat lu {};
+        struct stat lu = {};
         if (::fstat(numero(poignee), &lu) != 0)
             return derniere();
         etat = traduire(lu);
@@ -135,7 +135,7 @@ class AppelsPosix : public Appels {
     }
 
     std::error_code etat(const Chemin& chemin, Etat& etat) override {
-        struct stat lu {};
+        struct stat lu = {};
         if (::stat(chemin.c_str(), &lu) != 0)
             return derniere();
         etat = traduire(lu);
@@ -151,7 +151,7 @@ class AppelsPosix : public Appels {
     }
 
     std::error_code leguer(const Chemin& modele, Poignee neuf) override {
-        struct stat lu {};
+        struct stat lu = {};
         if (::stat(modele.c_str(), &lu) != 0)
             return derniere();
         // Only the system's administrator may give a file away; another can leave it to a group of

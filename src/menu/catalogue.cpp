@@ -150,11 +150,11 @@ constexpr bool tient(const Rangee& rangee) {
 }
 
 constexpr bool tient(const Panneau& p) {
+    constexpr auto rangeetient = [](const Rangee& rangee) { return tient(rangee); };
     const auto lignes = p.personnel ? rangeepersonnelle : nblignes;
     const bool juste = !p.personnel || p.rangees.size() == lignes;
     return juste && p.rangees.size() <= lignes && p.etape < nbetapes &&
-           std::all_of(p.rangees.begin(), p.rangees.end(),
-                       [](const Rangee& rangee) { return tient(rangee); });
+           std::all_of(p.rangees.begin(), p.rangees.end(), rangeetient);
 }
 
 static_assert(insignes(Insigne::verbe) <= nbverbes, "a panel has more verb rows than badges");

@@ -54,8 +54,8 @@ class AppelsDessai : public common::Appels {
     }
     std::error_code lire(common::Poignee poignee, std::span<char> tampon,
                          std::size_t& lus) override {
-        return faire(
-            "lire", [&] { return vrais_.lire(poignee, tampon, lus); }, false);
+        const auto appel = [&] { return vrais_.lire(poignee, tampon, lus); };
+        return faire("lire", appel, false);
     }
     std::error_code ecrire(common::Poignee poignee, std::string_view octets,
                            std::size_t& ecrits) override {
@@ -73,8 +73,8 @@ class AppelsDessai : public common::Appels {
         });
     }
     std::error_code placer(common::Poignee poignee, std::uint64_t place) override {
-        return faire(
-            "placer", [&] { return vrais_.placer(poignee, place); }, false);
+        const auto appel = [&] { return vrais_.placer(poignee, place); };
+        return faire("placer", appel, false);
     }
     std::error_code couper(common::Poignee poignee, std::uint64_t taille) override {
         return faire("couper", [&] { return vrais_.couper(poignee, taille); });
@@ -90,16 +90,16 @@ class AppelsDessai : public common::Appels {
         return faire("synchroniserdossier", [&] { return vrais_.synchroniserdossier(dossier); });
     }
     std::error_code etat(common::Poignee poignee, common::Etat& etat) override {
-        return faire(
-            "etat", [&] { return vrais_.etat(poignee, etat); }, false);
+        const auto appel = [&] { return vrais_.etat(poignee, etat); };
+        return faire("etat", appel, false);
     }
     std::error_code etat(const Chemin& chemin, common::Etat& etat) override {
-        return faire(
-            "etat", [&] { return vrais_.etat(chemin, etat); }, false);
+        const auto appel = [&] { return vrais_.etat(chemin, etat); };
+        return faire("etat", appel, false);
     }
     std::error_code lien(const Chemin& chemin, Chemin& cible) override {
-        return faire(
-            "lien", [&] { return vrais_.lien(chemin, cible); }, false);
+        const auto appel = [&] { return vrais_.lien(chemin, cible); };
+        return faire("lien", appel, false);
     }
     std::error_code leguer(const Chemin& modele, common::Poignee neuf) override {
         return faire("leguer", [&] { return vrais_.leguer(modele, neuf); });
@@ -123,12 +123,12 @@ class AppelsDessai : public common::Appels {
         return faire("creerdossier", [&] { return vrais_.creerdossier(chemin); });
     }
     std::error_code lister(const Chemin& dossier, std::vector<Chemin>& noms) override {
-        return faire(
-            "lister", [&] { return vrais_.lister(dossier, noms); }, false);
+        const auto appel = [&] { return vrais_.lister(dossier, noms); };
+        return faire("lister", appel, false);
     }
     std::error_code verrouiller(common::Poignee poignee, bool& pris) override {
-        return faire(
-            "verrouiller", [&] { return vrais_.verrouiller(poignee, pris); }, false);
+        const auto appel = [&] { return vrais_.verrouiller(poignee, pris); };
+        return faire("verrouiller", appel, false);
     }
     std::int64_t programme() override { return vrais_.programme(); }
     std::int64_t maintenant() override { return horloge; }
@@ -161,7 +161,7 @@ class AppelsDessai : public common::Appels {
 
     void couper() {
         for (const auto poignee : sales_) {
-            struct stat etat {};
+            struct stat etat = {};
             const auto numero = static_cast<int>(poignee);
             if (::fstat(numero, &etat) != 0 || ::ftruncate(numero, etat.st_size / 2) != 0)
                 ::_exit(1);

@@ -378,7 +378,7 @@ TEST_F(DisqueReel, le_fichier_d_un_autre_garde_son_groupe) {
                   return common::DisqueReel().ajouter("f.txt", "B\r\n") ? 1 : 0;
               }),
               0);
-    struct stat lu {};
+    struct stat lu = {};
     ASSERT_EQ(::stat(chemin.c_str(), &lu), 0);
     EXPECT_EQ(lu.st_gid, commun);
     EXPECT_EQ(lu.st_mode & 0777U, 0660U);

@@ -345,8 +345,8 @@ TEST_F(Fichierjournal, sauts_de_ligne_seuls_et_derniere_ligne_sans_saut) {
 TEST_F(Fichierjournal, une_lecture_qui_se_rompt_est_une_erreur) {
     corriger("A");
     appels.prevoir(essais::Panne::Refus, 3);
-    EXPECT_TRUE(parcourirjournal(
-        disque, cheminjournal("Zoé"), [](const Lignejournal&) {}, lecture));
+    const auto passer = [](const Lignejournal&) {};
+    EXPECT_TRUE(parcourirjournal(disque, cheminjournal("Zoé"), passer, lecture));
     EXPECT_TRUE(appels.atteinte());
 }
 

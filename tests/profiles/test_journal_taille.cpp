@@ -87,8 +87,8 @@ TEST_P(Centmegaoctets, se_lisent_dans_la_memoire_d_une_ligne) {
     EXPECT_EQ(essais::enfant([&] {
                   const auto avant = memoire();
                   Lecturejournal lecture;
-                  const auto erreur = parcourirjournal(
-                      disque, "journal.txt", [](const Lignejournal&) {}, lecture);
+                  const auto passer = [](const Lignejournal&) {};
+                  const auto erreur = parcourirjournal(disque, "journal.txt", passer, lecture);
                   const bool exacte = lecture.lues == cas.lues && lecture.sautees == cas.sautees;
                   return erreur ? 1 : !exacte ? 2 : memoire() - avant > uneligne ? 3 : 0;
               }),
