@@ -46,6 +46,8 @@ std::error_code lire(Disque& disque, std::string_view chemin, std::string& conte
 /// Looks at the lines from the place `ligne` on, which goes to where the last one begins. False if
 /// one is too long: `contenu` then ends before it.
 bool mesurer(std::string& contenu, std::size_t& ligne, std::size_t limite) {
+    if (contenu.size() - ligne < limite)
+        return true;  // as most files are: none of the lines in it can be
     while (true) {
         const auto saut = contenu.find('\n', ligne);
         if (std::min(saut, contenu.size()) - ligne >= limite) {
