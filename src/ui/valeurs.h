@@ -15,7 +15,6 @@ class Couleur {
     static constexpr Couleur fenetre() { return systeme(1); }  ///< window background
     static constexpr Couleur bouton() { return systeme(2); }   ///< button face
 
-    [[nodiscard]] constexpr bool estsysteme() const { return (valeur_ >> 24U) != 0; }
     /// 0xRRGGBB; a system colour has none.
     [[nodiscard]] constexpr std::uint32_t rvb() const { return valeur_ & 0xFFFFFFU; }
     friend constexpr bool operator==(const Couleur&, const Couleur&) = default;
