@@ -93,7 +93,7 @@ class Fabrique {
         const auto rangees = tirages6(m_.mots, table.taille).rangees;
         ajouter(chemindeliste(table.texte), octets(rangees));
         for (const int finesse : variantes) {
-            ajouter(std::string(dossierimages) + '/' + fichierimage(table, finesse),
+            ajouter(std::string(common::dossierimages) + '/' + fichierimage(table, finesse),
                     dessinertable(titre(table), rangees, finesse));
         }
     }

@@ -20,8 +20,6 @@ struct Table {
     std::string_view image;  ///< file in the folder of the pictures, without its extension
 };
 
-/// Folder of the pictures, beside the program.
-inline constexpr std::string_view dossierimages = "images";
 /// Each picture comes for screens of normal and of double density.
 inline constexpr std::array variantes{1, 2};
 

@@ -5,34 +5,25 @@
 #include <ctime>
 
 #include "journal.h"
+#include "nombre.h"
 
 namespace carnet {
 namespace {
 
 constexpr std::size_t longueurdate = 10;  // yyyy-mm-dd
 
-std::optional<int> nombre(std::string_view chiffres) {
-    constexpr int base = 10;
-    int valeur = 0;
-    for (const char c : chiffres) {
-        if (c < '0' || c > '9')
-            return std::nullopt;
-        valeur = valeur * base + (c - '0');
-    }
-    return valeur;
-}
-
 std::chrono::year_month_day date(Jour jour) {
     return std::chrono::sys_days(std::chrono::days(jour));
 }
 
-std::string chiffres(int valeur, std::size_t largeur) {
-    auto texte = std::to_string(valeur);
+std::string quatrechiffres(int annee) {
+    constexpr std::size_t largeur = 4;
+    auto texte = std::to_string(annee);
     return texte.insert(0, largeur - std::min(largeur, texte.size()), '0');
 }
 
 std::string jourdumois(Jour jour) {
-    return chiffres(static_cast<int>(static_cast<unsigned>(date(jour).day())), 2);
+    return common::deuxchiffres(static_cast<unsigned>(date(jour).day()));
 }
 
 }  // namespace
@@ -48,9 +39,9 @@ Jour aujourdhui() {
 std::optional<Jour> lirejour(std::string_view texte) {
     if (texte.size() != longueurdate || texte[4] != '-' || texte[7] != '-')
         return std::nullopt;
-    const auto annee = nombre(texte.substr(0, 4));
-    const auto mois = nombre(texte.substr(5, 2));
-    const auto jour = nombre(texte.substr(8, 2));
+    const auto annee = common::entierdechiffres(texte.substr(0, 4));
+    const auto mois = common::entierdechiffres(texte.substr(5, 2));
+    const auto jour = common::entierdechiffres(texte.substr(8, 2));
     return annee && mois && jour ? profiles::jourdu(*annee, *mois, *jour) : std::nullopt;
 }
 
@@ -68,11 +59,13 @@ int jourdesemaine(Jour jour) {
 }
 
 std::string textejour(Jour jour) {
-    return chiffres(annee(jour), 4) + "-" + chiffres(mois(jour), 2) + "-" + jourdumois(jour);
+    return quatrechiffres(annee(jour)) + "-" + common::deuxchiffres(mois(jour)) + "-" +
+           jourdumois(jour);
 }
 
 std::string datefrancaise(Jour jour) {
-    return jourdumois(jour) + "/" + chiffres(mois(jour), 2) + "/" + chiffres(annee(jour), 4);
+    return jourdumois(jour) + "/" + common::deuxchiffres(mois(jour)) + "/" +
+           quatrechiffres(annee(jour));
 }
 
 }  // namespace carnet

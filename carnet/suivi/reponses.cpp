@@ -4,24 +4,12 @@
 
 #include "faute.h"
 #include "listes.h"
+#include "nombre.h"
 #include "progres.h"
 #include "texte.h"
 
 namespace carnet {
 namespace {
-
-constexpr std::string_view dossierimages = "images";
-
-std::optional<int> nombre(std::string_view chiffres) {
-    constexpr int base = 10;
-    int valeur = 0;
-    for (const char c : chiffres) {
-        if (c < '0' || c > '9')
-            return std::nullopt;
-        valeur = valeur * base + (c - '0');
-    }
-    return valeur;
-}
 
 /// A player has a folder.
 std::optional<Refus> sansdossier(common::Disque& disque, std::string_view util) {
@@ -38,12 +26,12 @@ std::string accord(std::size_t lignes) {
 
 bool nomdejoueur(std::string_view util) {
     return !util.empty() && util != "." && util != ".." && util != common::dossierlistes &&
-           util != dossierimages && util.find_first_of("/\\") == std::string_view::npos;
+           util != common::dossierimages && util.find_first_of("/\\") == std::string_view::npos;
 }
 
 std::optional<int> lireplafond(std::string_view texte) {
     constexpr std::size_t chiffres = 3;
-    const auto lu = texte.empty() || texte.size() > chiffres ? std::nullopt : nombre(texte);
+    const auto lu = texte.size() > chiffres ? std::nullopt : common::entierdechiffres(texte);
     return lu && *lu >= plafondminimum && *lu <= plafondmaximum ? lu : std::nullopt;
 }
 

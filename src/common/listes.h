@@ -12,6 +12,9 @@ namespace common {
 /// Folder of the word lists, beside the program.
 inline constexpr std::string_view dossierlistes = "listes";
 
+/// Folder of the pictures, beside the program.
+inline constexpr std::string_view dossierimages = "images";
+
 /// `listes\<fichier>`
 [[nodiscard]] std::string cheminliste(std::string_view fichier);
 /// The name or path of a list without the suffix of a part: "_" and a character before ".txt".

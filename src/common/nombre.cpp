@@ -117,6 +117,15 @@ std::string decimales(double nombre, int nombrededecimales) {
     return nombre < 0 && !nul ? "-" + texte : texte;
 }
 
+std::optional<int> entierdechiffres(std::string_view texte) {
+    int lu = 0;
+    const auto* fin = texte.data() + texte.size();
+    if (texte.empty() || !chiffre(texte.front()))
+        return std::nullopt;
+    const auto [ici, erreur] = std::from_chars(texte.data(), fin, lu);
+    return erreur == std::errc() && ici == fin ? std::optional(lu) : std::nullopt;
+}
+
 std::string deuxchiffres(std::int64_t nombre) {
     if (nombre < 0)
         return "-" + deuxchiffres(-nombre);

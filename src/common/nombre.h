@@ -5,10 +5,14 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace common {
+
+/// Value of a text of decimal digits alone; nothing for any other text, or past an `int`.
+[[nodiscard]] std::optional<int> entierdechiffres(std::string_view texte);
 
 /// The largest 16-bit integer.
 inline constexpr std::int16_t plusgrand16 = std::numeric_limits<std::int16_t>::max();

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <memory>
 
+#include "lignes.h"
+#include "nombre.h"
 #include "texte.h"
 
 namespace profiles {
@@ -51,16 +53,9 @@ std::optional<std::string> suitedeligne(const Tiragejuge& juge) {
     return octets;
 }
 
-/// Two digits or more, at a place, as a number; -1 if there is another sign.
+/// Digits at a place, as a number; -1 if there is another sign.
 int nombre(std::string_view texte, std::size_t place, std::size_t chiffres) {
-    constexpr int base = 10;
-    int valeur = 0;
-    for (const char c : texte.substr(place, chiffres)) {
-        if (c < '0' || c > '9')
-            return -1;
-        valeur = valeur * base + (c - '0');
-    }
-    return valeur;
+    return common::entierdechiffres(texte.substr(place, chiffres)).value_or(-1);
 }
 
 /// The day of dd/mm/yyyy, in days since 1 January 1970.
@@ -148,10 +143,10 @@ void alleger(std::string& attente) {
     attente.erase(0, fin == std::string::npos ? std::string::npos : fin + 1);
 }
 
-/// Cuts the bytes of a file into lines, in the memory of one line.
-class Decoupage {
+/// Reads the lines of a file in the memory of one line; one that is too long is skipped.
+class Lecteur {
   public:
-    Decoupage(const std::function<void(const Lignejournal&)>& voir, Lecturejournal& lecture)
+    Lecteur(const std::function<void(const Lignejournal&)>& voir, Lecturejournal& lecture)
         : voir_(voir), lecture_(lecture) {}
 
     /// Where the next bytes of the file go.
@@ -163,15 +158,11 @@ class Decoupage {
     }
     void prendre(std::size_t octets) {
         fin_ += octets;
-        std::size_t debut = 0;
-        while (const auto* saut = static_cast<const char*>(
-                   std::memchr(tampon_.data() + debut, '\n', fin_ - debut))) {
-            const auto ici = static_cast<std::size_t>(saut - tampon_.data());
-            donner({tampon_.data() + debut, ici - debut});
-            debut = ici + 1;
-        }
-        std::memmove(tampon_.data(), tampon_.data() + debut, fin_ - debut);
-        fin_ -= debut;
+        const std::string_view tout(tampon_.data(), fin_);
+        const auto entieres = tout.rfind('\n') + 1;  // 0 if there is none
+        donner(tout.substr(0, entieres));
+        std::memmove(tampon_.data(), tampon_.data() + entieres, fin_ - entieres);
+        fin_ -= entieres;
         if (fin_ > limitelignejournal) {
             fin_ = 0;
             trop_ = true;
@@ -179,14 +170,19 @@ class Decoupage {
     }
     /// The end of the file: a last line without its line end is a line too.
     void finir() {
-        if (fin_ > 0 || trop_)
+        if (fin_ > 0)
             donner({tampon_.data(), fin_});
+        else if (trop_)
+            donnerligne({});
     }
 
   private:
-    void donner(std::string_view ligne) {
-        if (ligne.ends_with('\r'))
-            ligne.remove_suffix(1);
+    void donner(std::string_view octets) {
+        common::Decoupage lignes(octets);
+        for (std::string_view ligne; lignes.suivante(ligne);)
+            donnerligne(ligne);
+    }
+    void donnerligne(std::string_view ligne) {
         const auto lue = trop_ ? std::nullopt : lire(ligne, moment_);
         trop_ = false;
         if (lue)
@@ -257,15 +253,15 @@ std::error_code parcourirjournal(common::Disque& disque, std::string_view chemin
     auto erreur = disque.ouvrir(chemin, flux);
     if (erreur)
         return erreur == std::errc::no_such_file_or_directory ? std::error_code() : erreur;
-    Decoupage decoupage(voir, lecture);
+    Lecteur lecteur(voir, lecture);
     for (std::size_t lus = 1; lus > 0;) {
-        const auto place = decoupage.place();
+        const auto place = lecteur.place();
         lus = 0;
         if ((erreur = flux->lire(place, lus)))
             return erreur;
-        decoupage.prendre(lus);
+        lecteur.prendre(lus);
     }
-    decoupage.finir();
+    lecteur.finir();
     return {};
 }
 

@@ -129,4 +129,13 @@ TEST(Decimales, au_plus_59) {
     EXPECT_EQ(common::decimales(2.5, -1), "3");
 }
 
+TEST(Entierdechiffres, ne_lit_que_des_chiffres) {
+    EXPECT_EQ(common::entierdechiffres("0"), 0);
+    EXPECT_EQ(common::entierdechiffres("007"), 7);
+    EXPECT_EQ(common::entierdechiffres("2147483647"), 2147483647);
+    for (const char* texte :
+         {"", "-1", "+1", " 1", "1 ", "1.", "2147483648", "99999999999999999999"})
+        EXPECT_EQ(common::entierdechiffres(texte), std::nullopt) << texte;
+}
+
 }  // namespace
