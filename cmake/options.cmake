@@ -18,6 +18,27 @@ if(ORVANE_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+# Where a process takes long to start, under the sanitizers and under Wine, tests are grouped: many are
+# one test of ctest, whose report names what fails.
+set(ORVANE_GROUPER ${ORVANE_SANITIZE})
+if(CMAKE_CROSSCOMPILING)
+  set(ORVANE_GROUPER ON)
+endif()
+
+# orvane_parsysteme(variable name ...): the sources of this system, <name>_posix.cpp or
+# <name>_windows.cpp.
+function(orvane_parsysteme variable)
+  set(sources "")
+  foreach(nom ${ARGN})
+    if(WIN32)
+      list(APPEND sources ${nom}_windows.cpp)
+    else()
+      list(APPEND sources ${nom}_posix.cpp)
+    endif()
+  endforeach()
+  set(${variable} ${sources} PARENT_SCOPE)
+endfunction()
+
 # orvane_couche(name SOURCES ... DEPENDS ...): one static library for a folder.
 # Its include directory is that folder alone, so a header of a layer that is
 # not linked is not found.
@@ -30,10 +51,9 @@ endfunction()
 
 # orvane_test(name [LONG] SOURCES ... DEPENDS ...): a GoogleTest program, each test known to ctest.
 # LONG: its tests compute at length.
-# Under the sanitizers a process takes ten times as long to start, so there a program is one test of
-# ctest, whose report names what fails. The tests' own sources take twice as long to optimise as to
-# compile there: only those of LONG are worth it. Checks of pointers, which a crash would show as
-# well, take a third of that time again, and are for the program's sources alone.
+# Under the sanitizers the tests' own sources take twice as long to optimise as to compile: only those
+# of LONG are worth it, and only these keep one entry a test. Checks of pointers, which a crash would
+# show as well, take a third of that time again, and are for the program's sources alone.
 function(orvane_test nom)
   cmake_parse_arguments(A "LONG" "" "SOURCES;DEPENDS" ${ARGN})
   add_executable(test_${nom} ${A_SOURCES})
@@ -43,6 +63,8 @@ function(orvane_test nom)
   endif()
   if(ORVANE_SANITIZE AND NOT A_LONG)
     target_compile_options(test_${nom} PRIVATE -O0)
+  endif()
+  if(ORVANE_GROUPER AND NOT (ORVANE_SANITIZE AND A_LONG))
     add_test(NAME ${ORVANE_PREFIXE}${nom} COMMAND test_${nom})
     set_tests_properties(${ORVANE_PREFIXE}${nom} PROPERTIES TIMEOUT 600)
     return()
