@@ -1,10 +1,10 @@
 // Where a POSIX system with the folders of XDG keeps what is a player's.
 
+#include "lieux.h"
+
 #include <cstdlib>
 #include <pwd.h>
 #include <unistd.h>
-
-#include "lieux.h"
 
 namespace installation {
 

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QUrl>
 
+#include "coquille.h"
 #include "hautparleur.h"
 #include "messages.h"
 #include "programme.h"
@@ -33,10 +34,10 @@ void PlateformeQt::sonner() {
 
 void PlateformeQt::ouvrir(std::string_view cible) {
     const auto texte = versqt(cible);
-    const bool adresse = texte.contains(QLatin1String("://"));
-    QDesktopServices::openUrl(
-        adresse ? QUrl(texte)
-                : QUrl::fromLocalFile(QDir::current().absoluteFilePath(fenetrier_.chemin(cible))));
+    if (texte.contains(QLatin1String("://")))
+        QDesktopServices::openUrl(QUrl(texte));
+    else
+        ouvrirfichier(QDir::current().absoluteFilePath(fenetrier_.chemin(cible)));
 }
 
 bool PlateformeQt::telecharger(std::string_view adresse, std::string_view chemin,

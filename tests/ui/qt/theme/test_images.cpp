@@ -1,7 +1,5 @@
 // Pictures: the sharpest variant that a place needs.
 
-#include <sys/stat.h>
-
 #include <QColor>
 #include <QFile>
 #include <QImage>
@@ -86,12 +84,6 @@ TEST_F(Images, un_fichier_qui_n_est_pas_une_image_ne_montre_rien) {
     ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
     fichier.write("BM pas une image");
     fichier.close();
-    EXPECT_TRUE(image(28, 1).isNull());
-}
-
-TEST_F(Images, un_tube_a_la_place_d_une_image_ne_s_attend_pas) {
-    const auto chemin = QFile::encodeName(dossier.filePath("marque.bmp"));
-    ASSERT_EQ(::mkfifo(chemin.constData(), 0666), 0);
     EXPECT_TRUE(image(28, 1).isNull());
 }
 

@@ -1,6 +1,7 @@
+// Fonts of a system whose settings are those of fontconfig.
+
 #include "fontessysteme.h"
 
-#ifdef __linux__
 #include <clocale>
 #include <dlfcn.h>
 #include <future>
@@ -8,11 +9,8 @@
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
 #endif
-#endif
 
 namespace ui::qt {
-
-#ifdef __linux__
 namespace {
 
 /// An operation of the fontconfig that Qt has loaded; null if it has none.
@@ -79,10 +77,5 @@ void attendrefontes() {
     if (reglages != nullptr && choisir != nullptr)
         static_cast<void>(choisir(reglages));  // they stay until the program ends
 }
-#else
-void lirefontes() {}
-
-void attendrefontes() {}
-#endif
 
 }  // namespace ui::qt

@@ -1,14 +1,13 @@
 // The system's font settings, read on another thread than Qt's.
 
-#include "fontessysteme.h"
-
-#ifdef __linux__
 #include <cstdlib>
 #include <dlfcn.h>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
+
+#include "fontessysteme.h"
 
 namespace {
 
@@ -53,4 +52,3 @@ TEST(FontesSysteme, les_reglages_lus_a_part_sont_ceux_que_qt_lit) {
 }
 
 }  // namespace
-#endif
