@@ -3,7 +3,9 @@
 
 find_program(CCACHE ccache)
 if(CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+  # Headers compiled beforehand are compared by their bytes.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+    CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
 endif()
 
 add_library(orvane_options INTERFACE)
@@ -39,6 +41,45 @@ function(orvane_parsysteme variable)
   set(${variable} ${sources} PARENT_SCOPE)
 endfunction()
 
+# Headers that most sources of a kind include, read once for all of them where ORVANE_PRECOMPILE is on:
+# half of the time that a source takes is theirs. A source still names what it uses: other builds have
+# none of this.
+#   regles: the standard library; fenetres: and Qt; essais: and the test frameworks; each of the tests'
+#   has a twin for LONG tests, which are compiled otherwise, see orvane_test.
+set(ORVANE_ENTETES_regles <algorithm> <array> <cstdint> <filesystem> <functional> <map> <memory>
+  <optional> <set> <span> <string> <string_view> <system_error> <utility> <vector>)
+set(ORVANE_ENTETES_fenetres ${ORVANE_ENTETES_regles} <QApplication> <QLabel> <QPainter> <QWidget>)
+set(ORVANE_ENTETES_essais ${ORVANE_ENTETES_regles} <gmock/gmock.h> <gtest/gtest.h>)
+set(ORVANE_ENTETES_essaisfenetres ${ORVANE_ENTETES_fenetres} <QTest> <gmock/gmock.h> <gtest/gtest.h>)
+
+# orvane_precompiler(target kind [option ...]): the options are those of the target.
+function(orvane_precompiler cible genre)
+  if(NOT ORVANE_PRECOMPILE)
+    return()
+  endif()
+  set(entetes orvane_entetes_${genre})
+  if(ARGN)
+    string(MAKE_C_IDENTIFIER "${entetes}${ARGN}" entetes)
+  endif()
+  if(NOT TARGET ${entetes})
+    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/entetes/vide.cpp CONTENT "")
+    add_library(${entetes} OBJECT ${PROJECT_BINARY_DIR}/entetes/vide.cpp)
+    target_compile_options(${entetes} PRIVATE ${ARGN})
+    target_precompile_headers(${entetes} PRIVATE ${ORVANE_ENTETES_${genre}})
+    if(genre MATCHES fenetres)
+      target_link_libraries(${entetes} PRIVATE Qt6::Widgets)
+    endif()
+    if(genre MATCHES essais)
+      target_link_libraries(${entetes} PRIVATE GTest::gmock GTest::gtest)
+    endif()
+    if(genre STREQUAL essaisfenetres)
+      target_link_libraries(${entetes} PRIVATE Qt6::Test)
+    endif()
+    target_link_libraries(${entetes} PRIVATE orvane_options)
+  endif()
+  target_precompile_headers(${cible} REUSE_FROM ${entetes})
+endfunction()
+
 # orvane_couche(name SOURCES ... DEPENDS ...): one static library for a folder.
 # Its include directory is that folder alone, so a header of a layer that is
 # not linked is not found.
@@ -47,6 +88,11 @@ function(orvane_couche nom)
   add_library(orvane_${nom} STATIC ${A_SOURCES})
   target_include_directories(orvane_${nom} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(orvane_${nom} PUBLIC ${A_DEPENDS} PRIVATE orvane_options)
+  if(nom MATCHES qt)
+    orvane_precompiler(orvane_${nom} fenetres)
+  else()
+    orvane_precompiler(orvane_${nom} regles)
+  endif()
 endfunction()
 
 # orvane_test(name [LONG] SOURCES ... DEPENDS ...): a GoogleTest program, each test known to ctest.
@@ -58,11 +104,18 @@ function(orvane_test nom)
   cmake_parse_arguments(A "LONG" "" "SOURCES;DEPENDS" ${ARGN})
   add_executable(test_${nom} ${A_SOURCES})
   target_link_libraries(test_${nom} PRIVATE ${A_DEPENDS} orvane_options GTest::gmock GTest::gtest_main)
+  set(options "")
   if(ORVANE_SANITIZE)
-    target_compile_options(test_${nom} PRIVATE -fno-sanitize=null,alignment,vptr,object-size)
+    list(APPEND options -fno-sanitize=null,alignment,vptr,object-size)
   endif()
   if(ORVANE_SANITIZE AND NOT A_LONG)
-    target_compile_options(test_${nom} PRIVATE -O0)
+    list(APPEND options -O0)
+  endif()
+  target_compile_options(test_${nom} PRIVATE ${options})
+  if(A_DEPENDS MATCHES "qt|Qt")
+    orvane_precompiler(test_${nom} essaisfenetres ${options})
+  else()
+    orvane_precompiler(test_${nom} essais ${options})
   endif()
   if(ORVANE_GROUPER AND NOT (ORVANE_SANITIZE AND A_LONG))
     add_test(NAME ${ORVANE_PREFIXE}${nom} COMMAND test_${nom})
