@@ -24,9 +24,10 @@ void bloc(std::string& fichier, std::string_view nom, std::string_view contenu) 
 
 /// Throws `std::runtime_error` if there is no memory for it.
 std::string comprimer(std::string_view octets) {
-    auto taille = compressBound(octets.size());
+    const auto longueur = static_cast<uLong>(octets.size());  // of 32 bits on some systems
+    auto taille = compressBound(longueur);
     std::string flux(taille, '\0');
-    if (compress2(reinterpret_cast<Bytef*>(flux.data()), &taille, debut(octets), octets.size(),
+    if (compress2(reinterpret_cast<Bytef*>(flux.data()), &taille, debut(octets), longueur,
                   Z_BEST_COMPRESSION) != Z_OK)
         throw std::runtime_error("zlib");
     flux.resize(taille);

@@ -4,10 +4,11 @@
 #include <filesystem>
 #include <iostream>
 #include <random>
-#include <unistd.h>
 
 #include "chantier.h"
+#include "chemin.h"
 #include "commande.h"
+#include "console.h"
 #include "dictionnaire.h"
 #include "disquereel.h"
 #include "envigueur.h"
@@ -38,7 +39,7 @@ class Ligne {
     }
 
   private:
-    bool terminal_ = ::isatty(STDERR_FILENO) != 0;
+    bool terminal_ = common::erreurssurterminal();
 };
 
 Dictionnaire mots(const std::string& chemin) {
@@ -63,7 +64,7 @@ Chantier chantier(const Options& options, const Progression& progression) {
 }
 
 std::string nom(const std::string& chemin) {
-    return std::filesystem::path(chemin).filename().string();
+    return common::chemin(chemin).filename().string();
 }
 
 /// What the lists are made of, for those who look at them later.
@@ -88,7 +89,7 @@ int fabriquer(const Options& options) {
     for (auto& fichier : recherche::fichiers(glossaire, envigueur(options)))
         production.fichiers.push_back(std::move(fichier));
     ligne.dire("Écriture");
-    installer(production.fichiers, options.cible);
+    installer(production.fichiers, common::chemin(options.cible));
     ligne.effacer();
     for (const auto& avertissement : production.avertissements)
         std::cerr << avertissement << '\n';
@@ -96,7 +97,7 @@ int fabriquer(const Options& options) {
 }
 
 int verifier(const Options& options) {
-    const auto constats = std::filesystem::is_directory(options.cible)
+    const auto constats = std::filesystem::is_directory(common::chemin(options.cible))
                               ? verifierdossier(options.cible)
                               : verifierfichier(options.cible);
     int etat = bien;
@@ -180,8 +181,8 @@ int executer(const Options& options) {
 
 int main(int nombre, char** arguments) {
     try {
-        const std::vector<std::string> mots(arguments + 1, arguments + nombre);
-        return executer(lireoptions(mots));
+        common::preparerconsole();
+        return executer(lireoptions(common::arguments(nombre, arguments)));
     } catch (const MauvaisUsage& usage) {
         std::cerr << usage.what() << "\nVoir orvane-listes --help.\n";
         return mauvaisusage;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "chemin.h"
 #include "reponses.h"
 
 namespace carnet {
@@ -38,7 +39,7 @@ struct Option {
 };
 
 constexpr std::array lesoptions{
-    Option{"--dossier", [](Options& o, const std::string& v) { o.dossier = v; }},
+    Option{"--dossier", [](Options& o, const std::string& v) { o.dossier = common::chemin(v); }},
     Option{"--echeances",
            [](Options& o, const std::string& v) { demander(o, Action::echeances, v); }},
     Option{"--progres", [](Options& o, const std::string& v) { demander(o, Action::progres, v); }},

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "catalogue.h"
+#include "chemin.h"
 #include "dictionnaireperso.h"
 #include "fabrication.h"
 #include "faute.h"
@@ -60,7 +61,7 @@ void comparereditions(common::Disque& disque, const Fichiersdeditions& fichiers,
         return std::move(std::get<Motslus>(lus).mots);
     };
     const auto nom = [](const std::string& chemin) {
-        return std::filesystem::path(chemin).filename().string();
+        return common::chemin(chemin).filename().string();
     };
     for (std::size_t i = 0; i < atelier::editions.size(); ++i) {
         const auto& ancienne = fichiers.at(i);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "chemin.h"
 #include "disquereel.h"
 #include "fichier.h"
 #include "listes.h"
@@ -37,7 +38,7 @@ template <class Libre>
 fs::path premierlibre(const fs::path& base, Libre&& libre) {
     auto essai = base;
     for (int i = 2; !libre(essai) && i < essaismax; ++i)
-        essai = base.string() + " (" + std::to_string(i) + ")";
+        essai = common::chemin(base.string() + " (" + std::to_string(i) + ")");
     return essai;
 }
 
@@ -69,7 +70,7 @@ std::error_code Sauvegarde::lister(const fs::path& dossier, Contenu& contenu) {
         if (texte == "." || texte == ".." || texte.ends_with(provisoire))
             continue;
         common::Etat etat;
-        const auto erreur = appels_->etat(dossier / texte, etat);
+        const auto erreur = appels_->etat(dossier / nom.filename(), etat);
         if (erreur && erreur != std::errc::no_such_file_or_directory)
             return erreur;  // a file may not be left out in silence
         const bool fichier = !erreur && etat.genre == common::Genre::Fichier &&
@@ -131,11 +132,11 @@ bool Sauvegarde::transporter(const fs::path& source, const fs::path& cible,
             return false;
         }
         const auto& nom = contenu.fichiers[i];
-        ou = source / nom;
+        ou = source / common::chemin(nom);
         std::string octets;
         if ((erreur = common::essayerlire(depuis, nom, octets)))
             break;
-        ou = cible / nom;
+        ou = cible / common::chemin(nom);
         erreur = vers.remplacer(nom, octets);
     }
     if (erreur) {
@@ -153,7 +154,8 @@ Issue Sauvegarde::copier(const std::string& util, const fs::path& destination, J
     common::DisqueReel jeu(jeu_, *appels_);
     if (!nomdejoueur(util) || !jeu.estdossier(util))
         return refus("Pas de joueur « " + util + " » dans ce dossier de jeu.");
-    const auto source = jeu_ / util;
+    const auto nom = common::chemin(util);
+    const auto source = jeu_ / nom;
     std::error_code sans;
     const auto vrai = fs::weakly_canonical(source, sans);
     const auto but = fs::weakly_canonical(destination, sans);
@@ -162,20 +164,20 @@ Issue Sauvegarde::copier(const std::string& util, const fs::path& destination, J
             "La copie ne peut aller dans le dossier du joueur lui-même : choisissez-en un "
             "autre.");
     const auto date = premierlibre(destination / ("Orvane " + textejour(jour)),
-                                   [&](const fs::path& essai) { return !existe(essai / util); });
+                                   [&](const fs::path& essai) { return !existe(essai / nom); });
     common::DisqueReel ailleurs(destination, *appels_);
     const bool neuf = !existe(date);
     if (const auto erreur = ailleurs.creerdossier(date.filename().string()))
         return refus("Création du dossier", date, erreur);
     Issue issue;
-    const auto encours = date / (util + std::string(provisoire));
+    const auto encours = date / common::chemin(util + std::string(provisoire));
     if (transporter(source, encours, avance, issue)) {
-        if (const auto erreur = nommer(encours, date / util)) {
+        if (const auto erreur = nommer(encours, date / nom)) {
             effacer(encours);
-            issue = refus("Copie", date / util, erreur);
+            issue = refus("Copie", date / nom, erreur);
         } else {
             issue.etat = Issue::Etat::fait;
-            issue.dossier = date / util;
+            issue.dossier = date / nom;
         }
     }
     if (issue.etat != Issue::Etat::fait && neuf)
@@ -199,7 +201,7 @@ Sauvegarde::Retour Sauvegarde::examiner(const fs::path& copie) {
         retour.ennui = "« " + retour.util + " » ne peut être le nom d'un joueur.";
     if (!retour.ennui.empty())
         return retour;
-    const auto ici = jeu_ / retour.util;
+    const auto ici = jeu_ / propre.filename();
     std::error_code sans;
     if (fs::equivalent(ici, propre, sans)) {
         retour.ennui = "Ce dossier est celui du jeu lui-même : choisissez une copie.";
@@ -221,8 +223,10 @@ Sauvegarde::Retour Sauvegarde::examiner(const fs::path& copie) {
     Contenu dici;
     retour.identique =
         !lister(ici, dici) && dici.fichiers == dela.fichiers &&
-        std::all_of(dici.fichiers.begin(), dici.fichiers.end(),
-                    [&](const auto& nom) { return lire(ici / nom) == lire(propre / nom); });
+        std::all_of(dici.fichiers.begin(), dici.fichiers.end(), [&](const auto& nom) {
+            const auto fichier = common::chemin(nom);
+            return lire(ici / fichier) == lire(propre / fichier);
+        });
     retour.risque = !retour.identique && (!suite || memesjournaux);
     return retour;
 }
@@ -232,17 +236,18 @@ Issue Sauvegarde::remettre(const fs::path& copie, Jour jour, const Avancecopie& 
     if (!retour.ennui.empty())
         return refus(retour.ennui);
     const auto propre = copie.has_filename() ? copie : copie.parent_path();
-    const auto place = jeu_ / retour.util;
-    const auto pret = jeu_ / dossierenattente(retour.util);
-    const auto encours = fs::path(pret.string() + std::string(provisoire));
+    const auto place = jeu_ / propre.filename();
+    const auto pret = jeu_ / common::chemin(dossierenattente(retour.util));
+    const auto encours = common::chemin(pret.string() + std::string(provisoire));
     Issue issue;
     if (!transporter(propre, encours, avance, issue))
         return issue;
     effacer(pret);
     auto erreur = nommer(encours, pret);
     if (!erreur && retour.existe) {
-        issue.ancien = premierlibre(jeu_ / (retour.util + " avant le " + textejour(jour)),
-                                    [&](const fs::path& essai) { return !existe(essai); });
+        issue.ancien =
+            premierlibre(jeu_ / common::chemin(retour.util + " avant le " + textejour(jour)),
+                         [&](const fs::path& essai) { return !existe(essai); });
         erreur = nommer(place, issue.ancien);
     }
     if (!erreur && (erreur = nommer(pret, place)) && !issue.ancien.empty())
@@ -267,7 +272,7 @@ std::vector<std::string> Sauvegarde::achever() {
         if (!texte.starts_with(attente) || texte.ends_with(provisoire))
             continue;
         const auto util = texte.substr(attente.size());
-        if (nomdejoueur(util) && nommer(jeu_ / texte, jeu_ / util))
+        if (nomdejoueur(util) && nommer(jeu_ / nom.filename(), jeu_ / common::chemin(util)))
             attendent.push_back(util);
     }
     std::sort(attendent.begin(), attendent.end());

@@ -9,6 +9,7 @@
 #include <unordered_set>
 
 #include "catalogue.h"
+#include "chemin.h"
 #include "disquereel.h"
 #include "fichier.h"
 #include "lignestexte.h"
@@ -211,7 +212,7 @@ std::string Constat::texte() const {
 
 std::vector<Constat> verifierfichier(const std::string& chemin) {
     Verificateur verificateur;
-    const fs::path fichier(chemin);
+    const auto fichier = common::chemin(chemin);
     const auto nom = fichier.filename().string();
     const auto* trouvee =
         std::find_if(common::listesreference.begin(), common::listesreference.end(),
@@ -228,7 +229,7 @@ std::vector<Constat> verifierfichier(const std::string& chemin) {
 
 std::vector<Constat> verifierdossier(const std::string& chemin) {
     Verificateur verificateur;
-    const fs::path dossier(chemin);
+    const auto dossier = common::chemin(chemin);
     const auto listes = dossier / common::dossierlistes;
     const bool parent = fs::is_directory(listes);
     verificateur.catalogue(parent ? listes : dossier);

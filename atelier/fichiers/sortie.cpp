@@ -1,14 +1,11 @@
 #include "sortie.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
+#include "chemin.h"
 #include "faute.h"
 #include "fichier.h"
 #include "listes.h"
+#include "programme.h"
+#include "provisoire.h"
 
 namespace atelier {
 namespace {
@@ -16,12 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view action = "Installation des listes";
-/// Where the new files wait until all are there.
-constexpr std::string_view attente = ".nouvelles-listes";
-
-std::error_code derniere() {
-    return {errno, std::generic_category()};
-}
 
 [[noreturn]] void faute(const fs::path& chemin, const std::error_code& erreur) {
     throw common::Faute(common::rapportfichier(action, chemin.string(), common::raison(erreur)));
@@ -32,54 +23,43 @@ void verifier(const fs::path& chemin, const std::error_code& erreur) {
         faute(chemin, erreur);
 }
 
-class Descripteur {
-  public:
-    explicit Descripteur(int numero) : numero_(numero) {}
-    Descripteur(const Descripteur&) = delete;
-    Descripteur& operator=(const Descripteur&) = delete;
-    ~Descripteur() {
-        if (numero_ >= 0)
-            ::close(numero_);
-    }
-    [[nodiscard]] int numero() const { return numero_; }
-
-  private:
-    int numero_;
-};
-
 /// The waiting folder: empty at first, gone at the end, whatever happens.
 class Attente {
   public:
-    explicit Attente(const fs::path& dossier)
-        : verrou_(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
-          chemin_(dossier / attente) {
-        if (verrou_.numero() < 0)
-            faute(dossier, derniere());
-        if (::flock(verrou_.numero(), LOCK_EX | LOCK_NB) != 0)
+    Attente(common::Appels& appels, const fs::path& dossier)
+        : appels_(appels),
+          dossier_(dossier),
+          exclusion_(dossier, erreur_),
+          chemin_(dossier / common::dossiernouvelleslistes) {
+        if (erreur_ == std::errc::operation_would_block)
             throw common::Faute(common::rapportfichier(action, dossier.string(),
                                                        "une autre fabrication y est en cours"));
+        verifier(dossier, erreur_);
+        verifier(dossier, common::remettrelistes(appels, dossier));
         fs::remove_all(chemin_);
-        std::error_code erreur;
-        fs::create_directory(chemin_, erreur);
-        verifier(chemin_, erreur);
+        fs::create_directory(chemin_, erreur_);
+        verifier(chemin_, erreur_);
     }
     Attente(const Attente&) = delete;
     Attente& operator=(const Attente&) = delete;
     ~Attente() {
-        std::error_code oubli;  // the next run clears what is left
-        fs::remove_all(chemin_, oubli);
+        // The old lists may be in it, if the disk has refused to put them back.
+        std::error_code oubli = common::remettrelistes(appels_, dossier_);
+        if (!oubli)
+            fs::remove_all(chemin_, oubli);  // the next run clears what is left
     }
     [[nodiscard]] const fs::path& chemin() const { return chemin_; }
 
   private:
-    Descripteur verrou_;
+    common::Appels& appels_;
+    fs::path dossier_;
+    std::error_code erreur_;
+    Exclusion exclusion_;
     fs::path chemin_;
 };
 
-void deplacer(const fs::path& source, const fs::path& cible) {
-    std::error_code erreur;
-    fs::rename(source, cible, erreur);
-    verifier(cible, erreur);
+void deplacer(common::Appels& appels, const fs::path& source, const fs::path& cible) {
+    verifier(cible, appels.renommer(source, cible));
 }
 
 /// Takes over what only the old folder has.
@@ -99,60 +79,53 @@ void reprendre(const fs::path& ancien, const fs::path& nouveau) {
 }
 
 /// Puts the new folder in the place of the old one; the old one stays in the waiting folder.
-void echanger(const fs::path& nouveau, const fs::path& place) {
+void echanger(common::Appels& appels, const fs::path& nouveau, const fs::path& place) {
     if (!fs::exists(place)) {
-        deplacer(nouveau, place);
+        deplacer(appels, nouveau, place);
         return;
     }
-    if (::renameat2(AT_FDCWD, nouveau.c_str(), AT_FDCWD, place.c_str(), RENAME_EXCHANGE) == 0)
+    if (!appels.echanger(nouveau, place))
         return;
-    // A disk that cannot exchange: the old folder steps aside first, and comes back on a failure.
-    auto ancien = nouveau;
-    ancien += "-anciennes";
-    deplacer(place, ancien);
-    std::error_code erreur;
-    fs::rename(nouveau, place, erreur);
+    // A disk that cannot: the old folder steps aside first, and comes back on a failure.
+    const auto anciennes = nouveau.parent_path() / common::ancienneslistes;
+    deplacer(appels, place, anciennes);
+    const auto erreur = appels.renommer(nouveau, place);
     if (!erreur)
         return;
-    std::error_code oubli;  // the reason to tell is the first one
-    fs::rename(ancien, place, oubli);
+    static_cast<void>(appels.renommer(anciennes, place));  // the reason to tell is the first one
     faute(place, erreur);
 }
 
 }  // namespace
 
 std::error_code ecrirefichier(const fs::path& chemin, std::string_view octets) {
-    const Descripteur fichier(
-        ::open(chemin.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (fichier.numero() < 0)
-        return derniere();
-    while (!octets.empty()) {
-        const auto n = ::write(fichier.numero(), octets.data(), octets.size());
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return derniere();
-        octets.remove_prefix(static_cast<std::size_t>(n));
+    auto& appels = common::appelsdusysteme();
+    common::Descripteur fichier(appels);
+    auto erreur = fichier.ouvrir(chemin, common::Ouverture::Creation);
+    if (erreur == std::errc::file_exists) {
+        erreur = appels.supprimer(chemin);
+        if (!erreur)
+            erreur = fichier.ouvrir(chemin, common::Ouverture::Creation);
     }
-    return {};
-}
-
-std::error_code abriter(const fs::path& dossier) {
-    const Descripteur ouvert(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return ouvert.numero() < 0 || ::syncfs(ouvert.numero()) != 0 ? derniere() : std::error_code();
+    while (!erreur && !octets.empty()) {
+        std::size_t ecrits = 0;
+        erreur = appels.ecrire(fichier.poignee(), octets, ecrits);
+        octets.remove_prefix(ecrits);
+    }
+    return erreur;
 }
 
 void installer(const std::vector<Fichier>& fichiers, const fs::path& dossier, const Ecrire& ecrire,
-               const Abriter& mettrealabri) {
+               const Abriter& mettrealabri, common::Appels& appels) {
     std::error_code erreur;
     fs::create_directories(dossier, erreur);
     verifier(dossier, erreur);
-    const Attente neufs(dossier);
+    const Attente neufs(appels, dossier);
     for (const auto& fichier : fichiers) {
-        const auto chemin = neufs.chemin() / fichier.chemin;
+        const auto chemin = neufs.chemin() / common::chemin(fichier.chemin);
         fs::create_directories(chemin.parent_path(), erreur);
         verifier(chemin.parent_path(), erreur);
-        verifier(dossier / fichier.chemin, ecrire(chemin, fichier.octets));
+        verifier(dossier / common::chemin(fichier.chemin), ecrire(chemin, fichier.octets));
     }
     const fs::path listes(common::dossierlistes);
     const bool deslistes = fs::exists(neufs.chemin() / listes);
@@ -160,14 +133,14 @@ void installer(const std::vector<Fichier>& fichiers, const fs::path& dossier, co
         reprendre(dossier / listes, neufs.chemin() / listes);
     verifier(dossier, mettrealabri(neufs.chemin()));
     if (deslistes)
-        echanger(neufs.chemin() / listes, dossier / listes);
+        echanger(appels, neufs.chemin() / listes, dossier / listes);
     for (const auto& fichier : fichiers) {
-        const fs::path chemin(fichier.chemin);
+        const auto chemin = common::chemin(fichier.chemin);
         if (*chemin.begin() == listes)
             continue;
         fs::create_directories((dossier / chemin).parent_path(), erreur);
         verifier((dossier / chemin).parent_path(), erreur);
-        deplacer(neufs.chemin() / chemin, dossier / chemin);
+        deplacer(appels, neufs.chemin() / chemin, dossier / chemin);
     }
     // The files are in place: names that cannot be brought onto the disk take nothing back.
     static_cast<void>(mettrealabri(dossier));

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 
+#include "horloge.h"
 #include "journal.h"
 #include "nombre.h"
 
@@ -29,11 +29,8 @@ std::string jourdumois(Jour jour) {
 }  // namespace
 
 Jour aujourdhui() {
-    constexpr int an1900 = 1900;
-    const auto maintenant = std::time(nullptr);
-    std::tm t{};
-    ::localtime_r(&maintenant, &t);
-    return profiles::jourdu(t.tm_year + an1900, t.tm_mon + 1, t.tm_mday).value_or(0);
+    const auto ici = common::instantlocal();
+    return profiles::jourdu(ici.annee, ici.mois, ici.jour).value_or(0);
 }
 
 std::optional<Jour> lirejour(std::string_view texte) {

@@ -1,8 +1,8 @@
 #pragma once
 
 // The system calls that the real disk makes, one function each, so that a test can count them, make
-// one fail, or end the program at any of them. `disquereel_posix.cpp` has the real ones; another
-// kind of system gets its own source beside it.
+// one fail, or end the program at any of them. `disquereel_posix.cpp` and
+// `disquereel_windows.cpp` have the real ones.
 
 #include <cstdint>
 #include <filesystem>
@@ -33,7 +33,7 @@ struct Etat {
     std::uint64_t disque = 0;
     std::uint64_t numero = 0;
     std::uint64_t taille = 0;  ///< bytes
-    std::uint32_t droits = 0;  ///< permission bits, as POSIX has them
+    std::uint32_t droits = 0;  ///< permission bits, as POSIX has them; always the same on Windows
 };
 
 class Appels {
@@ -45,6 +45,9 @@ class Appels {
 
     using Chemin = std::filesystem::path;
 
+    /// `operation_would_block` while another program keeps all others from the file. Here as
+    /// wherever a path is given, `Ennui::NomReserve` or `Ennui::NomInterdit` if the system has no
+    /// files of such a name.
     [[nodiscard]] virtual std::error_code ouvrir(const Chemin& chemin, Ouverture mode,
                                                  Poignee& poignee) = 0;
     virtual void fermer(Poignee poignee) = 0;
@@ -60,7 +63,8 @@ class Appels {
     [[nodiscard]] virtual std::error_code couper(Poignee poignee, std::uint64_t taille) = 0;
     /// Returns once the bytes of the file would survive a power cut.
     [[nodiscard]] virtual std::error_code synchroniser(Poignee poignee) = 0;
-    /// Returns once the names in the folder would survive a power cut.
+    /// Returns once the names in the folder would survive a power cut, unless each change of a name
+    /// has waited for that.
     [[nodiscard]] virtual std::error_code synchroniserdossier(const Chemin& dossier) = 0;
     [[nodiscard]] virtual std::error_code etat(Poignee poignee, Etat& etat) = 0;
     /// Follows links.
@@ -71,8 +75,12 @@ class Appels {
     [[nodiscard]] virtual std::error_code leguer(const Chemin& modele, Poignee neuf) = 0;
     /// Sets the permission bits of an open file.
     [[nodiscard]] virtual std::error_code changerdroits(Poignee poignee, std::uint32_t droits) = 0;
-    /// Renames a file or folder, replacing what has the new name.
+    /// Renames a file or folder, replacing the file that has the new name, whoever is reading that
+    /// one. May wait for those up to `attentelimite`, and then fails with `Ennui::Retenu`.
     [[nodiscard]] virtual std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) = 0;
+    /// Gives each of two folders the name of the other, in one step. An error where the system or
+    /// the disk cannot.
+    [[nodiscard]] virtual std::error_code echanger(const Chemin& un, const Chemin& autre) = 0;
     /// Renames a file; `file_exists` if something has the new name. `invalid_argument` or
     /// `function_not_supported` on a disk that cannot refuse a name that is taken.
     [[nodiscard]] virtual std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) = 0;

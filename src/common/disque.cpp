@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 
 namespace common {
 namespace {
@@ -18,6 +17,13 @@ class Ennuis : public std::error_category {
                 return "un autre programme le retient ; la limite d'attente est de " +
                        std::to_string(attentelimite / 1000) +
                        " secondes. Fermez l'autre programme et recommencez";
+            case Ennui::PartPleine:
+                return "votre part du disque est pleine";
+            case Ennui::NomReserve:
+                return "ce nom est réservé par Windows ; choisissez-en un autre";
+            case Ennui::NomInterdit:
+                return "Windows refuse ce nom : un nom n'a ni < > : \" / \\ | ? * ni, à la fin, un "
+                       "point ou une espace";
             case Ennui::LigneTropLongue:
                 break;
         }
@@ -44,7 +50,6 @@ std::string raison(const std::error_code& erreur) {
         Cas{std::errc::permission_denied, "accès refusé"},
         Cas{std::errc::operation_not_permitted, "opération refusée par le système"},
         Cas{std::errc::no_space_on_device, "le disque est plein"},
-        Cas{static_cast<std::errc>(EDQUOT), "votre part du disque est pleine"},
         Cas{std::errc::file_too_large, "fichier trop grand pour ce disque"},
         Cas{std::errc::read_only_file_system, "le disque est en lecture seule"},
         Cas{std::errc::is_a_directory, "c'est un dossier et non un fichier"},

@@ -21,7 +21,10 @@ inline constexpr std::int64_t attentelimite = 5000;
 enum class Ennui : std::uint8_t {
     PasUnFichier = 1,  ///< a pipe, a device...: not a regular file
     Retenu,            ///< another program has kept it locked for too long
-    LigneTropLongue    ///< a line is over its limit
+    LigneTropLongue,   ///< a line is over its limit
+    PartPleine,        ///< the disk has room, but no more for this player
+    NomReserve,        ///< the name is that of a device of the system
+    NomInterdit        ///< the name has a character or an end that the system refuses
 };
 [[nodiscard]] std::error_code make_error_code(Ennui ennui);
 

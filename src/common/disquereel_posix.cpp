@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "appels.h"
+#include "disque.h"
 
 namespace common {
 namespace {
@@ -21,6 +22,8 @@ constexpr mode_t bitsdemode = 07777;
 constexpr auto meme = static_cast<uid_t>(-1);  // no change of owner
 
 std::error_code derniere() {
+    if (errno == EDQUOT)  // which the standard library has no name for
+        return Ennui::PartPleine;
     return {errno, std::generic_category()};
 }
 
@@ -167,6 +170,10 @@ class AppelsPosix : public Appels {
 
     std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
         return issue(::rename(ancien.c_str(), nouveau.c_str()));
+    }
+
+    std::error_code echanger(const Chemin& un, const Chemin& autre) override {
+        return issue(::renameat2(AT_FDCWD, un.c_str(), AT_FDCWD, autre.c_str(), RENAME_EXCHANGE));
     }
 
     std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) override {

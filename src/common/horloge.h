@@ -23,4 +23,7 @@ struct Instant {
     }
 };
 
+/// The present, by the clock and in the time zone of the system.
+[[nodiscard]] Instant instantlocal();
+
 }  // namespace common

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "listes.h"
 #include "provisoire.h"
 
 namespace common {
@@ -26,6 +27,16 @@ std::string dossierprogramme(Appels& appels, const fs::path& executable, const f
     if (texte.back() != '\\')
         texte += '\\';
     return texte;
+}
+
+std::error_code remettrelistes(Appels& appels, const fs::path& dossier) {
+    const auto place = dossier / dossierlistes;
+    const auto anciennes = dossier / dossiernouvelleslistes / ancienneslistes;
+    Etat etat;
+    if (appels.etat(place, etat) != std::errc::no_such_file_or_directory ||
+        appels.etat(anciennes, etat))
+        return {};
+    return appels.renommer(anciennes, place);
 }
 
 }  // namespace common

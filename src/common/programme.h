@@ -2,6 +2,8 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 #include "appels.h"
 
@@ -16,5 +18,13 @@ namespace common {
 /// folder (`courant`) or if no file can be created there.
 [[nodiscard]] std::string dossierprogramme(Appels& appels, const std::filesystem::path& executable,
                                            const std::filesystem::path& courant);
+
+/// Where new lists are made, beside the lists, and in it the old ones while they change places.
+inline constexpr std::string_view dossiernouvelleslistes = ".nouvelles-listes";
+inline constexpr std::string_view ancienneslistes = "listes-anciennes";
+
+/// Puts the lists of a play folder back in their place if a making that was killed had set them
+/// aside. Does nothing to a folder that has lists.
+[[nodiscard]] std::error_code remettrelistes(Appels& appels, const std::filesystem::path& dossier);
 
 }  // namespace common

@@ -13,8 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// From the folder of the executable.
-constexpr std::array endroits{".", "../share/games/orvane"};
+/// From the folder of the executable. Where that one can be written by the player, as on Windows,
+/// an installed program has no `listes` in it, and its files in the second of these.
+constexpr std::array endroits{".", "fournis", "../share/games/orvane"};
 
 bool est(common::Appels& appels, const fs::path& chemin, common::Genre genre) {
     common::Etat etat;
@@ -32,8 +33,11 @@ fs::path donneesxdg(const char* donnees, const char* maison) {
 }
 
 Lieu choisir(common::Appels& appels, const Environs& environs) {
-    if (est(appels, environs.programme / common::dossierlistes, common::Genre::Dossier) &&
-        common::inscriptible(appels, environs.programme))
+    const auto listes = environs.programme / common::dossierlistes;
+    bool deslistes = est(appels, listes, common::Genre::Dossier);
+    if (!deslistes && !common::remettrelistes(appels, environs.programme))
+        deslistes = est(appels, listes, common::Genre::Dossier);
+    if (deslistes && common::inscriptible(appels, environs.programme))
         return {environs.programme, {}};
     for (const auto* endroit : endroits) {
         const auto fournis = environs.programme / endroit;
@@ -42,7 +46,7 @@ Lieu choisir(common::Appels& appels, const Environs& environs) {
         if (environs.donnees.empty())
             throw common::Faute(common::rapportfichier(
                 "Recherche de votre dossier", fournis.string(),
-                "le système ne dit pas où sont vos données (HOME n'est pas un dossier)"));
+                "le système ne dit pas où sont vos données (" + environs.sansdonnees + ")"));
         return {environs.donnees, fournis};
     }
     return {};

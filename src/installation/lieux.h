@@ -14,6 +14,7 @@ namespace installation {
 struct Environs {
     std::filesystem::path programme;  ///< the folder of the executable
     std::filesystem::path donnees;    ///< the player's folder of this program; empty if none
+    std::string sansdonnees{};        ///< why there is none, as a report says it
 };
 
 /// The environs of a program whose executable stands in `programme`. One source a system.
@@ -32,9 +33,10 @@ struct Lieu {
 };
 
 /// The folder of the executable when that holds `listes` and can be written (on a USB stick,
-/// or unpacked from an archive). Otherwise, for a program that has an inventory beside it or in
-/// `../share/games/orvane`, the player's folder. Otherwise the one in which it was started. Throws
-/// `common::Faute` if the player's folder is wanted and unknown.
+/// or unpacked from an archive). Otherwise, for a program that has an inventory beside it, in
+/// `fournis` or in `../share/games/orvane`, the player's folder. Otherwise the one in which it was
+/// started. Throws `common::Faute` if the player's folder is wanted and unknown. Lists that a
+/// killed making had set aside are put back first.
 [[nodiscard]] Lieu choisir(common::Appels& appels, const Environs& environs);
 
 }  // namespace installation

@@ -13,7 +13,8 @@ Environs environs(const std::filesystem::path& programme) {
     if (maison == nullptr)
         if (const auto* compte = ::getpwuid(::getuid()))
             maison = compte->pw_dir;
-    return {programme, donneesxdg(std::getenv("XDG_DATA_HOME"), maison)};
+    return {programme, donneesxdg(std::getenv("XDG_DATA_HOME"), maison),
+            "HOME n'est pas un dossier"};
 }
 
 }  // namespace installation

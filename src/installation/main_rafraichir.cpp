@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "chemin.h"
+#include "console.h"
 #include "disquereel.h"
 #include "faute.h"
 #include "inventaire.h"
@@ -38,7 +40,8 @@ void apporter(const std::filesystem::path& source, const std::filesystem::path& 
 }  // namespace
 
 int main(int nombre, char** arguments) {
-    const std::vector<std::string> mots(arguments + 1, arguments + nombre);
+    common::preparerconsole();
+    const auto mots = common::arguments(nombre, arguments);
     const bool inventaire = mots.size() == 3 && mots[0] == "--inventaire";
     if (mots.size() != 2 && !inventaire) {
         std::cerr << "usage: orvane-rafraichir SOURCE DEST | --inventaire SOURCE NUMBER\n";
@@ -46,11 +49,11 @@ int main(int nombre, char** arguments) {
     }
     try {
         if (inventaire) {
-            auto tout = installation::inventorier(mots[1]);
+            auto tout = installation::inventorier(common::chemin(mots[1]));
             tout.version = installation::versionde(mots[2], tout.fichiers);
             std::cout << installation::ecrire(tout);
         } else {
-            apporter(mots[0], mots[1]);
+            apporter(common::chemin(mots[0]), common::chemin(mots[1]));
         }
     } catch (const std::exception& faute) {
         std::cerr << faute.what() << '\n';

@@ -3,6 +3,7 @@
 #include "disquereel.h"
 #include "faute.h"
 #include "fichier.h"
+#include "programme.h"
 #include "rafraichissement.h"
 
 namespace installation {
@@ -38,6 +39,7 @@ Lieu preparer(common::Appels& appels, const Environs& environs) {
     auto lieu = choisir(appels, environs);
     if (lieu.fournis.empty())
         return lieu;
+    verifier(lieu.dossier, common::remettrelistes(appels, lieu.dossier));
     common::DisqueReel source(lieu.fournis, appels);
     common::DisqueReel cible(lieu.dossier, appels);
     const auto inventaire = lireinventaire(source);

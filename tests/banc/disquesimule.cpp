@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "chemin.h"
+
 namespace banc {
 namespace {
 
@@ -15,7 +17,7 @@ std::error_code disqueplein() {
 void DisqueSimule::reserver(std::map<std::string, Fourniture> fournitures) {
     const auto racine = DisqueReel::systeme("");
     for (const auto& [nom, fourniture] : fournitures)
-        std::filesystem::create_directories((racine / nom).parent_path());
+        std::filesystem::create_directories((racine / common::chemin(nom)).parent_path());
     reserve_ = std::move(fournitures);
 }
 
@@ -31,7 +33,7 @@ std::filesystem::path DisqueSimule::systeme(std::string_view chemin) const {
             ++f;
             continue;
         }
-        f->second.poser(racine / f->first);
+        f->second.poser(racine / common::chemin(f->first));
         f = reserve_.erase(f);
     }
     return voulu;

@@ -1,13 +1,14 @@
 #include "dossier.h"
 
 #include <array>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 #include <string_view>
 #include <system_error>
 
 #include "catalogue.h"
+#include "chemin.h"
+#include "dossierneuf.h"
 
 namespace banc {
 namespace {
@@ -24,12 +25,7 @@ constexpr std::string_view rangeemultiple = "ABC;BAC;CAB\r\n";
 
 }  // namespace
 
-Dossier::Dossier() : provisoire_(true) {
-    auto modele = (fs::temp_directory_path() / "orvane été XXXXXX").string();
-    if (::mkdtemp(modele.data()) == nullptr)
-        throw std::system_error(errno, std::generic_category(), modele);
-    chemin_ = modele;
-}
+Dossier::Dossier() : chemin_(essais::dossierneuf("orvane été ")), provisoire_(true) {}
 
 Dossier::~Dossier() {
     std::error_code oubli;
@@ -75,8 +71,9 @@ std::map<std::string, Fourniture> fournitures(const fs::path& jeu) {
 
 void garnir(const fs::path& dossier, const fs::path& jeu) {
     for (const auto& [nom, fourniture] : fournitures(jeu)) {
-        fs::create_directories((dossier / nom).parent_path());
-        fourniture.poser(dossier / nom);
+        const auto place = dossier / common::chemin(nom);
+        fs::create_directories(place.parent_path());
+        fourniture.poser(place);
     }
 }
 

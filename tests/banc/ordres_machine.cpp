@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <limits>
 
+#include "chemin.h"
 #include "ordres.h"
 #include "textes.h"
 
@@ -92,7 +93,7 @@ std::string reseau(Seance& seance, const Ordre& ordre) {
 }
 
 std::string capture(Seance& seance, const Ordre& ordre) {
-    if (!seance.pilote->capturer(std::filesystem::path(ordre.suite)))
+    if (!seance.pilote->capturer(common::chemin(ordre.suite)))
         throw Refus("pas d'image : aucune fenêtre réelle n'est montrée");
     return {};
 }

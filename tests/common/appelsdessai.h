@@ -110,6 +110,9 @@ class AppelsDessai : public common::Appels {
     std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
         return faire("renommer", [&] { return vrais_.renommer(ancien, nouveau); });
     }
+    std::error_code echanger(const Chemin& un, const Chemin& autre) override {
+        return faire("echanger", [&] { return vrais_.echanger(un, autre); });
+    }
     std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) override {
         return faire("nommer", [&] { return vrais_.nommer(ancien, nouveau); });
     }
