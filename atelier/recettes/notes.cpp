@@ -103,12 +103,19 @@ class Redacteur {
         }
         if (liste.empty())
             return false;
-        if (l.al(participepasse))
-            ajouter("p. p. de " + v_.lemme(l).capitales);
-        else if (l.al(participepresent))
-            ajouter("p. pr. de " + v_.lemme(l).capitales);
-        ajouter(std::string(debutsynonymes) + liste);
+        const bool participe = l.al(participepasse | participepresent);
+        if (participe)
+            ajouter((l.al(participepasse) ? "p. p. de " : "p. pr. de ") + v_.lemme(l).capitales);
+        if (!participe || !nominal(mot))
+            ajouter(std::string(debutsynonymes) + liste);
         return true;
+    }
+
+    /// A noun or adjective of its own, as LOBE is, and no mere plural: what its verb means would be
+    /// taken for what it means.
+    [[nodiscard]] bool nominal(const Mot& mot) const {
+        return v_.une(
+            mot, [](const Lecture& l) { return l.nonverbale() && !l.aunnombre(Nombre::pluriel); });
     }
 
     const Vocabulaire& v_;

@@ -228,7 +228,10 @@ const Ligne exemples[] = {
     {"vbt4-10.txt", "AIMER", true},
     {"vbt4-10.txt", "NAITRE", false},
     {"inv.txt", "BIENTOT", true},
-    {"infosouris.txt", "p. p. de LOBER ; = tromper", true},
+    {"infosouris.txt", "p. p. de LOBER", true},
+    {"infosouris.txt", "p. p. de LOBER ; = tromper", false},
+    {"infosouris.txt", "p. p. de CUVER", true},
+    {"infosouris.txt", "p. p. de LOVER ; = gl\xE9ner, enrouler, torsader", true},
     {"infosouris.txt",
      "verbe d\xE9"
      "fectif CONCERNER",

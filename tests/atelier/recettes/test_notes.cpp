@@ -21,6 +21,8 @@ const std::string lignes =
     "entrenuire/yX() po:v3____r_e_\n"
     "lobe/S.() po:nom is:mas\n"
     "lober/a0p+() po:v1_it____a\n"
+    "loge po:nom is:fem is:pl\n"
+    "loger/a0p+() po:v1_it____a\n"
     "cuver/a0p+() po:v1_it____a\n"
     "cuvée/S.() po:nom is:fem\n";
 
@@ -28,6 +30,7 @@ std::string thesaurus() {
     return "UTF-8\nchat|1\n(Nom)|matou|gros minet|minet|greffier|mistigri\n"
            "cheval|1\n(Nom)|étalon\n"
            "lober|1\n(Verbe)|tromper\n"
+           "loger|1\n(Verbe)|habiter\n"
            "cuver|1\n(Verbe)|digérer\n"
            "cuvée|1\n(Nom)|récolte\n";
 }
@@ -91,8 +94,12 @@ TEST(Notes, un_nom_passe_avant_le_verbe_qui_a_la_meme_forme) {
     EXPECT_EQ(note("CUVEE"), "= récolte");
 }
 
-TEST(Notes, un_nom_sans_synonyme_laisse_parler_le_verbe) {
-    EXPECT_EQ(note("LOBE"), "p. p. de LOBER ; = tromper");
+TEST(Notes, un_nom_sans_synonyme_ne_prend_pas_ceux_du_verbe) {
+    EXPECT_EQ(note("LOBE"), "p. p. de LOBER");
+}
+
+TEST(Notes, un_nom_qui_n_est_qu_un_pluriel_laisse_parler_le_verbe) {
+    EXPECT_EQ(note("LOGE"), "p. p. de LOGER ; = habiter");
 }
 
 TEST(Notes, une_forme_atypique_dit_son_verbe) {
