@@ -1,0 +1,160 @@
+"""The program of Windows under Wine, played by real keys and mouse on a screen of its own. Nothing of
+its accessibility reaches this side: it is judged by its files, and its controls are clicked where the
+forms have them.
+
+windows.py PROGRAM CAPTURES PLAYER [--revient | --misajour PORT INSTALLER VERSION]: PROGRAM is
+orvane.exe where it stands in the Windows of $WINEPREFIX. First it plays a list to its end, as a new
+player. With --revient the player comes back, and his result and his list are there. With --misajour he
+asks for the update that a server on 127.0.0.1 offers and goes through its installer."""
+
+import contextlib
+import hashlib
+import http.server
+import os
+import pathlib
+import subprocess
+import sys
+import threading
+import time
+
+from joueur import BIENVENUE, MENU, SERIE, verifier
+from scene import Scene, attendre
+
+LISTE = "7v6.txt"
+TIRAGE, SOLUTION = "AABC", "CABA"  # one row: the order of several is drawn by lot
+
+# In the middle of a control, from the upper left corner of its window.
+PLACES = {
+    BIENVENUE: {"Nouvel utilisateur ?": (592, 209), "COMMENCER": (592, 160)},
+    MENU: {"SCRABBLES UNIQUES": (460, 64), "7 lettres": (391, 111), "Tout 7L poids 6": (588, 248),
+           "Options": (0, 0), "Quitter": (843, 632)},
+}
+
+
+class SceneWindows(Scene):
+    """The play folder is %LOCALAPPDATA%\\Orvane, or that of the program when it holds the lists."""
+
+    def _garnir(self):
+        self.programme = pathlib.Path(self.programme)
+        prefixe = pathlib.Path(os.environ["WINEPREFIX"])
+        locales = next(prefixe.glob("drive_c/users/*/AppData/Local"))
+        portable = (self.programme.parent / "listes").is_dir()
+        self.dossier = self.programme.parent if portable else locales / "Orvane"
+
+    def demarrer(self):
+        self.processus = subprocess.Popen(
+            ["wine", str(self.programme)], cwd=self.depart, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL, env=dict(os.environ, WINEDEBUG="-all"))
+        self.pile.callback(self._arreter, self.processus)
+
+    def fini(self):
+        attendre(lambda: self.processus.poll() is not None, "la fin du programme")
+        verifier(self.processus.returncode == 0, f"statut {self.processus.returncode}")
+
+    def numero(self, titre):
+        """The window whose title holds this, once it is shown."""
+        def chercher():
+            trouve = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", titre],
+                                    capture_output=True, text=True).stdout.split()
+            return trouve[0] if trouve else None
+
+        return attendre(chercher, f"la fenêtre « {titre} »")
+
+    def absente(self, titre):
+        """No window has this title any more."""
+        attendre(lambda: not subprocess.run(["xdotool", "search", "--onlyvisible", "--name", titre],
+                                            capture_output=True, text=True).stdout.split(),
+                 f"« {titre} » fermée")
+
+    def active(self, titre):
+        """The window, once it has come in front."""
+        numero = self.numero(titre)
+
+        def devant():
+            subprocess.run(["xdotool", "windowactivate", numero], capture_output=True)
+            return subprocess.run(["xdotool", "getactivewindow"], capture_output=True,
+                                  text=True).stdout.strip() == numero
+
+        attendre(devant, f"« {titre} » devant")
+        return numero
+
+    def image(self, numero):
+        """What the window shows; None if it has gone, in the midst of the look perhaps."""
+        with contextlib.suppress(subprocess.SubprocessError):
+            return subprocess.run(["import", "-window", numero, "rgb:-"], check=True, timeout=10,
+                                  capture_output=True).stdout
+        return None
+
+    def pose(self, numero):
+        """What the window shows, once it stays the same."""
+        def stable():
+            avant = self.image(numero)
+            time.sleep(0.2)
+            return avant if avant is not None and avant == self.image(numero) else None
+
+        return attendre(stable, "une fenêtre posée")
+
+    def presser(self, titre, nom):
+        """Clicks a control, and waits until the window shows something else."""
+        numero = self.active(titre)
+        x, y = PLACES[titre][nom]
+        self.xdotool("mousemove", "--window", numero, str(x), str(y))
+        avant = self.pose(numero)
+        self.xdotool("click", "1")
+        attendre(lambda: self.image(numero) != avant, f"l'effet de « {nom} »")
+
+    def quitter(self):
+        self.presser(MENU, "Quitter")
+        self.fini()
+
+
+def jouer(scene, joueur):
+    """A new player, and his list from the login to its end."""
+    scene.demarrer()
+    scene.active(BIENVENUE)
+    verifier(len(list((scene.dossier / "listes").iterdir())) > 230, "les listes sont là")
+    scene.ecrire("listes\\" + LISTE, f"{TIRAGE};{SOLUTION}")
+    scene.presser(BIENVENUE, "Nouvel utilisateur ?")
+    scene.taper(joueur)
+    scene.touche("Return")
+    scene.presser(BIENVENUE, "COMMENCER")
+    scene.active(MENU)
+    for bouton in ("SCRABBLES UNIQUES", "7 lettres", "Tout 7L poids 6"):
+        scene.presser(MENU, bouton)
+    scene.pose(scene.active(SERIE))
+    scene.taper(SOLUTION.lower())
+    scene.touche("Return")
+    scene.touche("F12")
+    attendre(lambda: scene.lire(joueur + "\\hist.dat"), "le résultat dans hist.dat")
+    verifier(scene.lire(joueur + "\\hist.dat")[0].endswith(" - 100% - T - " + LISTE), "le résultat")
+    scene.photographier("bravo")
+    scene.fermer(SERIE)
+    scene.active(MENU)
+    scene.quitter()
+
+
+def revenir(scene, joueur):
+    """The player comes back, and finds what is his."""
+    scene.demarrer()
+    scene.active(BIENVENUE)
+    scene.presser(BIENVENUE, "COMMENCER")
+    scene.active(MENU)
+    for bouton in ("SCRABBLES UNIQUES", "7 lettres"):
+        scene.presser(MENU, bouton)
+    scene.photographier("retour")
+    scene.quitter()
+    verifier(scene.lire("listes\\" + LISTE) == [f"{TIRAGE};{SOLUTION}"], "la liste changée reste")
+    verifier(len(scene.lire(joueur + "\\hist.dat")) == 1, "l'historique reste")
+
+
+def main(programme, captures, joueur, *suite):
+    with SceneWindows(programme, "", captures) as scene:
+        if suite == ("--revient",):
+            revenir(scene, joueur)
+        else:
+            jouer(scene, joueur)
+    print("windows : bon")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
