@@ -210,12 +210,19 @@ std::vector<Tableau> icones() {
         liste.push_back({std::to_string(cote) + ".png", icone(), cote, cote});
     liste.push_back({"512.png", icone(), 512, 512});
     liste.push_back({"orvane.svg", icone(), 0, 0});
+    liste.push_back({"orvane.ico", icone(), 0, 0});
     return liste;
 }
 
 std::string fichier(const Tableau& tableau) {
     if (tableau.nom.ends_with(".svg"))
         return svg(tableau.dessin);
+    if (tableau.nom.ends_with(".ico")) {
+        std::vector<Image> images;
+        for (const int cote : cotesicone)
+            images.push_back(peindre(tableau.dessin, cote, cote));
+        return ico(images);
+    }
     const Image image = peindre(tableau.dessin, tableau.largeur, tableau.hauteur);
     return tableau.nom.ends_with(".png") ? png(image) : bmp(image);
 }
