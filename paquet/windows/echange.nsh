@@ -68,9 +68,9 @@ Function placer
   StrCpy $2 "$INSTDIR\${ANCIEN}\$3"
   ${GetParent} $1 $4
   CreateDirectory $4
-  ${GetParent} $2 $4
-  CreateDirectory $4
   ${If} ${FileExists} $1
+    ${GetParent} $2 $4
+    CreateDirectory $4
     System::Call 'kernel32::ReplaceFileW(w r1, w r0, w r2, i 0, p 0, p 0) i .r2'
   ${Else}
     ${DEPLACER}

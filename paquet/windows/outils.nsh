@@ -1,6 +1,7 @@
 ; What the installer and the uninstaller share: UN is empty or "un.". A list of files is a text with a
 ; path on each line, ASCII, backslashes between.
 
+!include FileFunc.nsh
 !include TextFunc.nsh
 
 !macro outils UN
@@ -41,22 +42,11 @@ Function ${UN}oterdossiers
   Exch $0 ; path, relative
   Exch
   Exch $1 ; folder
-  Push $2
-  Push $3
-  ${Do}
-    StrLen $2 $0
-    ${Do}
-      IntOp $2 $2 - 1
-      StrCpy $3 $0 1 $2
-    ${LoopUntil} $3 == "\"
-    ${If} $2 <= 0
-      ${Break}
-    ${EndIf}
-    StrCpy $0 $0 $2
+  ${GetParent} $0 $0
+  ${DoUntil} $0 == ""
     RMDir "$1\$0"
+    ${GetParent} $0 $0
   ${Loop}
-  Pop $3
-  Pop $2
   Pop $1
   Pop $0
 FunctionEnd
