@@ -45,8 +45,8 @@ void ajouterpixels(std::string& fichier, const Image& image) {
     }
 }
 
-/// Appends one bit a pixel, from the bottom row up, set where nothing is to be seen; rows are filled
-/// up to four bytes.
+/// Appends one bit a pixel, from the bottom row up, set where nothing is to be seen; rows are
+/// filled up to four bytes.
 void ajoutermasque(std::string& fichier, const Image& image) {
     const auto cote = static_cast<std::size_t>(image.largeur);
     for (std::size_t y = cote; y-- > 0;) {

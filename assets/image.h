@@ -28,8 +28,9 @@ struct Image {
 [[nodiscard]] std::string png(const Image& image);
 
 /// The bytes of an ICO file, the icon of a program on Windows: one entry a picture. Pictures of 256
-/// pixels are PNG files in it; smaller ones 32 bits a pixel with opacity, and a mask for programs that
-/// know no opacity. Throws `std::length_error` for a picture that is no square of 1 to 256 pixels.
+/// pixels are PNG files in it; smaller ones 32 bits a pixel with opacity, and a mask for programs
+/// that know no opacity. Throws `std::length_error` for a picture that is no square of 1 to 256
+/// pixels.
 [[nodiscard]] std::string ico(const std::vector<Image>& images);
 
 /// A picture in 16 greys, stored row by row from the top, a byte each: 0 is black, 15 white.

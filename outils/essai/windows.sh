@@ -193,12 +193,12 @@ cliquer() { # cliquer TITLE: the default button of the window of that title
 }
 parlespages() { # by hand: two clicks, and the program is there
     wine "$premier/orvane_setup.exe" &
-    jusqua fenetre "Installation de Orvane"
+    jusqua fenetre "Installation d'Orvane"
     photographier dossier
-    cliquer "Installation de Orvane"
+    cliquer "Installation d'Orvane"
     jusqua test -e "$profil/$menu/Orvane.lnk"
     jusqua arrivee dossier fin
-    cliquer "Installation de Orvane"
+    cliquer "Installation d'Orvane"
     jusqua fenetre Bienvenue
     xdotool windowactivate --sync "$(fenetre Bienvenue)" key --clearmodifiers alt+F4
     jusqua sansfenetre Bienvenue

@@ -2,7 +2,7 @@
 ;   CONTENU   the folder of all that is installed; its fichiers.txt names the files
 ;   EXTRAIRE  the list of File commands made from it
 ;   RAFRAICHIR the program that brings a play folder up to date
-;   SORTIE, VERSION, VERSION4 (four numbers), EDITEUR, PAGE, ICONE, TAILLE (of CONTENU, in KiB)
+;   SORTIE, VERSION, VERSION4 (four numbers), EDITEUR, PAGE, ICONE, TABLEAU (beside the last page), TAILLE (of CONTENU, in KiB)
 ; Command line: /S asks nothing; /D=FOLDER, last and without quotes, says where.
 ; Exit status: 0; 1 left by the player; 2 not possible, told in the window; 3 a program of Orvane stays
 ; open; 4 a file could not be written or replaced; 5 another installation is running. Unless it is 0
@@ -31,6 +31,8 @@ CRCCheck force
 !define FICHIERS "fichiers.txt"
 
 Name "Orvane"
+Caption "Installation d'Orvane"
+UninstallCaption "Désinstallation d'Orvane"
 OutFile "${SORTIE}"
 BrandingText "Orvane ${VERSION}"
 InstallDir "$LOCALAPPDATA\Programs\Orvane"
@@ -48,9 +50,15 @@ Var portable
 
 !define MUI_ICON "${ICONE}"
 !define MUI_UNICON "${ICONE}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${TABLEAU}"
 !define MUI_ABORTWARNING
 !define MUI_PAGE_CUSTOMFUNCTION_PRE choisirdossier
+!define MUI_PAGE_HEADER_TEXT "Installer Orvane"
+!define MUI_PAGE_HEADER_SUBTEXT "Où mettre Orvane et son carnet ?"
+!define MUI_DIRECTORYPAGE_TEXT_TOP "Orvane ${VERSION} s'installe pour vous seul, sans droits particuliers. Cliquez sur « Installer », ou choisissez d'abord un autre dossier."
 !insertmacro MUI_PAGE_DIRECTORY
+!define MUI_PAGE_HEADER_TEXT "Installation en cours"
+!define MUI_PAGE_HEADER_SUBTEXT "Orvane et son carnet s'installent."
 !insertmacro MUI_PAGE_INSTFILES
 !define MUI_FINISHPAGE_TITLE "Orvane est installé"
 !define MUI_FINISHPAGE_TEXT "Orvane ${VERSION} est prêt.$\r$\n$\r$\nLe premier démarrage apporte les listes de mots ; cela prend une ou deux secondes."
@@ -58,6 +66,8 @@ Var portable
 !define MUI_FINISHPAGE_RUN_TEXT "Lancer Orvane"
 !insertmacro MUI_PAGE_FINISH
 UninstPage custom un.demander un.repondre
+!define MUI_PAGE_HEADER_TEXT "Désinstallation en cours"
+!define MUI_PAGE_HEADER_SUBTEXT "Orvane et son carnet sont ôtés de cet ordinateur."
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "French"
 
@@ -121,6 +131,7 @@ FunctionEnd
 ; Until `echanger` nothing of an older version is touched: cut before, this leaves a folder that the
 ; next installation takes away. The system learns of a new program when it is whole.
 Section
+  AddSize ${TAILLE}
   Call fermer
   ${If} $portable <> 0
     Call deposer

@@ -122,7 +122,7 @@ TEST(Icones, ComeInEveryUsualSizeAndOneThatScales) {
     }
     EXPECT_EQ(noms, (std::vector<std::string>{"16.png", "24.png", "32.png", "48.png", "64.png",
                                               "128.png", "256.png", "512.png", "orvane.svg",
-                                              "orvane.ico"}));
+                                              "orvane.ico", "installeur.bmp"}));
 }
 
 // An entry of an ICO file: where its picture is and how large it says to be.
@@ -153,10 +153,9 @@ TEST(Ico, HoldsPixelsAndMaskFromTheFootAndTheLargestAsPng) {
     EXPECT_EQ(images[0].cote, 2U);
     EXPECT_EQ(petit(images[0].octets, 0, 4), 40U);
     EXPECT_EQ(petit(images[0].octets, 8, 4), 4U) << "the mask counts as height";
-    EXPECT_EQ(images[0].octets.substr(40),
-              std::string("\13\12\11\14\17\16\15\0\3\2\1\0\7\6\5\10"
-                          "\100\0\0\0\200\0\0\0",
-                          24));
+    EXPECT_EQ(images[0].octets.substr(40), std::string("\13\12\11\14\17\16\15\0\3\2\1\0\7\6\5\10"
+                                                       "\100\0\0\0\200\0\0\0",
+                                                       24));
     EXPECT_EQ(images[1].cote, 0U) << "256";
     EXPECT_EQ(images[1].octets, png(grande));
     EXPECT_EQ(octets.size(), 6 + 2 * 16 + images[0].octets.size() + images[1].octets.size());
