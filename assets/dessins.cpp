@@ -206,7 +206,7 @@ Tableau bordure() {
         y += 46;
         cote = -cote;
     }
-    return {"installeur.bmp", dessin, static_cast<int>(largeur), static_cast<int>(hauteur)};
+    return {"installeur.dib", dessin, static_cast<int>(largeur), static_cast<int>(hauteur)};
 }
 
 }  // namespace
@@ -247,6 +247,8 @@ std::string fichier(const Tableau& tableau) {
         return ico(images);
     }
     const Image image = peindre(tableau.dessin, tableau.largeur, tableau.hauteur);
+    if (tableau.nom.ends_with(".dib"))
+        return dib(image);
     return tableau.nom.ends_with(".png") ? png(image) : bmp(image);
 }
 

@@ -9,9 +9,9 @@
 
 namespace assets {
 
-/// A picture of the folder `images`: a PNG, SVG or ICO file if its name says so, otherwise a BMP
-/// file. Marks and badges have three files each: one at nominal size, one twice and one four times
-/// as wide and high, with "@2x" and "@4x" before the extension.
+/// A picture of the folder `images`: a PNG, SVG, ICO or DIB file if its name says so, otherwise a
+/// BMP file. Marks and badges have three files each: one at nominal size, one twice and one four
+/// times as wide and high, with "@2x" and "@4x" before the extension.
 struct Tableau {
     std::string nom;
     Dessin dessin;

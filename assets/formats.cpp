@@ -119,6 +119,34 @@ std::string bmp(const Image& image) {
     return fichier;
 }
 
+std::string dib(const Image& image) {
+    constexpr std::uint32_t entete = 14;
+    constexpr std::uint32_t description = 40;
+    const auto largeur = static_cast<std::size_t>(image.largeur);
+    const std::size_t rangee = (largeur * 3 + 3) / 4 * 4;
+    const auto taille =
+        static_cast<std::uint32_t>(rangee * static_cast<std::size_t>(image.hauteur));
+    std::string fichier = "BM";
+    petitboutien(fichier, entete + description + taille, 4);
+    petitboutien(fichier, 0, 4);
+    petitboutien(fichier, entete + description, 4);
+    petitboutien(fichier, description, 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(image.largeur), 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(image.hauteur), 4);
+    petitboutien(fichier, 1, 2);   // planes
+    petitboutien(fichier, 24, 2);  // bits a pixel
+    fichier.append(24, '\0');      // not compressed; no size, density or palette need be told
+    for (auto y = static_cast<std::size_t>(image.hauteur); y-- > 0;) {
+        for (std::size_t x = 0; x < largeur; ++x) {
+            const std::uint8_t* pixel = &image.pixels[(y * largeur + x) * 4];
+            for (const int canal : {2, 1, 0})
+                fichier += static_cast<char>(pixel[canal] * pixel[3] / 255);
+        }
+        fichier.append(rangee - largeur * 3, '\0');
+    }
+    return fichier;
+}
+
 std::string png(const Image& image) {
     std::string lignes;
     const std::size_t rangee = static_cast<std::size_t>(image.largeur) * 4;

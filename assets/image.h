@@ -24,6 +24,10 @@ struct Image {
 /// The bytes of a BMP file: 32 bits a pixel with opacity, version 4 header, rows from the bottom.
 [[nodiscard]] std::string bmp(const Image& image);
 
+/// The bytes of a BMP file for readers that know no opacity: 24 bits a pixel, the oldest header of
+/// Windows, rows from the bottom. What is not opaque comes out darker.
+[[nodiscard]] std::string dib(const Image& image);
+
 /// The bytes of a PNG file: 32 bits a pixel, with opacity.
 [[nodiscard]] std::string png(const Image& image);
 

@@ -85,6 +85,16 @@ TEST(Bmp, HoldsBlueGreenRedOpacityFromTheFoot) {
     EXPECT_EQ(octets.substr(petit(octets, 10, 4)), "\7\6\5\10\3\2\1\4");
 }
 
+TEST(Dib, HoldsBlueGreenRedFromTheFootInRowsOfFourBytes) {
+    const Image image{1, 2, {1, 2, 3, 255, 10, 20, 30, 51}};
+    const std::string octets = dib(image);
+    EXPECT_EQ(octets.substr(0, 2), "BM");
+    EXPECT_EQ(petit(octets, 2, 4), octets.size());
+    EXPECT_EQ(petit(octets, 14, 4), 40U);
+    EXPECT_EQ(petit(octets, 28, 2), 24U);
+    EXPECT_EQ(octets.substr(petit(octets, 10, 4)), std::string("\6\4\2\0\3\2\1\0", 8));
+}
+
 TEST(Png, HoldsItsRowsUnfilteredAndCompressed) {
     const Image image{1, 2, {1, 2, 3, 4, 5, 6, 7, 8}};
     const std::string octets = png(image);
@@ -122,7 +132,7 @@ TEST(Icones, ComeInEveryUsualSizeAndOneThatScales) {
     }
     EXPECT_EQ(noms, (std::vector<std::string>{"16.png", "24.png", "32.png", "48.png", "64.png",
                                               "128.png", "256.png", "512.png", "orvane.svg",
-                                              "orvane.ico", "installeur.bmp"}));
+                                              "orvane.ico", "installeur.dib"}));
 }
 
 // An entry of an ICO file: where its picture is and how large it says to be.
