@@ -187,6 +187,28 @@ Dessin icone() {
     return dessin;
 }
 
+// Beside the last page of the installer for Windows, as wide and high as it wants it.
+Tableau bordure() {
+    constexpr double largeur = 164;
+    constexpr double hauteur = 314;
+    Dessin dessin{largeur, hauteur, {}};
+    dessin.traits.push_back({{{0, 0}, {largeur, 0}, {largeur, hauteur}, {0, hauteur}},
+                             true,
+                             1,
+                             rvb(0x2F8F9D),
+                             rvb(0x123E5C),
+                             0});
+    double y = 42;
+    double cote = -1;  // of the middle, in turn
+    for (const char lettre : std::string_view("ORVANE")) {
+        ajouter(dessin, jeton(lettre, lettre == 'V' ? 4 : 1),
+                {{largeur / 2 + cote * 14, y}, 42, cote * 8});
+        y += 46;
+        cote = -cote;
+    }
+    return {"installeur.dib", dessin, static_cast<int>(largeur), static_cast<int>(hauteur)};
+}
+
 }  // namespace
 
 std::vector<Tableau> tableaux() {
@@ -210,13 +232,23 @@ std::vector<Tableau> icones() {
         liste.push_back({std::to_string(cote) + ".png", icone(), cote, cote});
     liste.push_back({"512.png", icone(), 512, 512});
     liste.push_back({"orvane.svg", icone(), 0, 0});
+    liste.push_back({"orvane.ico", icone(), 0, 0});
+    liste.push_back(bordure());
     return liste;
 }
 
 std::string fichier(const Tableau& tableau) {
     if (tableau.nom.ends_with(".svg"))
         return svg(tableau.dessin);
+    if (tableau.nom.ends_with(".ico")) {
+        std::vector<Image> images;
+        for (const int cote : cotesicone)
+            images.push_back(peindre(tableau.dessin, cote, cote));
+        return ico(images);
+    }
     const Image image = peindre(tableau.dessin, tableau.largeur, tableau.hauteur);
+    if (tableau.nom.ends_with(".dib"))
+        return dib(image);
     return tableau.nom.ends_with(".png") ? png(image) : bmp(image);
 }
 

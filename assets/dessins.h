@@ -9,9 +9,9 @@
 
 namespace assets {
 
-/// A picture of the folder `images`: a PNG or SVG file if its name says so, otherwise a BMP file.
-/// Marks and badges have three files each: one at nominal size, one twice and one four times as
-/// wide and high, with "@2x" and "@4x" before the extension.
+/// A picture of the folder `images`: a PNG, SVG, ICO or DIB file if its name says so, otherwise a
+/// BMP file. Marks and badges have three files each: one at nominal size, one twice and one four
+/// times as wide and high, with "@2x" and "@4x" before the extension.
 struct Tableau {
     std::string nom;
     Dessin dessin;
@@ -23,7 +23,8 @@ struct Tableau {
 [[nodiscard]] std::vector<Tableau> tableaux();
 
 /// The icons of the program for a desktop: squares of 16 to 512 pixels, in files named after their
-/// side, and one that scales.
+/// side, one that scales, one with all sizes up to 256 for the programs of Windows, and the picture
+/// of their installer.
 [[nodiscard]] std::vector<Tableau> icones();
 
 /// The bytes of the picture's file.

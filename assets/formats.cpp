@@ -34,6 +34,46 @@ std::string comprimer(std::string_view octets) {
     return flux;
 }
 
+/// Appends the pixels from the bottom row up: blue, green, red, opacity.
+void ajouterpixels(std::string& fichier, const Image& image) {
+    const std::size_t rangee = static_cast<std::size_t>(image.largeur) * 4;
+    for (std::size_t debut = image.pixels.size(); debut > 0; debut -= rangee) {
+        for (std::size_t i = debut - rangee; i < debut; i += 4) {
+            for (const int canal : {2, 1, 0, 3}) {
+                fichier += static_cast<char>(image.pixels[i + static_cast<std::size_t>(canal)]);
+            }
+        }
+    }
+}
+
+/// Appends one bit a pixel, from the bottom row up, set where nothing is to be seen; rows are
+/// filled up to four bytes.
+void ajoutermasque(std::string& fichier, const Image& image) {
+    const auto cote = static_cast<std::size_t>(image.largeur);
+    for (std::size_t y = cote; y-- > 0;) {
+        std::string rangee((cote + 31) / 32 * 4, '\0');
+        for (std::size_t x = 0; x < cote; ++x) {
+            if (image.pixels[(y * cote + x) * 4 + 3] == 0)
+                rangee[x / 8] = static_cast<char>(rangee[x / 8] | 0x80 >> x % 8);
+        }
+        fichier += rangee;
+    }
+}
+
+/// A bitmap as it stands in an ICO file: without file header, its height doubled for the mask.
+std::string bitmapicone(const Image& image) {
+    std::string octets;
+    petitboutien(octets, 40, 4);
+    petitboutien(octets, static_cast<std::uint32_t>(image.largeur), 4);
+    petitboutien(octets, static_cast<std::uint32_t>(image.hauteur) * 2, 4);
+    petitboutien(octets, 1, 2);   // planes
+    petitboutien(octets, 32, 2);  // bits a pixel
+    octets.append(24, '\0');      // not compressed; no size, density or palette need be told
+    ajouterpixels(octets, image);
+    ajoutermasque(octets, image);
+    return octets;
+}
+
 /// What stands before a row whose pixels are written as they are.
 constexpr char nonfiltree = '\0';
 
@@ -76,13 +116,34 @@ std::string bmp(const Image& image) {
     }
     petitboutien(fichier, 0x73524742, 4);  // sRGB
     fichier.append(48, '\0');              // end points and gammas, unused with sRGB
-    const std::size_t rangee = static_cast<std::size_t>(image.largeur) * 4;
-    for (std::size_t debut = image.pixels.size(); debut > 0; debut -= rangee) {
-        for (std::size_t i = debut - rangee; i < debut; i += 4) {
-            for (const int canal : {2, 1, 0, 3}) {
-                fichier += static_cast<char>(image.pixels[i + static_cast<std::size_t>(canal)]);
-            }
+    ajouterpixels(fichier, image);
+    return fichier;
+}
+
+std::string dib(const Image& image) {
+    constexpr std::uint32_t entete = 14;
+    constexpr std::uint32_t description = 40;
+    const auto largeur = static_cast<std::size_t>(image.largeur);
+    const std::size_t rangee = (largeur * 3 + 3) / 4 * 4;
+    const auto taille =
+        static_cast<std::uint32_t>(rangee * static_cast<std::size_t>(image.hauteur));
+    std::string fichier = "BM";
+    petitboutien(fichier, entete + description + taille, 4);
+    petitboutien(fichier, 0, 4);
+    petitboutien(fichier, entete + description, 4);
+    petitboutien(fichier, description, 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(image.largeur), 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(image.hauteur), 4);
+    petitboutien(fichier, 1, 2);   // planes
+    petitboutien(fichier, 24, 2);  // bits a pixel
+    fichier.append(24, '\0');      // not compressed; no size, density or palette need be told
+    for (auto y = static_cast<std::size_t>(image.hauteur); y-- > 0;) {
+        for (std::size_t x = 0; x < largeur; ++x) {
+            const std::uint8_t* pixel = &image.pixels[(y * largeur + x) * 4];
+            for (const int canal : {2, 1, 0})
+                fichier += static_cast<char>(pixel[canal] * pixel[3] / 255);
         }
+        fichier.append(rangee - largeur * 3, '\0');
     }
     return fichier;
 }
@@ -112,6 +173,33 @@ std::string png(const Gris& image) {
     }
     // 4 bits, greys, not interlaced.
     return fichierpng(image.largeur, image.hauteur, std::string("\x04\x00\x00\x00\x00", 5), lignes);
+}
+
+std::string ico(const std::vector<Image>& images) {
+    constexpr int leplusgrand = 256;
+    constexpr std::uint32_t entete = 6;
+    constexpr std::uint32_t entree = 16;
+    std::string fichier;
+    std::string corps;
+    petitboutien(fichier, 0, 2);
+    petitboutien(fichier, 1, 2);  // an icon
+    petitboutien(fichier, static_cast<std::uint32_t>(images.size()), 2);
+    for (const Image& image : images) {
+        if (image.largeur != image.hauteur || image.largeur < 1 || image.largeur > leplusgrand)
+            throw std::length_error("ico");
+        const auto octets = image.largeur == leplusgrand ? png(image) : bitmapicone(image);
+        const auto cote = static_cast<std::uint32_t>(image.largeur % leplusgrand);  // 0 is 256
+        petitboutien(fichier, cote, 1);
+        petitboutien(fichier, cote, 1);
+        petitboutien(fichier, 0, 2);   // no palette
+        petitboutien(fichier, 1, 2);   // planes
+        petitboutien(fichier, 32, 2);  // bits a pixel
+        petitboutien(fichier, static_cast<std::uint32_t>(octets.size()), 4);
+        petitboutien(fichier,
+                     static_cast<std::uint32_t>(entete + entree * images.size() + corps.size()), 4);
+        corps += octets;
+    }
+    return fichier + corps;
 }
 
 }  // namespace assets

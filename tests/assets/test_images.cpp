@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <numeric>
+#include <stdexcept>
 #include <string>
 #include <zlib.h>
 
@@ -84,6 +85,16 @@ TEST(Bmp, HoldsBlueGreenRedOpacityFromTheFoot) {
     EXPECT_EQ(octets.substr(petit(octets, 10, 4)), "\7\6\5\10\3\2\1\4");
 }
 
+TEST(Dib, HoldsBlueGreenRedFromTheFootInRowsOfFourBytes) {
+    const Image image{1, 2, {1, 2, 3, 255, 10, 20, 30, 51}};
+    const std::string octets = dib(image);
+    EXPECT_EQ(octets.substr(0, 2), "BM");
+    EXPECT_EQ(petit(octets, 2, 4), octets.size());
+    EXPECT_EQ(petit(octets, 14, 4), 40U);
+    EXPECT_EQ(petit(octets, 28, 2), 24U);
+    EXPECT_EQ(octets.substr(petit(octets, 10, 4)), std::string("\6\4\2\0\3\2\1\0", 8));
+}
+
 TEST(Png, HoldsItsRowsUnfilteredAndCompressed) {
     const Image image{1, 2, {1, 2, 3, 4, 5, 6, 7, 8}};
     const std::string octets = png(image);
@@ -120,7 +131,63 @@ TEST(Icones, ComeInEveryUsualSizeAndOneThatScales) {
         }
     }
     EXPECT_EQ(noms, (std::vector<std::string>{"16.png", "24.png", "32.png", "48.png", "64.png",
-                                              "128.png", "256.png", "512.png", "orvane.svg"}));
+                                              "128.png", "256.png", "512.png", "orvane.svg",
+                                              "orvane.ico", "installeur.dib"}));
+}
+
+// An entry of an ICO file: where its picture is and how large it says to be.
+struct Entree {
+    std::uint32_t cote;
+    std::string octets;
+};
+
+std::vector<Entree> entrees(const std::string& ico) {
+    std::vector<Entree> liste;
+    for (std::size_t i = 0; i < petit(ico, 4, 2); ++i) {
+        const auto place = 6 + 16 * i;
+        EXPECT_EQ(petit(ico, place + 1, 1), petit(ico, place, 1)) << "a square";
+        EXPECT_EQ(petit(ico, place + 6, 2), 32U);
+        liste.push_back({petit(ico, place, 1),
+                         ico.substr(petit(ico, place + 12, 4), petit(ico, place + 8, 4))});
+    }
+    return liste;
+}
+
+TEST(Ico, HoldsPixelsAndMaskFromTheFootAndTheLargestAsPng) {
+    const Image petite{2, 2, {1, 2, 3, 0, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0}};
+    const Image grande{256, 256, std::vector<std::uint8_t>(std::size_t{4} * 256 * 256, 9)};
+    const auto octets = ico({petite, grande});
+    EXPECT_EQ(octets.substr(0, 6), std::string("\0\0\1\0\2\0", 6));
+    const auto images = entrees(octets);
+    ASSERT_EQ(images.size(), 2U);
+    EXPECT_EQ(images[0].cote, 2U);
+    EXPECT_EQ(petit(images[0].octets, 0, 4), 40U);
+    EXPECT_EQ(petit(images[0].octets, 8, 4), 4U) << "the mask counts as height";
+    EXPECT_EQ(images[0].octets.substr(40), std::string("\13\12\11\14\17\16\15\0\3\2\1\0\7\6\5\10"
+                                                       "\100\0\0\0\200\0\0\0",
+                                                       24));
+    EXPECT_EQ(images[1].cote, 0U) << "256";
+    EXPECT_EQ(images[1].octets, png(grande));
+    EXPECT_EQ(octets.size(), 6 + 2 * 16 + images[0].octets.size() + images[1].octets.size());
+}
+
+TEST(Ico, RefusesWhatItsHeaderCannotTell) {
+    const auto image = [](int largeur, int hauteur) {
+        return Image{largeur, hauteur,
+                     std::vector<std::uint8_t>(static_cast<std::size_t>(largeur * hauteur * 4))};
+    };
+    EXPECT_THROW(static_cast<void>(ico({image(257, 257)})), std::length_error);
+    EXPECT_THROW(static_cast<void>(ico({image(16, 24)})), std::length_error);
+    EXPECT_THROW(static_cast<void>(ico({image(0, 0)})), std::length_error);
+}
+
+TEST(Ico, IsDrawnInEverySizeThatWindowsShows) {
+    std::vector<std::uint32_t> cotes;
+    for (const Tableau& tableau : icones())
+        if (tableau.nom == "orvane.ico")
+            for (const Entree& entree : entrees(fichier(tableau)))
+                cotes.push_back(entree.cote);
+    EXPECT_EQ(cotes, (std::vector<std::uint32_t>{16, 24, 32, 48, 64, 128, 0}));
 }
 
 TEST(Svg, DrawsEachStrokeWithItsWidthColoursOpacityAndEdge) {
