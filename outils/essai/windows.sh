@@ -5,6 +5,8 @@ outils/installer paquetwindows
 outils/installer essayerwindows
 # shellcheck source=outils/essai/wine.sh
 source outils/essai/wine.sh
+# shellcheck source=outils/essai/wineessais.sh
+source outils/essai/wineessais.sh
 afinir+=(quitterwine)
 premier=$travail/windows/premier
 recent=$travail/windows/recent
@@ -27,6 +29,7 @@ vieillir() {
 if [ "$construit" -eq 0 ]; then
     fabriquer windows
     essai "windows : version plus récente" vieillir
+    essai "windows : essais construits" construireessais
 fi
 essai "windows : sommes" sommes "$premier"
 allumer
@@ -255,8 +258,17 @@ essai "windows : dans un autre dossier" ailleurs
 essai "windows : par les pages de l'installeur" parlespages
 essai "windows : par les pages de la désinstallation" otermain
 rm -rf "$donnees"
+essai "windows : installation pour jouer" installer "$premier"
+essai "windows : liste jouée jusqu'au bout" jouer Anne
+essai "windows : joueur qui revient" jouer Anne --revient
+essai "windows : programme plus ancien" ancienne
+essai "windows : mise à jour par le programme" misajour
+essai "windows : numéro de la version mise à jour" declaree 2.69
+essai "windows : joueur après la mise à jour" jouer Anne --revient
+essai "windows : désinstallation du jeu" desinstaller /DONNEES
 cle="$travail/windows/Clé d'été"
 essai "windows : archive déballée sur une clé" deballer
 essai "windows : démarrage sur la clé" surcle
 essai "windows : mise à jour de la clé" rajeunir
+essayertout
 quitterwine || true

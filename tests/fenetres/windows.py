@@ -3,9 +3,9 @@ its accessibility reaches this side: it is judged by its files, and its controls
 forms have them.
 
 windows.py PROGRAM CAPTURES PLAYER [--revient | --misajour PORT INSTALLER VERSION]: PROGRAM is
-orvane.exe where it stands in the Windows of $WINEPREFIX. First it plays a list to its end, as a new
+orvane.exe where it stands in the Windows of $WINEPREFIX. At first it plays a list to its end, as a new
 player. With --revient the player comes back, and his result and his list are there. With --misajour he
-asks for the update that a server on 127.0.0.1 offers and goes through its installer."""
+asks for an update, which this serves at that port of 127.0.0.1, and goes through its installer."""
 
 import contextlib
 import hashlib
@@ -20,6 +20,8 @@ import time
 from joueur import BIENVENUE, MENU, SERIE, verifier
 from scene import Scene, attendre
 
+MESSAGE = "^Orvane$"
+INSTALLATION = "Installation d'Orvane"
 LISTE = "7v6.txt"
 TIRAGE, SOLUTION = "AABC", "CABA"  # one row: the order of several is drawn by lot
 
@@ -27,7 +29,7 @@ TIRAGE, SOLUTION = "AABC", "CABA"  # one row: the order of several is drawn by l
 PLACES = {
     BIENVENUE: {"Nouvel utilisateur ?": (592, 209), "COMMENCER": (592, 160)},
     MENU: {"SCRABBLES UNIQUES": (460, 64), "7 lettres": (391, 111), "Tout 7L poids 6": (588, 248),
-           "Options": (0, 0), "Quitter": (843, 632)},
+           "Vérifier la mise à jour": (634, 632), "Quitter": (843, 632)},
 }
 
 
@@ -147,10 +149,81 @@ def revenir(scene, joueur):
     verifier(len(scene.lire(joueur + "\\hist.dat")) == 1, "l'historique reste")
 
 
+class Publication(http.server.BaseHTTPRequestHandler):
+    """The update server."""
+
+    pages = {}
+    demandes = []
+
+    def do_GET(self):
+        self.demandes.append(self.path)
+        corps = self.pages.get(self.path)
+        self.send_response(404 if corps is None else 200)
+        self.send_header("Content-Length", str(len(corps or b"")))
+        self.end_headers()
+        self.wfile.write(corps or b"")
+
+    def log_message(self, *_):
+        pass
+
+
+def publier(scene, port, installeur, version):
+    octets = pathlib.Path(installeur).read_bytes()
+    somme = hashlib.sha256(octets).hexdigest()
+    Publication.pages = {
+        "/Orvane/version.txt": f"{version}\r\n{somme}\r\n".encode(),
+        "/Orvane/downloadlink.txt": f"http://127.0.0.1:{port}/orvane_setup.exe\r\n".encode(),
+        "/orvane_setup.exe": octets,
+    }
+    serveur = http.server.ThreadingHTTPServer(("127.0.0.1", int(port)), Publication)
+    threading.Thread(target=serveur.serve_forever, daemon=True).start()
+    scene.pile.callback(serveur.shutdown)
+
+
+def repondre(scene, photo):
+    """Answers a message of the program by its default button."""
+    numero = scene.active(MESSAGE)
+    scene.pose(numero)
+    scene.photographier(photo)
+    scene.touche("Return")
+    attendre(lambda: scene.image(numero) is None, f"la réponse à « {photo} »")
+
+
+def mettreajour(scene, port, installeur, version):
+    """The question, the download, the installer and its last page, which starts the newer program."""
+    publier(scene, port, installeur, version)
+    scene.demarrer()
+    scene.active(BIENVENUE)
+    scene.presser(BIENVENUE, "COMMENCER")
+    scene.active(MENU)
+    scene.presser(MENU, "Vérifier la mise à jour")
+    for photo in ("question", "telechargement", "fermeture"):
+        repondre(scene, photo)
+    scene.fini()
+    verifier(Publication.demandes == list(Publication.pages), f"demandé : {Publication.demandes}")
+    verifier(not list(scene.dossier.glob("*link.txt")) and
+             not list(scene.dossier.glob("version_en_ligne.txt")), "les fichiers lus sont ôtés")
+    numero = scene.active(INSTALLATION)
+    premiere = scene.pose(numero)
+    scene.photographier("installation")
+    scene.touche("Return")
+    cle = scene.programme.parent / "fournis" / "inventaire.txt"
+    attendre(lambda: cle.read_bytes().startswith(version.encode() + b" "), "la nouvelle version")
+    attendre(lambda: scene.pose(numero) != premiere, "la dernière page")
+    scene.photographier("installee")
+    scene.active(INSTALLATION)
+    scene.touche("Return")
+    scene.active(BIENVENUE)  # of the newer program, which its last page starts
+    scene.fermer(BIENVENUE)
+    scene.absente(BIENVENUE)
+
+
 def main(programme, captures, joueur, *suite):
     with SceneWindows(programme, "", captures) as scene:
         if suite == ("--revient",):
             revenir(scene, joueur)
+        elif suite and suite[0] == "--misajour":
+            mettreajour(scene, *suite[1:])
         else:
             jouer(scene, joueur)
     print("windows : bon")
