@@ -69,7 +69,7 @@ Function ${UN}fermer
         Quit
       ${EndIf}
     ${ElseIf} $1 > 20
-      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$0 est ouvert.$\r$\n$\r$\nFermez-le, puis cliquez sur « Recommencer ». Une liste en cours sera à reprendre ; tout ce qui est corrigé est déjà enregistré." IDCANCEL`
+      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$0 est ouvert.$\r$\n$\r$\nFermez-le, puis recommencez. Une liste en cours sera à reprendre ; tout ce qui est corrigé est déjà enregistré." IDCANCEL`
         SetErrorLevel 1
         Quit
       ${EndIf}
