@@ -216,8 +216,7 @@ parlespages() { # by hand: two clicks, and the program is there
     jusqua arrivee dossier fin
     cliquer "Installation d'Orvane"
     jusqua fenetre Bienvenue
-    xdotool windowactivate --sync "$(fenetre Bienvenue)" key --clearmodifiers alt+F4
-    jusqua sansfenetre Bienvenue
+    jusqua fermee Bienvenue
     wineserver -w
 }
 arrivee() { # arrivee PAGE NEXT: what shows is no longer that page, and stands still
