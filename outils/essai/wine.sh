@@ -40,7 +40,7 @@ ouvrir() { # ouvrir PROGRAM TITLE: starts it, up to its window
 fermee() { # fermee TITLE: its window is no more; as long as it is there it is asked to close
     local numero
     numero=$(fenetre "$1") || return 0
-    xdotool windowactivate --sync "$numero" key --clearmodifiers alt+F4 || true
+    timeout 10 xdotool windowactivate --sync "$numero" key --clearmodifiers alt+F4 || true
     return 1
 }
 fermer() { # fermer TITLE: closes its window; the program that was started ends well
