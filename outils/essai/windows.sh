@@ -117,6 +117,22 @@ arrete() { # a program that does not close: nothing changes, and the installer s
     wait "$lance"
     diff <(echo "$avant") <(empreinte "$programme")
 }
+impossible() { # a version that cannot be written: nothing changes, and the installer says so
+    local avant
+    touch "$programme/.orvane-nouveau"
+    avant=$(empreinte "$programme")
+    rend 4 wine "$recent/orvane_setup.exe" /S
+    diff <(echo "$avant") <(empreinte "$programme")
+    rm "$programme/.orvane-nouveau"
+}
+pris() { # a file that cannot be replaced: what was replaced before it is put back
+    local avant
+    avant=$(empreinte "$programme")
+    mkdir "$programme/.orvane-ancien"
+    touch "$programme/.orvane-ancien/manuel" # where the older manual has to wait
+    rend 4 wine "$premier/orvane_setup.exe" /S
+    diff <(echo "$avant") <(empreinte "$programme")
+}
 echange() { # cut between the two moves of the folder that programs are filled from
     mkdir "$programme/.orvane-ancien"
     mv "$programme/fournis" "$programme/.orvane-ancien"
@@ -203,8 +219,7 @@ parlespages() { # by hand: two clicks, and the program is there
     jusqua arrivee dossier fin
     cliquer "Installation d'Orvane"
     jusqua fenetre Bienvenue
-    xdotool windowactivate --sync "$(fenetre Bienvenue)" key --clearmodifiers alt+F4
-    jusqua sansfenetre Bienvenue
+    jusqua fermee Bienvenue
     wineserver -w
 }
 arrivee() { # arrivee PAGE NEXT: what shows is no longer that page, and stands still
@@ -245,6 +260,8 @@ sansjoueur
 essai "windows : rien de l'ancienne version ne reste" complet
 essai "windows : installée pendant que le programme est ouvert" pendant
 essai "windows : programme qui ne se ferme pas" arrete
+essai "windows : disque où rien ne s'écrit" impossible
+essai "windows : fichier qui ne se remplace pas" pris
 essai "windows : installation coupée pendant l'écriture" tuer
 essai "windows : installation coupée pendant l'échange" echange
 essai "windows : joueurs encore" garnir

@@ -37,10 +37,14 @@ ouvrir() { # ouvrir PROGRAM TITLE: starts it, up to its window
     lance=$!
     jusqua fenetre "$2"
 }
-fermer() { # fermer TITLE: closes its window; the program that was started ends well
+fermee() { # fermee TITLE: its window is no more; as long as it is there it is asked to close
     local numero
-    numero=$(fenetre "$1")
-    xdotool windowactivate --sync "$numero" key --clearmodifiers alt+F4
+    numero=$(fenetre "$1") || return 0
+    timeout 10 xdotool windowactivate --sync "$numero" key --clearmodifiers alt+F4 || true
+    return 1
+}
+fermer() { # fermer TITLE: closes its window; the program that was started ends well
+    jusqua fermee "$1" # a window manager that has just started may miss the first keys
     wait "$lance"
 }
 enregistre() { # enregistre NAME VALUE: the list of programs says so

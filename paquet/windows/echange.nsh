@@ -53,8 +53,27 @@ Function deposer
   FileClose $0
 FunctionEnd
 
-; Moves the file or folder $0 to $1, which must be free; $2 is 0 if that failed.
-!define DEPLACER `System::Call 'kernel32::MoveFileExW(w r0, w r1, i 8) i .r2'`
+; Moves the file or folder $0 to $1. Where $2 is a path, and $0 a file, a file at $1 goes to $2. $2 is 0 if
+; that failed for two seconds: a scanner may hold a new file for a moment.
+Function deplacer
+  Push $3
+  Push $4
+  StrCpy $3 $2
+  ${For} $4 1 20
+    ${If} $3 != ""
+    ${AndIf} ${FileExists} $1
+      System::Call 'kernel32::ReplaceFileW(w r1, w r0, w r3, i 0, p 0, p 0) i .r2'
+    ${Else}
+      System::Call 'kernel32::MoveFileExW(w r0, w r1, i 8) i .r2'
+    ${EndIf}
+    ${If} $2 <> 0
+      ${Break}
+    ${EndIf}
+    Sleep 100
+  ${Next}
+  Pop $4
+  Pop $3
+FunctionEnd
 
 ; Puts the file of NOUVEAU whose path is on the stack in place; what stood there goes under ANCIEN.
 ; On the stack: 0 if that failed.
@@ -71,10 +90,8 @@ Function placer
   ${If} ${FileExists} $1
     ${GetParent} $2 $4
     CreateDirectory $4
-    System::Call 'kernel32::ReplaceFileW(w r1, w r0, w r2, i 0, p 0, p 0) i .r2'
-  ${Else}
-    ${DEPLACER}
   ${EndIf}
+  Call deplacer
   StrCpy $3 $2
   Pop $2
   Pop $1
@@ -121,7 +138,8 @@ Function echangerfournis
   StrCpy $0 "$INSTDIR\fournis"
   StrCpy $1 "$INSTDIR\${ANCIEN}\fournis"
   ${If} ${FileExists} "$0\*.*"
-    ${DEPLACER}
+    StrCpy $2 ""
+    Call deplacer
     ${If} $2 = 0
       Push $0
       Call defaire
@@ -129,7 +147,8 @@ Function echangerfournis
   ${EndIf}
   StrCpy $0 "$INSTDIR\${NOUVEAU}\fournis"
   StrCpy $1 "$INSTDIR\fournis"
-  ${DEPLACER}
+  StrCpy $2 ""
+  Call deplacer
   ${If} $2 = 0
     Push $1
     Call defaire

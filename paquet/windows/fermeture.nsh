@@ -65,11 +65,13 @@ Function ${UN}fermer
         Call ${UN}prier
       ${EndIf}
       ${If} $1 > 60
+        RMDir /r "$INSTDIR\${NOUVEAU}"
         SetErrorLevel 3
         Quit
       ${EndIf}
     ${ElseIf} $1 > 20
-      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$0 est ouvert.$\r$\n$\r$\nFermez-le, puis cliquez sur « Recommencer ». Une liste en cours sera à reprendre ; tout ce qui est corrigé est déjà enregistré." IDCANCEL`
+      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$0 est ouvert.$\r$\n$\r$\nFermez-le, puis recommencez. Une liste en cours sera à reprendre ; tout ce qui est corrigé est déjà enregistré." IDCANCEL`
+        RMDir /r "$INSTDIR\${NOUVEAU}"
         SetErrorLevel 1
         Quit
       ${EndIf}
