@@ -83,8 +83,7 @@ INSTANTIATE_TEST_SUITE_P(Table, Nompourwindows, testing::ValuesIn(table),
                          [](const auto& cas) { return std::string(cas.param.nom); });
 
 TEST(Nompourwindows, se_dit_au_joueur) {
-    EXPECT_EQ(common::raison(Ennui::NomReserve),
-              "ce nom est réservé par Windows ; choisissez-en un autre");
+    EXPECT_EQ(common::raison(Ennui::NomReserve), "ce nom est réservé par Windows");
     EXPECT_EQ(common::raison(Ennui::NomInterdit),
               "Windows refuse ce nom : un nom n'a ni < > : \" / \\ | ? * ni, à la fin, un point ou "
               "une espace");
