@@ -82,6 +82,21 @@ const Cas table[] = {
 INSTANTIATE_TEST_SUITE_P(Table, Nompourwindows, testing::ValuesIn(table),
                          [](const auto& cas) { return std::string(cas.param.nom); });
 
+TEST(Longueurs, comptent_les_unites_de_windows) {
+    const auto fois = [](const char* texte, int n) {
+        std::string nom;
+        for (int i = 0; i < n; ++i)
+            nom += texte;
+        return common::nompourwindows(nom);
+    };
+    EXPECT_FALSE(fois("z", 255));
+    EXPECT_EQ(fois("z", 256), std::errc::filename_too_long);
+    EXPECT_FALSE(fois("é", 255));
+    EXPECT_EQ(fois("日", 256), std::errc::filename_too_long);
+    EXPECT_FALSE(fois("𝄞", 127));
+    EXPECT_EQ(fois("𝄞", 128), std::errc::filename_too_long);
+}
+
 TEST(Nompourwindows, se_dit_au_joueur) {
     EXPECT_EQ(common::raison(Ennui::NomReserve), "ce nom est réservé par Windows");
     EXPECT_EQ(common::raison(Ennui::NomInterdit),
