@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "chemin.h"
 #include "disquereel.h"
 #include "textesqt.h"
 
@@ -39,7 +40,7 @@ QString ouenregistrer(QWidget* parent, const QString& titre, const QString& nom,
 }
 
 bool ecrirefichier(QWidget* parent, const QString& chemin, const std::string& octets) {
-    const std::filesystem::path fichier(utf8(chemin));
+    const auto fichier = common::chemin(utf8(chemin));
     common::DisqueReel disque(fichier.parent_path());
     const auto erreur = disque.remplacer(fichier.filename().string(), octets);
     if (erreur)

@@ -14,6 +14,7 @@
 #include <QTranslator>
 
 #include "arguments.h"
+#include "console.h"
 #include "disquereel.h"
 #include "faute.h"
 #include "fenetrecarnet.h"
@@ -102,8 +103,8 @@ int repondre(const carnet::Options& options, int& nombre, char** arguments) {
 
 int main(int nombre, char** arguments) {
     try {
-        const std::vector<std::string> mots(arguments + 1, arguments + nombre);
-        const auto options = carnet::lireoptions(mots);
+        common::preparerconsole();
+        const auto options = carnet::lireoptions(common::arguments(nombre, arguments));
         if (options.action == carnet::Action::aide) {
             std::cout << carnet::aide();
             return bien;

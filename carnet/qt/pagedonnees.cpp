@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "boites.h"
+#include "chemin.h"
 #include "faute.h"
 #include "seance.h"
 #include "textesqt.h"
@@ -96,7 +97,8 @@ void Pagedonnees::accorder() {
             ? QStringLiteral("Pas encore de joueur : rien à copier. Une copie faite "
                              "ailleurs peut être remise ici.")
             : QStringLiteral("Les données de ") + seance_.joueur() + QStringLiteral(" sont dans ") +
-                  chemin(std::filesystem::absolute(seance_.dossier() / utf8(seance_.joueur()))
+                  chemin(std::filesystem::absolute(seance_.dossier() /
+                                                   common::chemin(utf8(seance_.joueur())))
                              .lexically_normal()) +
                   QLatin1Char('.'));
 }
@@ -164,8 +166,8 @@ void Pagedonnees::copier() {
     if (destination.isEmpty())
         return;
     lancer(
-        [jeu = seance_.dossier(), util = utf8(seance_.joueur()), ou = utf8(destination),
-         jour = seance_.jour()](const Avancecopie& avance) {
+        [jeu = seance_.dossier(), util = utf8(seance_.joueur()),
+         ou = common::chemin(utf8(destination)), jour = seance_.jour()](const Avancecopie& avance) {
             return Sauvegarde(jeu).copier(util, ou, jour, avance);
         },
         false);
@@ -198,7 +200,7 @@ void Pagedonnees::remettre() {
     if (choisi.isEmpty())
         return;
     const auto retour = std::make_shared<Sauvegarde::Retour>();
-    const auto copie = utf8(choisi);
+    const auto copie = common::chemin(utf8(choisi));
     message_->setText(QStringLiteral("La copie est regardée…"));
     seance_.tache().lancer(
         [jeu = seance_.dossier(), copie, retour](const Avance& avance) {
@@ -214,7 +216,7 @@ void Pagedonnees::remettre() {
         });
 }
 
-void Pagedonnees::revenir(const std::string& copie, const Sauvegarde::Retour& retour) {
+void Pagedonnees::revenir(const std::filesystem::path& copie, const Sauvegarde::Retour& retour) {
     message_->clear();
     if (!accord(retour))
         return;

@@ -25,7 +25,7 @@ class Pagedonnees : public QWidget {
     void accorder();
     void copier();
     void remettre();
-    void revenir(const std::string& copie, const Sauvegarde::Retour& retour);
+    void revenir(const std::filesystem::path& copie, const Sauvegarde::Retour& retour);
     [[nodiscard]] bool accord(const Sauvegarde::Retour& retour);
     void lancer(std::function<Issue(const Avancecopie&)> travail, bool retour);
     void dire(const Issue& issue, bool retour);

@@ -22,6 +22,11 @@ std::vector<std::string> arguments(int /*nombre*/, char** /*mots*/) {
 }
 
 void preparerconsole() {
+    // A program with windows has no console, and takes that of the one which has started it. What
+    // leads to a file stays.
+    if (::GetStdHandle(STD_OUTPUT_HANDLE) == nullptr && ::AttachConsole(ATTACH_PARENT_PROCESS) != 0)
+        for (auto* flux : {stdout, stderr})
+            static_cast<void>(std::freopen("CONOUT$", "w", flux));
     for (auto* flux : {stdout, stderr})
         static_cast<void>(::_setmode(::_fileno(flux), _O_BINARY));
     ::SetConsoleOutputCP(CP_UTF8);

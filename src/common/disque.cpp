@@ -20,7 +20,7 @@ class Ennuis : public std::error_category {
             case Ennui::PartPleine:
                 return "votre part du disque est pleine";
             case Ennui::NomReserve:
-                return "ce nom est réservé par Windows ; choisissez-en un autre";
+                return "ce nom est réservé par Windows";
             case Ennui::NomInterdit:
                 return "Windows refuse ce nom : un nom n'a ni < > : \" / \\ | ? * ni, à la fin, un "
                        "point ou une espace";

@@ -62,6 +62,9 @@ std::size_t Tranches::remplir(std::size_t ligne) {
     if (const auto erreur = flux_->lire(libre, lus))
         throw Faute(rapportfichier(action_, chemin_, raison(erreur)));
     fini_ = lus == 0;
+    // Not every system lets a file be replaced that is still open.
+    if (fini_)
+        flux_.reset();
     reste_ = {tampon_.get(), reste_.size() + lus};
     return lus;
 }

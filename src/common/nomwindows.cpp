@@ -9,6 +9,7 @@
 namespace common {
 namespace {
 
+constexpr std::size_t longueurlimite = 255;
 constexpr std::string_view interdits = "<>:\"/\\|?*";
 constexpr std::array<std::string_view, 6> appareils{"CON", "PRN",    "AUX",
                                                     "NUL", "CONIN$", "CONOUT$"};
@@ -37,6 +38,19 @@ bool estport(std::string_view nom) {
            std::find(superieurs.begin(), superieurs.end(), numero) != superieurs.end();
 }
 
+/// In the units of 16 bits that Windows counts.
+std::size_t longueurlarge(std::string_view nom) {
+    constexpr unsigned char suite = 0x80;  // bytes behind the first of a character begin with 10
+    constexpr unsigned char masque = 0xC0;
+    constexpr unsigned char dedeux = 0xF0;  // a character of two units
+    std::size_t unites = 0;
+    for (const char c : nom) {
+        const auto octet = static_cast<unsigned char>(c);
+        unites += (octet & masque) == suite ? 0U : octet >= dedeux ? 2U : 1U;
+    }
+    return unites;
+}
+
 bool estcommande(char c) {
     return static_cast<unsigned char>(c) < ' ';
 }
@@ -52,7 +66,8 @@ std::error_code nompourwindows(std::string_view nom) {
     if (nom.find_first_of(interdits) != nom.npos || nom.back() == '.' || nom.back() == ' ' ||
         std::any_of(nom.begin(), nom.end(), estcommande))
         return Ennui::NomInterdit;
-    return {};
+    return longueurlarge(nom) > longueurlimite ? std::make_error_code(std::errc::filename_too_long)
+                                               : std::error_code();
 }
 
 }  // namespace common

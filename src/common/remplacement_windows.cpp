@@ -5,10 +5,10 @@
 #include <mutex>
 #include <set>
 #include <thread>
+#include <utility>
 #include <vector>
 #include <windows.h>
 
-#include "chemins_windows.h"
 #include "disque.h"
 #include "erreurs_windows.h"
 
@@ -42,14 +42,19 @@ OVERLAPPED placeduverrou() {
 }
 
 /// The name of the system's object for a file. It may have no backslash, and a limited length.
-std::wstring nomdegarde(std::wstring fichier) {
-    ::CharLowerBuffW(fichier.data(), static_cast<DWORD>(fichier.size()));
+std::wstring nomdegarde(const std::wstring& cle) {
     constexpr std::uint64_t depart = 14695981039346656037ULL;  // FNV-1a
     constexpr std::uint64_t facteur = 1099511628211ULL;
     std::uint64_t somme = depart;
-    for (const wchar_t c : fichier)
+    for (const wchar_t c : cle)
         somme = (somme ^ c) * facteur;
     return L"Global\\Orvane-" + std::to_wstring(somme);
+}
+
+bool regarder(const std::wstring& chemin, BY_HANDLE_FILE_INFORMATION& lu) {
+    const Poigneewindows fichier(::CreateFileW(chemin.c_str(), 0, partage, nullptr, OPEN_EXISTING,
+                                               FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return fichier.ouverte() && ::GetFileInformationByHandle(fichier.valeur(), &lu) != 0;
 }
 
 /// What tells whether a file is still the same, unchanged.
@@ -62,10 +67,8 @@ struct Identite {
 };
 
 Identite identite(const std::wstring& chemin) {
-    const Poigneewindows fichier(::CreateFileW(chemin.c_str(), 0, partage, nullptr, OPEN_EXISTING,
-                                               FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     BY_HANDLE_FILE_INFORMATION lu{};
-    if (!fichier.ouverte() || ::GetFileInformationByHandle(fichier.valeur(), &lu) == 0)
+    if (!regarder(chemin, lu))
         return {};
     return {lu.dwVolumeSerialNumber, lu.nFileIndexHigh, lu.nFileIndexLow, lu.ftLastWriteTime,
             lu.nFileSizeLow};
@@ -74,13 +77,6 @@ Identite identite(const std::wstring& chemin) {
 bool memes(const Identite& a, const Identite& b) {
     return a.volume == b.volume && a.numerohaut == b.numerohaut && a.numerobas == b.numerobas &&
            a.taillebasse == b.taillebasse && ::CompareFileTime(&a.ecriture, &b.ecriture) == 0;
-}
-
-/// What `cheminfinal` says of a file that is there.
-std::wstring cheminfinalde(const std::wstring& chemin) {
-    const Poigneewindows fichier(::CreateFileW(chemin.c_str(), 0, partage, nullptr, OPEN_EXISTING,
-                                               FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    return fichier.ouverte() ? cheminfinal(fichier.valeur()) : std::wstring();
 }
 
 enum class Issue : std::uint8_t { Faite, Retenue, Inconnue, Refusee };
@@ -131,10 +127,14 @@ Issue renommersimplement(const std::wstring& ancien, const std::wstring& nouveau
                                                                               : Issue::Refusee;
 }
 
+/// A file that its owner has marked; the mark means nothing on a folder.
+bool enlectureseule(DWORD attributs) {
+    return attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_READONLY) != 0 &&
+           (attributs & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
 /// The system refuses that file to this program, whoever has it open.
-bool refuse(const std::wstring& chemin, DWORD attributs) {
-    if ((attributs & FILE_ATTRIBUTE_READONLY) != 0 && (attributs & FILE_ATTRIBUTE_DIRECTORY) == 0)
-        return true;
+bool refuse(const std::wstring& chemin) {
     const Poigneewindows essai(::CreateFileW(chemin.c_str(), DELETE, partage, nullptr,
                                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     return !essai.ouverte() && ::GetLastError() == ERROR_ACCESS_DENIED && !nomquipart();
@@ -149,9 +149,8 @@ std::error_code empechement(const std::wstring& ancien, const std::wstring& nouv
         return std::make_error_code((source & FILE_ATTRIBUTE_DIRECTORY) != 0
                                         ? std::errc::directory_not_empty
                                         : std::errc::is_a_directory);
-    return (libre ? refuse(ancien, 0) : refuse(nouveau, cible))
-               ? std::make_error_code(std::errc::permission_denied)
-               : std::error_code();
+    return refuse(libre ? ancien : nouveau) ? std::make_error_code(std::errc::permission_denied)
+                                            : std::error_code();
 }
 
 /// One try, without and with the way of POSIX.
@@ -167,10 +166,10 @@ Issue essayer(const std::wstring& ancien, const std::wstring& nouveau, bool& enp
 
 /// Closes what this program has locked of the file; the locks stay.
 void ceder(const std::wstring& chemin) {
-    const auto fichier = cheminfinalde(chemin);
+    const auto cle = cledefichier(chemin);
     const std::lock_guard seul(barriere());
     for (auto* ouvert : ouverts())
-        ouvert->ceder(fichier);
+        ouvert->ceder(cle);
 }
 
 }  // namespace
@@ -185,17 +184,32 @@ bool Poigneewindows::ouverte() const {
     return valeur_ != nullptr && valeur_ != INVALID_HANDLE_VALUE;
 }
 
-Garde::Garde(const std::wstring& fichier)
-    : objet_(::CreateEventW(nullptr, TRUE, FALSE, nomdegarde(fichier).c_str())) {}
+std::wstring cledefichier(const std::wstring& chemin) {
+    const auto coupe = chemin.rfind(L'\\') + 1;
+    BY_HANDLE_FILE_INFORMATION dossier{};
+    if (!regarder(chemin.substr(0, coupe), dossier))
+        return {};
+    auto nom = chemin.substr(coupe);
+    ::CharLowerBuffW(nom.data(), static_cast<DWORD>(nom.size()));
+    std::wstring cle;
+    for (const DWORD nombre :
+         {dossier.dwVolumeSerialNumber, dossier.nFileIndexHigh, dossier.nFileIndexLow})
+        cle += std::to_wstring(nombre) + L"-";
+    return cle + nom;
+}
 
-bool Garde::tenue(const std::wstring& fichier) {
-    if (fichier.empty())
+Garde::Garde(const std::wstring& cle)
+    : objet_(::CreateEventW(nullptr, TRUE, FALSE, nomdegarde(cle).c_str())) {}
+
+bool Garde::tenue(const std::wstring& cle) {
+    if (cle.empty())
         return false;
-    const Poigneewindows objet(::OpenEventW(SYNCHRONIZE, FALSE, nomdegarde(fichier).c_str()));
+    const Poigneewindows objet(::OpenEventW(SYNCHRONIZE, FALSE, nomdegarde(cle).c_str()));
     return objet.ouverte() || ::GetLastError() == ERROR_ACCESS_DENIED;
 }
 
-Ouvert::Ouvert(void* fichier, bool enfin) : fichier_(fichier), enfin_(enfin) {
+Ouvert::Ouvert(void* fichier, std::wstring chemin, bool enfin)
+    : fichier_(fichier), chemin_(std::move(chemin)), enfin_(enfin) {
     const std::lock_guard seul(barriere());
     ouverts().insert(this);
 }
@@ -217,7 +231,8 @@ std::error_code Ouvert::verrouiller(bool& pris) {
         return std::make_error_code(std::errc::no_lock_available);
     }
     verrouille_ = true;
-    pris = !Garde::tenue(cheminfinal(fichier()));
+    cle_ = cledefichier(chemin_);
+    pris = !Garde::tenue(cle_);
     if (!pris)
         deverrouiller();
     return {};
@@ -231,10 +246,10 @@ void Ouvert::deverrouiller() {
     verrouille_ = false;
 }
 
-void Ouvert::ceder(const std::wstring& chemin) {
-    if (chemin.empty() || !verrouille_ || !fichier_.ouverte() || cheminfinal(fichier()) != chemin)
+void Ouvert::ceder(const std::wstring& cle) {
+    if (cle.empty() || !verrouille_ || !fichier_.ouverte() || cle_ != cle)
         return;
-    garde_ = std::make_unique<Garde>(chemin);
+    garde_ = std::make_unique<Garde>(cle);
     deverrouiller();
     fichier_.fermer();
 }
@@ -244,6 +259,8 @@ std::error_code remplacer(const std::wstring& ancien, const std::wstring& nouvea
     bool enposix = true;
     bool cede = false;
     Identite avant;
+    if (enlectureseule(::GetFileAttributesW(nouveau.c_str())))
+        return std::make_error_code(std::errc::permission_denied);
     for (;;) {
         const auto issue = essayer(ancien, nouveau, enposix);
         if (issue == Issue::Faite)

@@ -23,13 +23,17 @@ class Poigneewindows {
     void* valeur_;
 };
 
-/// As long as one lives, the file of that path (`cheminfinal`) counts as locked on this machine,
-/// even while nobody has it open. It dies with its program.
+/// The name of a file for all programs of this machine, whatever path it was opened by; empty if
+/// its folder cannot be looked at. The argument as of `cheminlarge`.
+[[nodiscard]] std::wstring cledefichier(const std::wstring& chemin);
+
+/// As long as one lives, the file of that key counts as locked on this machine, even while nobody
+/// has it open. It dies with its program.
 class Garde {
   public:
-    explicit Garde(const std::wstring& fichier);
+    explicit Garde(const std::wstring& cle);
     /// One lives, in this program or in another.
-    [[nodiscard]] static bool tenue(const std::wstring& fichier);
+    [[nodiscard]] static bool tenue(const std::wstring& cle);
 
   private:
     Poigneewindows objet_;
@@ -39,7 +43,8 @@ class Garde {
 /// this program has locked can be replaced by it.
 class Ouvert {
   public:
-    Ouvert(void* fichier, bool enfin);
+    /// `chemin` as of `cheminlarge`.
+    Ouvert(void* fichier, std::wstring chemin, bool enfin);
     Ouvert(const Ouvert&) = delete;
     Ouvert& operator=(const Ouvert&) = delete;
     ~Ouvert();
@@ -49,13 +54,15 @@ class Ouvert {
     [[nodiscard]] bool enfin() const { return enfin_; }
     /// Locks the file, until this is destroyed; `pris` is false if it is locked already.
     [[nodiscard]] std::error_code verrouiller(bool& pris);
-    /// Closes the file if it is locked, and is the one of that path; the lock stays.
-    void ceder(const std::wstring& chemin);
+    /// Closes the file if it is locked, and was opened as the one of that key; the lock stays.
+    void ceder(const std::wstring& cle);
 
   private:
     void deverrouiller();
 
     Poigneewindows fichier_;
+    std::wstring chemin_;
+    std::wstring cle_;  ///< of a file that is locked
     bool enfin_;
     bool verrouille_ = false;
     std::unique_ptr<Garde> garde_;

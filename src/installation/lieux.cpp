@@ -14,8 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 /// From the folder of the executable. Where that one can be written by the player, as on Windows,
-/// an installed program has no `listes` in it, and its files in the second of these.
-constexpr std::array endroits{".", "fournis", "../share/games/orvane"};
+/// an installed program has no `listes` in it, and its files in the last of these.
+constexpr std::array endroits{".", "../share/games/orvane", "fournis"};
 
 bool est(common::Appels& appels, const fs::path& chemin, common::Genre genre) {
     common::Etat etat;

@@ -34,7 +34,7 @@ struct Lieu {
 
 /// The folder of the executable when that holds `listes` and can be written (on a USB stick,
 /// or unpacked from an archive). Otherwise, for a program that has an inventory beside it, in
-/// `fournis` or in `../share/games/orvane`, the player's folder. Otherwise the one in which it was
+/// `../share/games/orvane` or in `fournis`, the player's folder. Otherwise the one in which it was
 /// started. Throws `common::Faute` if the player's folder is wanted and unknown. Lists that a
 /// killed making had set aside are put back first.
 [[nodiscard]] Lieu choisir(common::Appels& appels, const Environs& environs);

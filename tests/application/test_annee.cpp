@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "chemin.h"
 #include "disquereel.h"
 #include "dossier.h"
 #include "lecture.h"
@@ -110,7 +111,7 @@ class Annee : public testing::Test {
         }
     }
     [[nodiscard]] std::string disque(const std::string& nom) const {
-        std::ifstream flux(dossier_.chemin() / nom, std::ios::binary);
+        std::ifstream flux(dossier_.chemin() / common::chemin(nom), std::ios::binary);
         return {std::istreambuf_iterator<char>(flux), {}};
     }
 

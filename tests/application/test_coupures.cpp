@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "appelsdessai.h"
+#include "chemin.h"
 #include "dossier.h"
 #include "lecture.h"
 #include "pilotemodele.h"
@@ -103,20 +104,37 @@ class Coupures : public testing::TestWithParam<Operation> {
   protected:
     Coupures() {
         banc::garnir(dossier_.chemin(), ORVANE_JEU);
-        EXPECT_TRUE(jouer(GetParam().preparation)) << *seance_.plateforme.rapport();
+        preparer();
         avant_ = fichiers();
-        EXPECT_EQ(essais::enfant([&] { return jouer(GetParam().ordres) ? 0 : 1; }), 0);
+        EXPECT_EQ(essais::encopie([&] { return jouer(GetParam().ordres) ? 0 : 1; }), 0);
         apres_ = fichiers();
         EXPECT_NE(avant_, apres_);
+    }
+
+    /// Starts the program and brings it to where the operation begins.
+    void preparer() {
+        seance_ = std::make_unique<banc::Seance>(
+            dossier_.chemin(),
+            [](ui::Plateforme& p) { return std::make_unique<banc::ProgrammeReel>(p); },
+            [](banc::PlateformeSimulee& p) { return std::make_unique<banc::PiloteModele>(p); },
+            appels_);
+        EXPECT_TRUE(jouer(GetParam().preparation)) << *seance_->plateforme.rapport();
+    }
+
+    /// The program may carry out the operation, on a disk that holds these files.
+    void disposer(const Fichiers& disque) {
+        if (!essais::copiable())
+            preparer();  // the one that is there has carried it out
+        remettre(disque);
     }
 
     /// Gives the orders until the program ends; false if a fault ended it.
     bool jouer(const std::string& ordres) {
         std::istringstream flux(ordres);
         banc::Lecteur lecteur(flux);
-        for (banc::Ordre ordre; !seance_.plateforme.fini() && lecteur.suivant(ordre);)
-            seance_.executer(ordre);
-        return !seance_.plateforme.rapport();
+        for (banc::Ordre ordre; !seance_->plateforme.fini() && lecteur.suivant(ordre);)
+            seance_->executer(ordre);
+        return !seance_->plateforme.rapport();
     }
 
     /// The files that a player changes, by name. The journal of racks is none of them: it may be
@@ -124,7 +142,7 @@ class Coupures : public testing::TestWithParam<Operation> {
     [[nodiscard]] Fichiers fichiers() const {
         Fichiers lus;
         for (fs::recursive_directory_iterator i(dossier_.chemin()), fin; i != fin; ++i) {
-            const auto nom = i->path().lexically_relative(dossier_.chemin()).string();
+            const auto nom = i->path().lexically_relative(dossier_.chemin()).generic_string();
             if (nom == "listes" || nom == "images")
                 i.disable_recursion_pending();
             else if (i->is_regular_file() && nom != "APP05.WAV" && !nom.ends_with("journal.txt"))
@@ -135,30 +153,32 @@ class Coupures : public testing::TestWithParam<Operation> {
         return lus;
     }
 
-    /// Puts the disk back as it was before the operation.
-    void remettre() const {
+    /// Puts the disk back as it was.
+    void remettre(const Fichiers& disque) const {
         for (const auto& [nom, octets] : fichiers()) {
-            if (!avant_.contains(nom))
-                fs::remove_all(dossier_.chemin() / nom);
+            if (!disque.contains(nom))
+                fs::remove_all(dossier_.chemin() / common::chemin(nom));
         }
-        for (const auto& [nom, octets] : avant_) {
+        for (const auto& [nom, octets] : disque) {
+            const auto chemin = dossier_.chemin() / common::chemin(nom);
             if (octets == "dossier")
-                fs::create_directories(dossier_.chemin() / nom);
-            else if (contenu(dossier_.chemin() / nom) != octets)
-                std::ofstream(dossier_.chemin() / nom, std::ios::binary) << octets;
+                fs::create_directories(chemin);
+            else if (contenu(chemin) != octets)
+                std::ofstream(chemin, std::ios::binary) << octets;
         }
     }
 
     /// Runs the operation with a breakdown at a call; false if there is no such call.
     bool casser(Panne panne, int rang) {
-        remettre();
-        const auto statut = essais::enfant([&] {
+        disposer(avant_);
+        const auto statut = essais::encopie([&] {
             appels_.prevoir(panne, rang);
             const bool tu = jouer(GetParam().ordres) && !GetParam().muette;
             if (!appels_.atteinte())
                 return 0;
             return tu && fichiers() != apres_ ? perdu : 1;
         });
+        appels_.prevoir(Panne::Aucune, 0);
         const bool meurt = panne != Panne::Refus && panne != Panne::Courte;
         EXPECT_TRUE(statut == 0 || statut == (meurt ? essais::tue : 1)) << statut;
         return statut != 0;
@@ -178,7 +198,8 @@ class Coupures : public testing::TestWithParam<Operation> {
 
     /// The next time the operation goes through, and nothing is left of the breakdown.
     void rejouer() {
-        EXPECT_EQ(essais::enfant([&] { return jouer(GetParam().ordres) ? 0 : 1; }), 0);
+        disposer(fichiers());
+        EXPECT_EQ(essais::encopie([&] { return jouer(GetParam().ordres) ? 0 : 1; }), 0);
         for (const auto& [nom, octets] : fichiers())
             EXPECT_FALSE(provisoire(nom)) << nom;
     }
@@ -200,11 +221,7 @@ class Coupures : public testing::TestWithParam<Operation> {
 
     essais::AppelsDessai appels_;
     banc::Dossier dossier_;
-    banc::Seance seance_{
-        dossier_.chemin(),
-        [](ui::Plateforme& p) { return std::make_unique<banc::ProgrammeReel>(p); },
-        [](banc::PlateformeSimulee& p) { return std::make_unique<banc::PiloteModele>(p); },
-        appels_};
+    std::unique_ptr<banc::Seance> seance_;
     Fichiers avant_;
     Fichiers apres_;
 };

@@ -1,62 +1,29 @@
 // The program as a player or a build runs it.
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 #include <gmock/gmock.h>
 
+#include "chemin.h"
 #include "dossiertemporaire.h"
+#include "processus.h"
 
 namespace {
 
 using essais::DossierTemporaire;
+using essais::Fin;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-struct Fin {
-    int etat = -1;
-    std::string sortie;
-    std::string erreurs;
-};
-
-/// No limit on the size of a file.
-constexpr rlim_t sanslimite = RLIM_INFINITY;
-
 class Programme : public testing::Test {
   protected:
-    Fin lancer(const std::vector<std::string>& arguments, rlim_t taillemax = sanslimite) const {
-        const auto sortie = (dossier.chemin() / "sortie.txt").string();
-        const auto erreurs = (dossier.chemin() / "erreurs.txt").string();
-        const pid_t enfant = ::fork();
-        if (enfant == 0) {
-            if (std::freopen(sortie.c_str(), "w", stdout) == nullptr ||
-                std::freopen(erreurs.c_str(), "w", stderr) == nullptr)
-                ::_exit(99);
-            if (taillemax != sanslimite) {
-                std::signal(SIGXFSZ, SIG_IGN);
-                const rlimit limite{taillemax, taillemax};
-                if (::setrlimit(RLIMIT_FSIZE, &limite) != 0)
-                    ::_exit(98);
-            }
-            std::vector<char*> mots{const_cast<char*>(ORVANE_PROGRAMME)};
-            for (const auto& argument : arguments)
-                mots.push_back(const_cast<char*>(argument.c_str()));
-            mots.push_back(nullptr);
-            ::execv(ORVANE_PROGRAMME, mots.data());
-            ::_exit(97);
-        }
-        int statut = 0;
-        EXPECT_EQ(::waitpid(enfant, &statut, 0), enfant);
-        return {WIFEXITED(statut) ? WEXITSTATUS(statut) : -1, dossier.lire("sortie.txt"),
-                dossier.lire("erreurs.txt")};
+    [[nodiscard]] Fin lancer(const std::vector<std::string>& arguments) const {
+        return essais::lancer(ORVANE_PROGRAMME, arguments, dossier.chemin());
     }
 
     /// The arguments of a run on the small lexicon.
@@ -68,7 +35,7 @@ class Programme : public testing::Test {
                 "--thesaurus",  petit + "/petit.dat",
                 "--sans-ajouts"};
     }
-    [[nodiscard]] std::string cible() const { return (dossier.chemin() / "jeu été").string(); }
+    [[nodiscard]] std::string cible() const { return (dossier.chemin() / u8"jeu été").string(); }
     [[nodiscard]] std::string lu(const std::string& nom) const {
         return dossier.lire("jeu été/" + nom);
     }
@@ -90,13 +57,15 @@ TEST_F(Programme, fait_les_listes_en_silence) {
 
 TEST_F(Programme, fait_deux_fois_les_memes_octets) {
     ASSERT_EQ(lancer(petit(cible())).etat, 0);
-    std::filesystem::rename(cible(), dossier.chemin() / "premier");
+    std::filesystem::rename(common::chemin(cible()), dossier.chemin() / "premier");
     ASSERT_EQ(lancer(petit(cible())).etat, 0);
     std::size_t compares = 0;
-    for (const auto& entree : std::filesystem::recursive_directory_iterator(cible())) {
+    for (const auto& entree :
+         std::filesystem::recursive_directory_iterator(common::chemin(cible()))) {
         if (!entree.is_regular_file())
             continue;
-        const auto relatif = std::filesystem::relative(entree.path(), cible()).string();
+        const auto relatif =
+            entree.path().lexically_relative(common::chemin(cible())).generic_string();
         EXPECT_EQ(lu(relatif), dossier.lire("premier/" + relatif)) << relatif;
         ++compares;
     }
@@ -128,19 +97,6 @@ TEST_F(Programme, compare_deux_editions) {
     EXPECT_EQ(lu("listes/78ods5-6-7.txt"), "AAEKKOR;KARAOKE\r\n");
 }
 
-TEST_F(Programme, un_disque_plein_est_une_faute_et_laisse_les_vieilles_listes) {
-    ASSERT_EQ(lancer(petit(cible())).etat, 0);
-    const auto avant = lu("listes/3lc.txt");
-    dossier.ecrire("jeu été/infosouris.txt", "vieux\r\n");
-    // The pictures are larger than that.
-    const auto fin = lancer(petit(cible()), 4096);
-    EXPECT_EQ(fin.etat, 1);
-    EXPECT_THAT(fin.erreurs, StartsWith("Installation des listes : fichier « "));
-    EXPECT_EQ(lu("listes/3lc.txt"), avant);
-    EXPECT_EQ(lu("infosouris.txt"), "vieux\r\n");
-    EXPECT_FALSE(std::filesystem::exists(cible() + "/.nouvelles-listes"));
-}
-
 struct Casse {
     const char* nom;
     const char* option;
@@ -152,14 +108,14 @@ void PrintTo(const Casse& c, std::ostream* os) {
 }
 class SourceCassee : public Programme, public testing::WithParamInterface<Casse> {};
 TEST_P(SourceCassee, est_une_faute_dite_avec_son_fichier) {
-    const auto chemin = (dossier.chemin() / "cassé").string();
+    const auto chemin = (dossier.chemin() / u8"cassé").string();
     dossier.ecrire("cassé", GetParam().octets);
     auto arguments = petit(cible());
     arguments.insert(arguments.end(), {GetParam().option, chemin});
     const auto fin = lancer(arguments);
     EXPECT_EQ(fin.etat, 1);
     EXPECT_THAT(fin.erreurs, AllOf(HasSubstr("cassé »"), HasSubstr(GetParam().rapport)));
-    EXPECT_FALSE(std::filesystem::exists(cible()));
+    EXPECT_FALSE(std::filesystem::exists(common::chemin(cible())));
 }
 INSTANTIATE_TEST_SUITE_P(
     Programme, SourceCassee,

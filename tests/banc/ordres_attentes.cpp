@@ -4,6 +4,7 @@
 #include <array>
 #include <fstream>
 
+#include "chemin.h"
 #include "cible.h"
 #include "ordres.h"
 #include "proprietes.h"
@@ -55,7 +56,7 @@ std::string valeur(Seance& seance, const std::string& nom) {
 
 /// The forms in the order of their names.
 std::string ecriremodele(Seance& seance, const Ordre& ordre) {
-    std::ofstream flux(ordre.suite, std::ios::binary);
+    std::ofstream flux(common::chemin(ordre.suite), std::ios::binary);
     for (const auto* nom : formulaires) {
         if (const auto* formulaire = seance.plateforme.bureau.trouver(nom))
             flux << modele(*formulaire);

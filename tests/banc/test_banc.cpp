@@ -284,7 +284,7 @@ TEST(Modele, dit_tout_ce_qui_se_lit) {
 
 TEST(Modele, s_ecrit_pour_les_formulaires_charges) {
     const banc::Dossier dossier;
-    const auto fichier = dossier.chemin() / "modèle un.txt";
+    const auto fichier = dossier.chemin() / u8"modèle un.txt";
     EXPECT_EQ(banc::jouerfaux(PRET "modele " + fichier.string() + "\n"), "ok\nok\n");
     std::ifstream flux(fichier);
     std::string premiere;

@@ -36,7 +36,7 @@ inline carnet::Commande perso(std::initializer_list<const char*> mots) {
 inline std::map<std::string, std::string> contenu(const DossierTemporaire& dossier) {
     std::map<std::string, std::string> fichiers;
     for (const auto& entree : std::filesystem::recursive_directory_iterator(dossier.chemin())) {
-        const auto nom = std::filesystem::relative(entree.path(), dossier.chemin()).string();
+        const auto nom = entree.path().lexically_relative(dossier.chemin()).generic_string();
         if (entree.is_regular_file())
             fichiers[nom] = dossier.lire(nom);
     }

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "chemin.h"
 #include "dictionnaireperso.h"
 #include "disquereel.h"
 #include "dossiertemporaire.h"
@@ -111,7 +112,8 @@ INSTANTIATE_TEST_SUITE_P(
 class Fichier : public testing::Test {
   protected:
     std::string ennui(const std::string& nom) {
-        const auto lu = lirefichierdemots(disque, (dossier.chemin() / nom).string());
+        const auto lu =
+            lirefichierdemots(disque, (dossier.chemin() / common::chemin(nom)).string());
         return std::holds_alternative<std::string>(lu) ? std::get<std::string>(lu) : "lu";
     }
     essais::DossierTemporaire dossier;

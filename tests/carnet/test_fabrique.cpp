@@ -1,13 +1,13 @@
 #include <algorithm>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <gmock/gmock.h>
 
+#include "chemin.h"
 #include "envigueur.h"
 #include "fabrique.h"
 #include "faute.h"
 #include "petitchantier.h"
+#include "processus.h"
 
 namespace {
 
@@ -116,27 +116,27 @@ TEST_F(Fabrique, un_disque_plein_ne_change_rien) {
     EXPECT_EQ(contenu(dossier), avant);
 }
 
+/// Makes lists in a folder until a file of that rank is half written.
+int mourirenecrivant(const essais::Mots& mots) {
+    int reste = std::stoi(mots[1]);
+    const auto ecrire = [&](const std::filesystem::path& chemin, std::string_view octets) {
+        const auto moitie = atelier::ecrirefichier(chemin, octets.substr(0, octets.size() / 2));
+        if (reste-- == 0)
+            essais::mourir();
+        return moitie;
+    };
+    (void)fabriquer(essais::petitschemins(), perso({"NEZ"}), common::chemin(mots[0]),
+                    essais::continuer, ecrire);
+    return 0;
+}
+
 TEST_F(Fabrique, tuee_a_une_ecriture_laisse_les_listes_comme_avant) {
     const auto avant = contenu(dossier);
     for (const int mort : {0, 1, 120, 250}) {
-        const pid_t enfant = ::fork();
-        ASSERT_GE(enfant, 0);
-        if (enfant == 0) {
-            int reste = mort;
-            (void)fabriquer(
-                essais::petitschemins(), perso({"NEZ"}), dossier.chemin(), essais::continuer,
-                [&](const std::filesystem::path& chemin, std::string_view octets) {
-                    const auto moitie =
-                        atelier::ecrirefichier(chemin, octets.substr(0, octets.size() / 2));
-                    if (reste-- == 0)
-                        ::_exit(7);
-                    return moitie;
-                });
-            ::_exit(0);
-        }
-        int statut = 0;
-        ASSERT_EQ(::waitpid(enfant, &statut, 0), enfant);
-        ASSERT_EQ(WEXITSTATUS(statut), 7) << mort;
+        ASSERT_EQ(
+            essais::enfant(mourirenecrivant, {dossier.chemin().string(), std::to_string(mort)}),
+            essais::tue)
+            << mort;
         auto apres = contenu(dossier);
         std::erase_if(apres, [](const auto& fichier) {
             return fichier.first.starts_with(".nouvelles-listes/");

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "chemin.h"
 #include "disquereel.h"
 #include "dossiertemporaire.h"
 #include "joueurs.h"
@@ -114,7 +115,7 @@ TEST(Nomsducarnet, ne_sont_pas_pour_une_liste_du_joueur) {
 
 TEST_F(Ecrite, les_joueurs_qui_ont_un_dossier_le_dernier_venu_d_abord) {
     for (const auto* nom : {"Zoé", "Anne", "Léa"})
-        std::filesystem::create_directory(dossier.chemin() / nom);
+        std::filesystem::create_directory(dossier.chemin() / common::chemin(nom));
     dossier.ecrire("users.dat",
                    "Zo\xE9\r\nParti\r\n..\r\nAnne\r\nAnne\r\nL\xE9"
                    "a\r\n");
@@ -124,7 +125,7 @@ TEST_F(Ecrite, les_joueurs_qui_ont_un_dossier_le_dernier_venu_d_abord) {
 }
 
 TEST_F(Ecrite, le_plafond_d_un_joueur_est_garde) {
-    std::filesystem::create_directory(dossier.chemin() / "Zoé");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé");
     EXPECT_EQ(carnet::lireplafonddejoueur(disque, "Zoé"), 60);
     EXPECT_FALSE(carnet::ecrireplafonddejoueur(disque, "Zoé", 30));
     EXPECT_EQ(carnet::lireplafonddejoueur(disque, "Zoé"), 30);

@@ -67,7 +67,7 @@ TEST_F(Ecriture, met_la_liste_dans_le_dossier_des_listes) {
     EXPECT_FALSE(enregistrer(disque, "été.txt", {"(N)EZ;NEZ", "AQRTU;QUART"}));
     EXPECT_TRUE(existeliste(disque, "été.txt"));
     EXPECT_EQ(dossier.lire("listes/été.txt"), "(N)EZ;NEZ\r\nAQRTU;QUART\r\n");
-    EXPECT_THAT(atelier::verifierfichier((dossier.chemin() / "listes/été.txt").string()),
+    EXPECT_THAT(atelier::verifierfichier((dossier.chemin() / u8"listes/été.txt").string()),
                 IsEmpty());
 }
 

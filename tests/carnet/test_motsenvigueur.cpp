@@ -1,11 +1,9 @@
-#include <cstdlib>
-#include <sys/wait.h>
-
 #include <gmock/gmock.h>
 
 #include "arguments.h"
 #include "motsenvigueur.h"
 #include "petitchantier.h"
+#include "processus.h"
 
 namespace {
 
@@ -65,17 +63,16 @@ TEST(Arguments, nomment_le_dossier_et_les_sources) {
         EXPECT_THROW((void)lireoptions(faux), MauvaisUsage);
 }
 
-int statut(const std::string& arguments) {
-    const auto fin =
-        std::system(("\"" ORVANE_CARNET "\" " + arguments + " > /dev/null 2>&1").c_str());
-    return WEXITSTATUS(fin);
+int statut(const essais::Mots& arguments) {
+    const essais::DossierTemporaire dossier;
+    return essais::lancer(ORVANE_CARNET, arguments, dossier.chemin()).etat;
 }
 
 TEST(Programmecarnet, finit_par_le_statut_de_ce_qu_on_lui_demande) {
-    EXPECT_EQ(statut("--help"), 0);
-    EXPECT_EQ(statut("--version"), 0);
-    EXPECT_EQ(statut("--nul"), 2);
-    EXPECT_EQ(statut("--dossier /nulle/part"), 1);
+    EXPECT_EQ(statut({"--help"}), 0);
+    EXPECT_EQ(statut({"--version"}), 0);
+    EXPECT_EQ(statut({"--nul"}), 2);
+    EXPECT_EQ(statut({"--dossier", "/nulle/part"}), 1);
 }
 
 }  // namespace

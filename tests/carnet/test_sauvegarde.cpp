@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "appelsdessai.h"
+#include "chemin.h"
 #include "dossiertemporaire.h"
 #include "sauvegarde.h"
 
@@ -37,17 +38,17 @@ class Donnees : public testing::Test {
     void refaire() {
         fs::remove_all(jeu());
         fs::remove_all(ailleurs());
-        fs::create_directories(jeu() / "Zoé");
+        fs::create_directories(jeu() / u8"Zoé");
         fs::create_directories(ailleurs());
         for (const auto& [nom, octets] : ancien)
             ecrire("jeu/Zoé/" + nom, octets);
     }
     void ecrire(const std::string& chemin, const std::string& octets) const {
-        std::ofstream(dossier.chemin() / chemin, std::ios::binary) << octets;
+        std::ofstream(dossier.chemin() / common::chemin(chemin), std::ios::binary) << octets;
     }
     [[nodiscard]] fs::path jeu() const { return dossier.chemin() / "jeu"; }
-    [[nodiscard]] fs::path ailleurs() const { return dossier.chemin() / "clé d'été"; }
-    [[nodiscard]] fs::path copie() const { return ailleurs() / "Orvane 2019-04-14" / "Zoé"; }
+    [[nodiscard]] fs::path ailleurs() const { return dossier.chemin() / u8"clé d'été"; }
+    [[nodiscard]] fs::path copie() const { return ailleurs() / "Orvane 2019-04-14" / u8"Zoé"; }
 
     /// The files of a folder, without what a killed program left under way.
     static Fichiers fichiers(const fs::path& ou) {
@@ -78,7 +79,7 @@ class Donnees : public testing::Test {
                 refaire();
                 preparer();
                 constexpr int pasatteinte = 7;
-                const int etat = essais::enfant([&] {
+                const int etat = essais::encopie([&] {
                     essais::AppelsDessai appels;
                     appels.prevoir(panne, rang);
                     Sauvegarde sauvegarde(jeu(), appels);
@@ -105,14 +106,14 @@ class Donnees : public testing::Test {
 };
 
 TEST_F(Donnees, se_copient_dans_un_dossier_date) {
-    fs::create_directory(jeu() / "Zoé" / "photos");
+    fs::create_directory(jeu() / u8"Zoé" / "photos");
     const auto issue = Sauvegarde(jeu()).copier("Zoé", ailleurs(), jour, oui);
     ASSERT_EQ(issue.etat, Issue::Etat::fait) << issue.ennui;
     EXPECT_EQ(issue.dossier, copie());
     EXPECT_EQ(issue.fichiers, 4U);
     EXPECT_THAT(issue.laisses, ElementsAre("photos"));
     EXPECT_EQ(fichiers(copie()), ancien);
-    EXPECT_EQ(fichiers(jeu() / "Zoé"), ancien);
+    EXPECT_EQ(fichiers(jeu() / u8"Zoé"), ancien);
 }
 
 TEST_F(Donnees, une_seconde_copie_du_jour_ne_touche_pas_la_premiere) {
@@ -120,7 +121,7 @@ TEST_F(Donnees, une_seconde_copie_du_jour_ne_touche_pas_la_premiere) {
     ecrire("jeu/Zoé/hist.dat", deuxrecords);
     const auto issue = Sauvegarde(jeu()).copier("Zoé", ailleurs(), jour, oui);
     ASSERT_EQ(issue.etat, Issue::Etat::fait) << issue.ennui;
-    EXPECT_EQ(issue.dossier, ailleurs() / "Orvane 2019-04-14 (2)" / "Zoé");
+    EXPECT_EQ(issue.dossier, ailleurs() / "Orvane 2019-04-14 (2)" / u8"Zoé");
     EXPECT_EQ(fichiers(copie()), ancien);
     EXPECT_EQ(fichiers(issue.dossier)["hist.dat"], deuxrecords);
 }
@@ -137,11 +138,11 @@ TEST_F(Donnees, un_joueur_sans_dossier_ou_une_destination_dedans_sont_refuses) {
                 HasSubstr("Pas de joueur « Paul »"));
     EXPECT_THAT(Sauvegarde(jeu()).copier("..", ailleurs(), jour, oui).ennui,
                 HasSubstr("Pas de joueur"));
-    EXPECT_THAT(Sauvegarde(jeu()).copier("Zoé", jeu() / "Zoé", jour, oui).ennui,
+    EXPECT_THAT(Sauvegarde(jeu()).copier("Zoé", jeu() / u8"Zoé", jour, oui).ennui,
                 HasSubstr("choisissez-en un autre"));
     EXPECT_THAT(Sauvegarde(jeu()).copier("Zoé", ailleurs() / "nulle part", jour, oui).ennui,
                 HasSubstr("nulle part"));
-    EXPECT_EQ(fichiers(jeu() / "Zoé"), ancien);
+    EXPECT_EQ(fichiers(jeu() / u8"Zoé"), ancien);
 }
 
 TEST_F(Donnees, copiees_et_arretees_a_tout_moment_sont_toutes_la) {
@@ -150,9 +151,9 @@ TEST_F(Donnees, copiees_et_arretees_a_tout_moment_sont_toutes_la) {
             return s.copier("Zoé", ailleurs(), jour, oui).etat == Issue::Etat::fait ? 0 : 1;
         },
         [&](int etat, const std::string& ou) {
-            EXPECT_EQ(fichiers(jeu() / "Zoé"), ancien) << ou;
+            EXPECT_EQ(fichiers(jeu() / u8"Zoé"), ancien) << ou;
             // A copy that bears the player's name is whole.
-            const auto seconde = ailleurs() / "Orvane 2019-04-14 (2)" / "Zoé";
+            const auto seconde = ailleurs() / "Orvane 2019-04-14 (2)" / u8"Zoé";
             for (const auto& faite : {copie(), seconde})
                 EXPECT_TRUE(!fs::exists(faite) || fichiers(faite) == ancien) << ou;
             EXPECT_TRUE(etat != 0 || fs::exists(copie()) || fs::exists(seconde)) << ou;
@@ -167,18 +168,18 @@ TEST_F(Donnees, reviennent_a_leur_place_et_les_anciennes_restent) {
     EXPECT_TRUE(vu.existe);
     const auto issue = Sauvegarde(jeu()).remettre(copie(), jour, oui);
     ASSERT_EQ(issue.etat, Issue::Etat::fait) << issue.ennui;
-    EXPECT_EQ(fichiers(jeu() / "Zoé"), neuf);
-    EXPECT_EQ(issue.ancien, jeu() / "Zoé avant le 2019-04-14");
+    EXPECT_EQ(fichiers(jeu() / u8"Zoé"), neuf);
+    EXPECT_EQ(issue.ancien, jeu() / u8"Zoé avant le 2019-04-14");
     EXPECT_EQ(fichiers(issue.ancien), ancien);
 }
 
 TEST_F(Donnees, reviennent_sur_une_machine_ou_le_joueur_n_est_pas) {
     copieneuve();
-    fs::remove_all(jeu() / "Zoé");
+    fs::remove_all(jeu() / u8"Zoé");
     EXPECT_FALSE(Sauvegarde(jeu()).examiner(copie()).existe);
     const auto issue = Sauvegarde(jeu()).remettre(copie() / "", jour, oui);
     ASSERT_EQ(issue.etat, Issue::Etat::fait) << issue.ennui;
-    EXPECT_EQ(fichiers(jeu() / "Zoé"), neuf);
+    EXPECT_EQ(fichiers(jeu() / u8"Zoé"), neuf);
     EXPECT_TRUE(issue.ancien.empty());
 }
 
@@ -194,8 +195,8 @@ void PrintTo(const Casderetour& cas, std::ostream* sortie) {
 class Retours : public Donnees, public testing::WithParamInterface<Casderetour> {};
 
 TEST_P(Retours, demandent_ou_non) {
-    fs::remove_all(jeu() / "Zoé");
-    fs::create_directories(jeu() / "Zoé");
+    fs::remove_all(jeu() / u8"Zoé");
+    fs::create_directories(jeu() / u8"Zoé");
     fs::create_directories(copie());
     for (const auto& [nom, octets] : GetParam().ici)
         ecrire("jeu/Zoé/" + nom, octets);
@@ -247,7 +248,7 @@ TEST_F(Donnees, ce_qui_n_est_pas_une_copie_est_refuse) {
     ecrire("clé d'été/listes/settings.dat", "");
     EXPECT_THAT(Sauvegarde(jeu()).examiner(ailleurs() / "listes").ennui,
                 HasSubstr("ne peut être le nom d'un joueur"));
-    EXPECT_THAT(Sauvegarde(jeu()).examiner(jeu() / "Zoé").ennui, HasSubstr("du jeu lui-même"));
+    EXPECT_THAT(Sauvegarde(jeu()).examiner(jeu() / u8"Zoé").ennui, HasSubstr("du jeu lui-même"));
     EXPECT_EQ(Sauvegarde(jeu()).remettre(ailleurs() / "listes", jour, oui).etat,
               Issue::Etat::refuse);
 }
@@ -265,11 +266,11 @@ TEST_F(Retour, arrete_a_tout_moment_ne_perd_ni_l_ancien_ni_le_neuf) {
             EXPECT_EQ(fichiers(copie()), neuf) << ou;
             // The next start ends what can be ended.
             static_cast<void>(Sauvegarde(jeu()).achever());
-            const auto enjeu = fichiers(jeu() / "Zoé");
+            const auto enjeu = fichiers(jeu() / u8"Zoé");
             // A name that the disk refuses to tell of is passed over for the next one.
-            auto avant = fichiers(jeu() / "Zoé avant le 2019-04-14");
+            auto avant = fichiers(jeu() / u8"Zoé avant le 2019-04-14");
             if (avant.empty())
-                avant = fichiers(jeu() / "Zoé avant le 2019-04-14 (2)");
+                avant = fichiers(jeu() / u8"Zoé avant le 2019-04-14 (2)");
             EXPECT_TRUE(enjeu == ancien || enjeu == neuf) << ou;
             EXPECT_TRUE(enjeu == ancien || avant == ancien) << ou;
             if (etat == 0) {
@@ -280,11 +281,11 @@ TEST_F(Retour, arrete_a_tout_moment_ne_perd_ni_l_ancien_ni_le_neuf) {
 }
 
 TEST_F(Donnees, un_retour_qui_attend_sa_place_est_dit) {
-    fs::create_directories(jeu() / carnet::dossierenattente("Zoé"));
-    fs::create_directories(jeu() / carnet::dossierenattente("Paul"));
+    fs::create_directories(jeu() / common::chemin(carnet::dossierenattente("Zoé")));
+    fs::create_directories(jeu() / common::chemin(carnet::dossierenattente("Paul")));
     EXPECT_THAT(Sauvegarde(jeu()).achever(), ElementsAre("Zoé"));
     EXPECT_TRUE(fs::is_directory(jeu() / "Paul"));
-    EXPECT_EQ(fichiers(jeu() / "Zoé"), ancien);
+    EXPECT_EQ(fichiers(jeu() / u8"Zoé"), ancien);
 }
 
 }  // namespace

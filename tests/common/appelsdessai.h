@@ -3,12 +3,10 @@
 #include <cstdint>
 #include <set>
 #include <string>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 #include "appels.h"
+#include "processus.h"
 
 namespace essais {
 
@@ -22,10 +20,9 @@ enum class Panne : std::uint8_t {
     Coupure     ///< the power goes before a change: what is not synchronised is cut in half
 };
 
-constexpr int tue = 42;  ///< exit status of a program that was killed
-
 /// The calls of the system, numbered from 1, one of which breaks. Closing and the clock are not
-/// counted. Time goes by at the waits only.
+/// counted. Time goes by at the waits only. In a program that should have ended (`mort`) no call
+/// does anything but closing, which the system would do for it.
 class AppelsDessai : public common::Appels {
   public:
     /// Breaks the call of that number, among those that the breakdown is for.
@@ -62,7 +59,7 @@ class AppelsDessai : public common::Appels {
         const auto moitie = octets.substr(0, (octets.size() + 1) / 2);
         if (panne_ == Panne::Dechirure && compter()) {
             static_cast<void>(vrais_.ecrire(poignee, moitie, ecrits));
-            ::_exit(tue);
+            mourir();
         }
         if (panne_ == Panne::Courte && compter())
             return vrais_.ecrire(poignee, moitie, ecrits);
@@ -151,6 +148,8 @@ class AppelsDessai : public common::Appels {
     template <class Appel>
     std::error_code faire(const char* nom, const Appel& appel, bool change = true) {
         journal.emplace_back(nom);
+        if (mort())
+            return std::make_error_code(std::errc::io_error);
         const bool decriture = panne_ == Panne::Dechirure || panne_ == Panne::Courte;
         const bool dechange = panne_ == Panne::Avant || panne_ == Panne::Coupure;
         if (panne_ == Panne::Aucune || decriture || (dechange && !change) || !compter())
@@ -159,15 +158,15 @@ class AppelsDessai : public common::Appels {
             return std::make_error_code(std::errc::io_error);
         if (panne_ == Panne::Coupure)
             couper();
-        ::_exit(tue);
+        mourir();
+        return std::make_error_code(std::errc::io_error);
     }
 
     void couper() {
         for (const auto poignee : sales_) {
-            struct stat etat = {};
-            const auto numero = static_cast<int>(poignee);
-            if (::fstat(numero, &etat) != 0 || ::ftruncate(numero, etat.st_size / 2) != 0)
-                ::_exit(1);
+            common::Etat etat;
+            if (vrais_.etat(poignee, etat) || vrais_.couper(poignee, etat.taille / 2))
+                mourir(1);
         }
     }
 
@@ -186,17 +185,5 @@ class AppelsPatients : public AppelsDessai {
         common::appelsdusysteme().attendre(millisecondes);
     }
 };
-
-/// Runs an action in a program of its own, which ends with the status that the action gives.
-/// Gives that status; -1 if it ended otherwise.
-template <class Action>
-int enfant(const Action& action) {
-    const auto pid = ::fork();
-    if (pid == 0)
-        ::_exit(action());
-    int statut = -1;
-    ::waitpid(pid, &statut, 0);
-    return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
-}
 
 }  // namespace essais

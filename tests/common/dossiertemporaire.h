@@ -1,24 +1,20 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
 
+#include "dossierneuf.h"
+
 namespace essais {
 
 /// A temporary folder, whose name holds a blank and an accent; gone at the end.
 class DossierTemporaire {
   public:
-    DossierTemporaire() {
-        auto modele = (std::filesystem::temp_directory_path() / "essais été XXXXXX").string();
-        if (::mkdtemp(modele.data()) == nullptr)
-            std::abort();
-        chemin_ = modele;
-    }
+    DossierTemporaire() = default;
     DossierTemporaire(const DossierTemporaire&) = delete;
     DossierTemporaire& operator=(const DossierTemporaire&) = delete;
     ~DossierTemporaire() {
@@ -28,7 +24,7 @@ class DossierTemporaire {
 
     [[nodiscard]] const std::filesystem::path& chemin() const { return chemin_; }
     void ecrire(const std::string& nom, const std::string& octets) const {
-        std::ofstream(chemin_ / nom, std::ios::binary) << octets;
+        std::ofstream(chemin_ / common::chemin(nom), std::ios::binary) << octets;
     }
     /// The names in the folder, in order.
     [[nodiscard]] std::vector<std::string> noms() const {
@@ -39,12 +35,12 @@ class DossierTemporaire {
         return lus;
     }
     [[nodiscard]] std::string lire(const std::string& nom) const {
-        std::ifstream flux(chemin_ / nom, std::ios::binary);
+        std::ifstream flux(chemin_ / common::chemin(nom), std::ios::binary);
         return {std::istreambuf_iterator<char>(flux), {}};
     }
 
   private:
-    std::filesystem::path chemin_;
+    std::filesystem::path chemin_ = dossierneuf("essais été ");
 };
 
 }  // namespace essais

@@ -1,44 +1,15 @@
 #include <algorithm>
-#include <csignal>
-#include <fcntl.h>
-#include <grp.h>
 #include <string>
-#include <sys/file.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 #include <gmock/gmock.h>
 
 #include "appelsdessai.h"
+#include "chemin.h"
 #include "disquereel.h"
 #include "dossiertemporaire.h"
 
 namespace {
-
-/// No file may grow past a size while this lives, as on a full disk.
-class Plafond {
-  public:
-    explicit Plafond(rlim_t octets) {
-        ancienne_ = std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &avant_);
-        auto limite = avant_;
-        limite.rlim_cur = octets;
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    Plafond(const Plafond&) = delete;
-    Plafond& operator=(const Plafond&) = delete;
-    ~Plafond() {
-        ::setrlimit(RLIMIT_FSIZE, &avant_);
-        std::signal(SIGXFSZ, ancienne_);
-    }
-
-  private:
-    rlimit avant_{};
-    void (*ancienne_)(int);
-};
 
 class DisqueReel : public testing::Test {
   protected:
@@ -81,43 +52,24 @@ TEST_F(DisqueReel, ajouter_rien_ne_finit_pas_une_ligne_inachevee) {
     EXPECT_EQ(dossier.lire("f.txt"), "A");
 }
 
-TEST_F(DisqueReel, un_ajout_qui_echoue_laisse_le_fichier_tel_quel) {
-    dossier.ecrire("f.txt", "AB;BA\r\n");
-    const Plafond plafond(10);
-    EXPECT_TRUE(disque.ajouter("f.txt", "CD;DC\r\n"));
-    EXPECT_EQ(dossier.lire("f.txt"), "AB;BA\r\n");
-}
-
-TEST_F(DisqueReel, un_premier_ajout_qui_echoue_ne_laisse_pas_de_fichier) {
-    {
-        const Plafond plafond(2);
-        EXPECT_TRUE(disque.ajouter("f.txt", "CD;DC\r\n"));
-    }
-    EXPECT_FALSE(disque.existe("f.txt"));
+/// Appends when the light is green; says when it is about to.
+int ajouterauvert(const essais::Mots& mots) {
+    const auto racine = common::chemin(mots[0]);
+    essais::AppelsPatients patients;
+    common::DisqueReel patient(racine, patients);
+    essais::attendrefichier(racine / "feu");
+    return patient.ajouter("f.txt", "C\r\n") ? 1 : 0;
 }
 
 TEST_F(DisqueReel, un_ajout_suit_le_fichier_qu_un_autre_programme_remplace) {
     dossier.ecrire("f.txt", "A\r\n");
-    int feu[2];
-    ASSERT_EQ(::pipe(feu), 0);
-    const auto pid = ::fork();
-    if (pid == 0) {
-        char vert = 0;
-        const bool parti = ::read(feu[0], &vert, 1) == 1;
-        essais::AppelsPatients patients;
-        common::DisqueReel patient(dossier.chemin(), patients);
-        ::_exit(parti && !patient.ajouter("f.txt", "C\r\n") ? 0 : 1);
-    }
+    essais::Enfant autre(ajouterauvert, {dossier.chemin().string()});
     std::unique_ptr<common::Verrou> verrou;
     EXPECT_FALSE(disque.verrouiller("f.txt", verrou));
-    EXPECT_EQ(::write(feu[1], "v", 1), 1);
+    dossier.ecrire("feu", "");
     EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
     verrou.reset();
-    int statut = -1;
-    ::waitpid(pid, &statut, 0);
-    EXPECT_EQ(statut, 0);
-    ::close(feu[0]);
-    ::close(feu[1]);
+    EXPECT_EQ(autre.attendre(), 0);
     EXPECT_EQ(dossier.lire("f.txt"), "B\r\nC\r\n");
 }
 
@@ -128,20 +80,6 @@ TEST_F(DisqueReel, ce_qui_manque_ou_n_est_pas_un_fichier_ne_se_verrouille_pas) {
     EXPECT_FALSE(disque.creerdossier("d"));
     EXPECT_EQ(disque.verrouiller("d", verrou), std::errc::is_a_directory);
     EXPECT_EQ(verrou, nullptr);
-}
-
-TEST_F(DisqueReel, un_remplacement_qui_echoue_laisse_l_ancien_et_rien_d_autre) {
-    dossier.ecrire("f.txt", "ancien");
-    {
-        const Plafond plafond(10);
-        EXPECT_TRUE(disque.remplacer("f.txt", std::string(100, 'x')));
-    }
-    EXPECT_EQ(dossier.lire("f.txt"), "ancien");
-    int fichiers = 0;
-    for ([[maybe_unused]] const auto& fichier :
-         std::filesystem::directory_iterator(dossier.chemin()))
-        ++fichiers;
-    EXPECT_EQ(fichiers, 1);
 }
 
 TEST_F(DisqueReel, une_ecriture_sur_un_dossier_ou_dans_un_dossier_absent_echoue) {
@@ -185,106 +123,91 @@ TEST_F(DisqueReel, supprimer_un_fichier_et_rien) {
     EXPECT_EQ(disque.supprimer("f.txt"), std::errc::no_such_file_or_directory);
 }
 
+constexpr int ajouts = 50;
+
+std::string lignede(int programme) {
+    return std::string(3000, static_cast<char>('a' + programme)) + "\r\n";
+}
+
+int ajouterlignes(const essais::Mots& mots) {
+    essais::AppelsPatients patients;
+    common::DisqueReel patient(common::chemin(mots[0]), patients);
+    bool bon = true;
+    for (int i = 0; i < ajouts; ++i)
+        bon = bon && !patient.ajouter("f.txt", lignede(std::stoi(mots[1])));
+    return bon ? 0 : 1;
+}
+
 TEST_F(DisqueReel, deux_programmes_qui_ajoutent_ensemble_ne_se_coupent_pas) {
-    constexpr int programmes = 2;
-    constexpr int ajouts = 50;
-    const auto ligne = [](int programme) {
-        return std::string(3000, static_cast<char>('a' + programme)) + "\r\n";
-    };
-    for (int programme = 0; programme < programmes; ++programme) {
-        if (::fork() != 0)
-            continue;
-        bool bon = true;
-        essais::AppelsPatients patients;
-        common::DisqueReel patient(dossier.chemin(), patients);
-        for (int i = 0; i < ajouts; ++i)
-            bon = bon && !patient.ajouter("f.txt", ligne(programme));
-        ::_exit(bon ? 0 : 1);
-    }
-    for (int programme = 0; programme < programmes; ++programme) {
-        int statut = -1;
-        ::wait(&statut);
-        EXPECT_EQ(statut, 0);
-    }
+    const auto racine = dossier.chemin().string();
+    essais::Enfant un(ajouterlignes, {racine, "0"});
+    essais::Enfant deux(ajouterlignes, {racine, "1"});
+    EXPECT_EQ(un.attendre(), 0);
+    EXPECT_EQ(deux.attendre(), 0);
     const auto octets = dossier.lire("f.txt");
-    const auto taille = ligne(0).size();
-    ASSERT_EQ(octets.size(), taille * programmes * ajouts);
+    const auto taille = lignede(0).size();
+    ASSERT_EQ(octets.size(), taille * 2 * ajouts);
     for (std::size_t i = 0; i < octets.size(); i += taille)
-        ASSERT_EQ(octets.substr(i, taille), ligne(octets[i] - 'a'));
+        ASSERT_EQ(octets.substr(i, taille), lignede(octets[i] - 'a'));
 }
 
-/// A FIFO, a socket or a device in the place of a file.
-class Faux : public DisqueReel, public testing::WithParamInterface<const char*> {
-  protected:
-    Faux() {
-        const auto chemin = dossier.chemin() / "f.txt";
-        if (std::string(GetParam()) == "tube")
-            EXPECT_EQ(::mkfifo(chemin.c_str(), 0666), 0);
-        else if (std::string(GetParam()) == "prise")
-            EXPECT_EQ(::mknod(chemin.c_str(), S_IFSOCK | 0666, 0), 0);
-        else
-            std::filesystem::create_symlink("/dev/zero", chemin);
-    }
-};
-
-TEST_P(Faux, fichier_se_dit_aussitot) {
-    std::unique_ptr<common::Flux> flux;
+int tenirtantqu(const essais::Mots& mots) {
+    const auto racine = common::chemin(mots[0]);
+    common::DisqueReel disque(racine);
     std::unique_ptr<common::Verrou> verrou;
-    EXPECT_EQ(disque.ouvrir("f.txt", flux), common::Ennui::PasUnFichier);
-    EXPECT_EQ(disque.ajouter("f.txt", "A\r\n"), common::Ennui::PasUnFichier);
-    EXPECT_EQ(disque.ajouter("f.txt", ""), common::Ennui::PasUnFichier);
-    EXPECT_EQ(disque.remplacer("f.txt", "A\r\n"), common::Ennui::PasUnFichier);
-    EXPECT_EQ(disque.verrouiller("f.txt", verrou), common::Ennui::PasUnFichier);
-    EXPECT_EQ(common::raison(common::Ennui::PasUnFichier), "ce n'est pas un fichier ordinaire");
-    EXPECT_EQ(dossier.noms(), std::vector<std::string>{"f.txt"});
+    if (disque.verrouiller("f.txt", verrou) || disque.remplacer("tenu", ""))
+        return 1;
+    essais::attendrefichier(racine / "mort");
+    essais::mourir();
+    return 0;
 }
-INSTANTIATE_TEST_SUITE_P(Table, Faux, testing::Values("tube", "prise", "peripherique"),
-                         [](const auto& cas) { return std::string(cas.param); });
 
-/// Another program's lock, a reader's or a writer's.
-class Retenu : public DisqueReel, public testing::WithParamInterface<int> {
-  protected:
-    Retenu() {
-        dossier.ecrire("f.txt", "A\r\n");
-        numero_ = ::open((dossier.chemin() / "f.txt").c_str(), O_RDONLY | O_CLOEXEC);
-        EXPECT_EQ(::flock(numero_, GetParam()), 0);
-    }
-    ~Retenu() override { lacher(); }
-    void lacher() {
-        if (numero_ >= 0)
-            ::close(numero_);
-        numero_ = -1;
-    }
-
-  private:
-    int numero_ = -1;
-};
-
-TEST_P(Retenu, fichier_se_dit_au_bout_de_cinq_secondes) {
-    std::unique_ptr<common::Verrou> verrou;
+TEST_F(DisqueReel, le_verrou_d_un_programme_tue_tombe_avec_lui) {
+    dossier.ecrire("f.txt", "A\r\n");
+    essais::Enfant autre(tenirtantqu, {dossier.chemin().string()});
+    essais::attendrefichier(dossier.chemin() / "tenu");
     EXPECT_EQ(disque.ajouter("f.txt", "B\r\n"), common::Ennui::Retenu);
     EXPECT_EQ(appels.attendu, 5000);
-    EXPECT_EQ(disque.verrouiller("f.txt", verrou), common::Ennui::Retenu);
-    EXPECT_EQ(appels.attendu, 10000);
-    EXPECT_EQ(dossier.lire("f.txt"), "A\r\n");
-    EXPECT_EQ(common::raison(common::Ennui::Retenu),
-              "un autre programme le retient ; la limite d'attente est de 5 secondes. Fermez "
-              "l'autre programme et recommencez");
-    lacher();
-    EXPECT_FALSE(disque.ajouter("f.txt", "B\r\n"));
-    EXPECT_EQ(appels.attendu, 10000);
+    std::unique_ptr<common::Flux> flux;
+    EXPECT_FALSE(disque.ouvrir("f.txt", flux));
+    dossier.ecrire("mort", "");
+    EXPECT_EQ(autre.attendre(), essais::tue);
+    essais::AppelsPatients patients;
+    flux.reset();
+    EXPECT_FALSE(common::DisqueReel(dossier.chemin(), patients).ajouter("f.txt", "B\r\n"));
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
 }
 
-TEST_P(Retenu, fichier_se_lit_et_se_remplace) {
-    std::unique_ptr<common::Flux> flux;
-    EXPECT_FALSE(disque.ouvrir("f.txt", flux));
-    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
-    EXPECT_EQ(appels.attendu, 0);
+/// A disk with room for so many bytes.
+class Disqueplein : public essais::AppelsDessai {
+  public:
+    explicit Disqueplein(std::size_t place) : place_(place) {}
+    std::error_code ecrire(common::Poignee poignee, std::string_view octets,
+                           std::size_t& ecrits) override {
+        if (place_ == 0)
+            return std::make_error_code(std::errc::no_space_on_device);
+        const auto erreur = AppelsDessai::ecrire(poignee, octets.substr(0, place_), ecrits);
+        place_ -= ecrits;
+        return erreur;
+    }
+
+  private:
+    std::size_t place_;
+};
+
+TEST_F(DisqueReel, un_disque_plein_laisse_l_ancien_et_rien_d_autre) {
+    dossier.ecrire("f.txt", "ancien\r\n");
+    for (const std::size_t place : {0U, 1U, 9U}) {
+        Disqueplein plein(place);
+        common::DisqueReel etroit(dossier.chemin(), plein);
+        EXPECT_EQ(etroit.ajouter("f.txt", "suite\r\n"), std::errc::no_space_on_device);
+        EXPECT_EQ(etroit.remplacer("f.txt", "tout autre\r\n"), std::errc::no_space_on_device);
+        EXPECT_EQ(etroit.deposer("f.txt", std::string(20, 'x')), std::errc::no_space_on_device);
+        EXPECT_EQ(etroit.ajouter("g.txt", std::string(20, 'x')), std::errc::no_space_on_device);
+        EXPECT_EQ(dossier.lire("f.txt"), "ancien\r\n");
+        EXPECT_EQ(dossier.noms(), std::vector<std::string>{"f.txt"});
+    }
 }
-INSTANTIATE_TEST_SUITE_P(Table, Retenu, testing::Values(LOCK_SH, LOCK_EX), [](const auto& cas) {
-    return cas.param == LOCK_SH ? "en_lecture" : "en_ecriture";
-});
 
 /// Another program's lease, which a file server takes: opening is refused until it is given back.
 class Bail : public essais::AppelsDessai {
@@ -346,70 +269,9 @@ TEST_F(DisqueReel, les_octets_puis_le_nom_sont_mis_a_l_abri) {
     EXPECT_EQ(appels.journal.back(), "synchroniserdossier");
 }
 
-TEST_F(DisqueReel, un_fichier_remplace_garde_son_mode) {
-    dossier.ecrire("f.txt", "A\r\n");
-    const auto chemin = dossier.chemin() / "f.txt";
-    const auto mode = [&] { return std::filesystem::status(chemin).permissions(); };
-    const auto prive = static_cast<std::filesystem::perms>(0604);
-    std::filesystem::permissions(chemin, prive);
-    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
-    EXPECT_EQ(mode(), prive);
-    EXPECT_FALSE(disque.ajouter("f.txt", "C\r\n"));
-    EXPECT_EQ(mode(), prive);
-    EXPECT_EQ(dossier.lire("f.txt"), "B\r\nC\r\n");
-}
-
-TEST_F(DisqueReel, le_fichier_d_un_autre_garde_son_groupe) {
-    if (::geteuid() != 0)
-        GTEST_SKIP() << "only the administrator can make a file of another";
-    constexpr uid_t autre = 12345;
-    constexpr uid_t joueur = 12346;
-    constexpr gid_t commun = 12347;
-    dossier.ecrire("f.txt", "A\r\n");
-    const auto chemin = dossier.chemin() / "f.txt";
-    ASSERT_EQ(::chown(chemin.c_str(), autre, commun), 0);
-    ASSERT_EQ(::chmod(chemin.c_str(), 0660), 0);
-    ASSERT_EQ(::chmod(dossier.chemin().c_str(), 0777), 0);
-    EXPECT_EQ(essais::enfant([&] {
-                  // From inside: the folders around may be closed to the player.
-                  if (::chdir(dossier.chemin().c_str()) != 0 || ::setgroups(1, &commun) != 0 ||
-                      ::setgid(joueur) != 0 || ::setuid(joueur) != 0)
-                      return 2;
-                  return common::DisqueReel().ajouter("f.txt", "B\r\n") ? 1 : 0;
-              }),
-              0);
-    struct stat lu = {};
-    ASSERT_EQ(::stat(chemin.c_str(), &lu), 0);
-    EXPECT_EQ(lu.st_gid, commun);
-    EXPECT_EQ(lu.st_mode & 0777U, 0660U);
-    EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
-}
-
-TEST_F(DisqueReel, un_lien_reste_et_ce_qu_il_designe_change) {
-    EXPECT_FALSE(disque.creerdossier("ailleurs"));
-    dossier.ecrire("ailleurs/f.txt", "A\r\n");
-    std::filesystem::create_symlink("ailleurs/g.txt", dossier.chemin() / "f.txt");
-    std::filesystem::create_symlink("f.txt", dossier.chemin() / "ailleurs" / "g.txt");
-    EXPECT_FALSE(disque.remplacer("f.txt", "B\r\n"));
-    EXPECT_EQ(dossier.lire("ailleurs/f.txt"), "B\r\n");
-    EXPECT_FALSE(disque.ajouter("f.txt", "C\r\n"));
-    EXPECT_EQ(dossier.lire("ailleurs/f.txt"), "B\r\nC\r\n");
-    EXPECT_TRUE(std::filesystem::is_symlink(dossier.chemin() / "f.txt"));
-    EXPECT_TRUE(std::filesystem::is_symlink(dossier.chemin() / "ailleurs" / "g.txt"));
-    std::filesystem::remove(dossier.chemin() / "ailleurs" / "f.txt");
-    EXPECT_FALSE(disque.ajouter("f.txt", "D\r\n"));
-    EXPECT_EQ(dossier.lire("ailleurs/f.txt"), "D\r\n");
-}
-
-TEST_F(DisqueReel, des_liens_en_rond_se_disent) {
-    std::filesystem::create_symlink("g.txt", dossier.chemin() / "f.txt");
-    std::filesystem::create_symlink("f.txt", dossier.chemin() / "g.txt");
-    EXPECT_EQ(disque.remplacer("f.txt", "A"), std::errc::too_many_symbolic_link_levels);
-}
-
 TEST_F(DisqueReel, le_reste_d_un_programme_disparu_s_ote_a_la_prochaine_ecriture) {
     dossier.ecrire("f.txt.1234.tmp", "A");
-    dossier.ecrire("f.txt." + std::to_string(::getpid()) + ".tmp", "A");
+    dossier.ecrire("f.txt." + std::to_string(appels.programme()) + ".tmp", "A");
     const std::vector<std::string> autres{"f.txt", "f.txt.tmp", "f.txt.x.tmp", "g.txt.12.tmp"};
     for (const auto& nom : autres)
         dossier.ecrire(nom, "A");

@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include "appelsdessai.h"
+#include "disquereel.h"
+#include "dossiertemporaire.h"
 #include "lignes.h"
 
 namespace {
@@ -50,6 +53,39 @@ TEST(Lignes, de_memoire_sont_des_vues_des_octets) {
     common::Lignes(octets).chaque([&](std::string_view ligne, std::size_t numero) {
         EXPECT_EQ(ligne.data(), octets.data() + 5 * (numero - 1));
     });
+}
+
+/// Counts the files that are open.
+class Compteur : public essais::AppelsDessai {
+  public:
+    int ouverts = 0;
+    std::error_code ouvrir(const Chemin& chemin, common::Ouverture mode,
+                           common::Poignee& poignee) override {
+        const auto erreur = AppelsDessai::ouvrir(chemin, mode, poignee);
+        ouverts += erreur ? 0 : 1;
+        return erreur;
+    }
+    void fermer(common::Poignee poignee) override {
+        AppelsDessai::fermer(poignee);
+        --ouverts;
+    }
+};
+
+/// As a file has to be where it cannot be replaced while it is open.
+TEST(Lignes, lues_jusqu_au_bout_le_fichier_est_ferme) {
+    const essais::DossierTemporaire dossier;
+    Compteur appels;
+    common::DisqueReel disque(dossier.chemin(), appels);
+    for (const auto* octets : {"", "A", "A\r\nB\r\n"}) {
+        dossier.ecrire("f.txt", octets);
+        common::Items items(disque, "f.txt", "Essai");
+        EXPECT_EQ(appels.ouverts, 1);
+        for (std::string_view item; items.lireitem(item);)
+            EXPECT_FALSE(item.empty());
+        EXPECT_EQ(appels.ouverts, 0) << octets;
+        std::string_view rien;
+        EXPECT_FALSE(items.lireitem(rien));
+    }
 }
 
 TEST(Items, de_memoire_sont_ceux_d_un_fichier) {

@@ -41,12 +41,6 @@ TEST_F(Dossierprogramme, est_le_dossier_de_travail_si_rien_ne_s_ecrit_dans_l_aut
     EXPECT_EQ(chercher(""), "");
 }
 
-TEST_F(Dossierprogramme, d_un_nom_a_barre_inverse_ne_se_dit_pas) {
-    const auto dossier = programme.chemin() / "a\\b";
-    std::filesystem::create_directory(dossier);
-    EXPECT_EQ(chercher(dossier), "");
-}
-
 TEST_F(Dossierprogramme, ne_garde_rien_de_l_essai) {
     EXPECT_NE(chercher(programme.chemin()), "");
     EXPECT_TRUE(std::filesystem::is_empty(programme.chemin()));
@@ -55,7 +49,7 @@ TEST_F(Dossierprogramme, ne_garde_rien_de_l_essai) {
 TEST_F(Dossierprogramme, ne_garde_rien_d_un_essai_interrompu) {
     int morts = 0;
     for (int statut = essais::tue; statut == essais::tue; ++morts) {
-        statut = essais::enfant([&] {
+        statut = essais::encopie([&] {
             appels.prevoir(essais::Panne::Avant, morts + 1);
             static_cast<void>(chercher(programme.chemin()));
             return 0;
@@ -64,6 +58,36 @@ TEST_F(Dossierprogramme, ne_garde_rien_d_un_essai_interrompu) {
     EXPECT_GT(morts, 2);
     EXPECT_NE(chercher(programme.chemin()), "");
     EXPECT_TRUE(std::filesystem::is_empty(programme.chemin()));
+}
+
+class Remettrelistes : public testing::Test {
+  protected:
+    Remettrelistes() {
+        std::filesystem::create_directories(dossier.chemin() / ".nouvelles-listes" /
+                                            "listes-anciennes");
+        dossier.ecrire(".nouvelles-listes/listes-anciennes/a.txt", "vieux");
+    }
+    essais::DossierTemporaire dossier;
+    essais::AppelsDessai appels;
+};
+
+TEST_F(Remettrelistes, rend_celles_qu_une_fabrication_tuee_avait_ecartees) {
+    EXPECT_FALSE(common::remettrelistes(appels, dossier.chemin()));
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux");
+    EXPECT_FALSE(common::remettrelistes(appels, dossier.chemin()));
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux");
+}
+
+TEST_F(Remettrelistes, laisse_celles_qui_sont_venues) {
+    std::filesystem::create_directory(dossier.chemin() / "listes");
+    dossier.ecrire("listes/a.txt", "neuf");
+    EXPECT_FALSE(common::remettrelistes(appels, dossier.chemin()));
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "neuf");
+}
+
+TEST_F(Remettrelistes, ne_fait_rien_d_un_dossier_sans_listes) {
+    EXPECT_FALSE(common::remettrelistes(appels, dossier.chemin() / "absent"));
+    EXPECT_FALSE(std::filesystem::exists(dossier.chemin() / "absent"));
 }
 
 }  // namespace

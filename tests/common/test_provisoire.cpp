@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <string>
-#include <sys/stat.h>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -23,9 +22,17 @@ class Disquepauvre : public essais::AppelsDessai {
     bool sansrefus = false;       ///< `nommer` is unknown
     bool sansdoubles = false;     ///< and so are second names
     bool suppressionrefusee = false;
+    std::uint32_t droits = 0;  ///< of the files that have a name; 0: what they are
 
-    std::error_code changerdroits(common::Poignee poignee, std::uint32_t droits) override {
-        const auto erreur = AppelsDessai::changerdroits(poignee, droits);
+    using AppelsDessai::etat;
+    std::error_code etat(const Chemin& chemin, common::Etat& etat) override {
+        const auto erreur = AppelsDessai::etat(chemin, etat);
+        if (droits != 0)
+            etat.droits = droits;
+        return erreur;
+    }
+    std::error_code changerdroits(common::Poignee poignee, std::uint32_t demandes) override {
+        const auto erreur = AppelsDessai::changerdroits(poignee, demandes);
         return sansmodes ? sansmodes : erreur;
     }
     std::error_code nommer(const Chemin& ancien, const Chemin& nouveau) override {
@@ -51,10 +58,6 @@ class Provisoire : public testing::Test {
     [[nodiscard]] bool appele(std::string_view appel) const {
         return place(appel) != std::ssize(appels.journal);
     }
-    void donnerdroits(mode_t droits) const {
-        ASSERT_EQ(::chmod((dossier.chemin() / "f.txt").c_str(), droits), 0);
-    }
-
     essais::DossierTemporaire dossier;
     Disquepauvre appels;
     common::DisqueReel disque{dossier.chemin(), appels};
@@ -63,7 +66,7 @@ class Provisoire : public testing::Test {
 
 TEST_F(Provisoire, un_disque_sans_modes_s_ecrit) {
     dossier.ecrire("f.txt", "A");
-    donnerdroits(0604);
+    appels.droits = 0604;
     for (const auto sans : {std::errc::not_supported, std::errc::operation_not_supported,
                             std::errc::function_not_supported}) {
         appels.sansmodes = std::make_error_code(sans);
@@ -74,7 +77,7 @@ TEST_F(Provisoire, un_disque_sans_modes_s_ecrit) {
 
 TEST_F(Provisoire, un_mode_refuse_est_un_echec_et_ne_change_rien) {
     dossier.ecrire("f.txt", "A");
-    donnerdroits(0604);
+    appels.droits = 0604;
     appels.sansmodes = std::make_error_code(std::errc::operation_not_permitted);
     EXPECT_EQ(disque.remplacer("f.txt", "B"), std::errc::operation_not_permitted);
     EXPECT_EQ(dossier.lire("f.txt"), "A");
@@ -90,7 +93,7 @@ TEST_F(Provisoire, un_mode_qui_convient_n_est_pas_demande) {
 
 TEST_F(Provisoire, le_mode_vient_avant_les_octets) {
     dossier.ecrire("f.txt", "A");
-    donnerdroits(0600);
+    appels.droits = 0600;
     appels.journal.clear();
     EXPECT_FALSE(disque.remplacer("f.txt", "B"));
     ASSERT_TRUE(appele("changerdroits"));
@@ -136,7 +139,7 @@ TEST_F(Provisoire, tue_entre_ses_deux_noms_il_laisse_l_avant_ou_l_apres) {
     for (int statut = essais::tue; statut == essais::tue; ++rang) {
         SCOPED_TRACE(rang);
         std::filesystem::remove(dossier.chemin() / "f.txt");
-        statut = essais::enfant([&] {
+        statut = essais::encopie([&] {
             appels.prevoir(essais::Panne::Avant, rang);
             return disque.ajouter("f.txt", "A\r\n") ? 1 : 0;
         });

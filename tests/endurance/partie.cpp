@@ -4,6 +4,8 @@
 #include <tuple>
 #include <utility>
 
+#include "chemin.h"
+
 namespace endurance {
 
 Partie::Partie(const std::filesystem::path& jeu)
@@ -51,7 +53,7 @@ bool Partie::donner(const std::string& ordre, const std::vector<std::string>& li
 std::vector<std::string> Partie::lignesde(const std::string& chemin) const {
     auto systeme = chemin;
     std::replace(systeme.begin(), systeme.end(), '\\', '/');
-    return leslignes(machine_.dossier.chemin() / systeme);
+    return leslignes(machine_.dossier.chemin() / common::chemin(systeme));
 }
 
 Fichiers Partie::lirefichiers(const std::string& revision) const {

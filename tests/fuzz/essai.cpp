@@ -8,6 +8,7 @@
 #include <functional>
 #include <iterator>
 
+#include "chemin.h"
 #include "faute.h"
 #include "mutation.h"
 
@@ -51,7 +52,7 @@ void PrintTo(const Lecteur& lecteur, std::ostream* sortie) {
 }
 
 std::string corpus(const std::string& nom) {
-    std::ifstream flux(dossier / nom, std::ios::binary);
+    std::ifstream flux(dossier / common::chemin(nom), std::ios::binary);
     EXPECT_TRUE(flux) << nom;
     return {std::istreambuf_iterator<char>(flux), {}};
 }

@@ -21,14 +21,14 @@ class Installe {
     void installer(const Contenu& fichiers) const {
         std::filesystem::remove_all(fournis());
         for (const auto& [nom, octets] : fichiers)
-            ecrire(fournis() / nom, octets);
+            ecrire(fournis() / common::chemin(nom), octets);
         auto inventaire = installation::inventorier(fournis());
         inventaire.version = installation::versionde("2.68", inventaire.fichiers);
         ecrire(fournis() / installation::fichierinventaire, installation::ecrire(inventaire));
     }
     /// What the player does to a file of his.
     void jouer(const std::string& nom, const std::string& octets) const {
-        ecrire(jeu() / nom, octets);
+        ecrire(jeu() / common::chemin(nom), octets);
     }
     /// The play folder as it is, without what the program keeps for itself there.
     [[nodiscard]] Contenu contenu() const {
@@ -43,6 +43,9 @@ class Installe {
         return lus;
     }
 
+    [[nodiscard]] const std::filesystem::path& racine() const { return dossier_.chemin(); }
+    /// Lets the programs go that wait for the file `feu`.
+    void allumer() const { dossier_.ecrire("feu", ""); }
     [[nodiscard]] std::filesystem::path programme() const {
         return dossier_.chemin() / "usr/games";
     }

@@ -1,6 +1,6 @@
 // A play folder that is brought up to date by a program that is killed, refused or not alone.
 
-#include <array>
+#include <deque>
 #include <optional>
 
 #include <gtest/gtest.h>
@@ -54,7 +54,7 @@ void preparerjeu(const essais::Installe& installe, bool premiere) {
 
 /// The start of a program at whose call of that rank it breaks; nothing if it came to its end.
 std::optional<int> demarrer(const essais::Installe& installe, Panne panne, int rang) {
-    const int statut = essais::enfant([&] {
+    const int statut = essais::encopie([&] {
         essais::AppelsDessai appels;
         appels.prevoir(panne, rang);
         try {
@@ -141,38 +141,55 @@ INSTANTIATE_TEST_SUITE_P(Coupures, Refus,
                                          Cas{"ensuite", Panne::Refus, false}),
                          [](const auto& rangee) { return rangee.param.nom; });
 
-/// Both start at the same moment; whoever comes second waits and finds the work done.
-TEST(Ensemble, deux_programmes_apportent_une_seule_fois) {
+int demarreraufeu(const essais::Mots& mots) {
+    const auto racine = common::chemin(mots[0]);
+    essais::attendrefichier(racine / "feu");
+    essais::AppelsPatients appels;
+    try {
+        static_cast<void>(installation::preparer(
+            appels, {racine / "usr/games", racine / "maison/joueur/orvane"}));
+    } catch (const common::Faute&) {
+        return 1;
+    }
+    return 0;
+}
+
+/// All start at the same moment; whoever comes second waits and finds the work done.
+TEST(Ensemble, plusieurs_programmes_apportent_une_seule_fois) {
+    constexpr int nbprogrammes = 4;
     for (const bool premiere : {true, false}) {
         const essais::Installe installe;
         preparerjeu(installe, premiere);
-        std::array<int, 2> feu{};
-        ASSERT_EQ(::pipe(feu.data()), 0);
-        std::array<pid_t, 4> programmes{};
-        for (auto& pid : programmes) {
-            pid = ::fork();
-            if (pid != 0)
-                continue;
-            ::close(feu[1]);
-            char rien = 0;
-            const auto vert = ::read(feu[0], &rien, 1);  // the end of the pipe
-            essais::AppelsPatients appels;
-            try {
-                static_cast<void>(installation::preparer(appels, installe.environs()));
-            } catch (const common::Faute&) {
-                ::_exit(1);
-            }
-            ::_exit(vert == 0 ? 0 : 2);
-        }
-        ::close(feu[1]);
-        ::close(feu[0]);
-        for (const auto pid : programmes) {
-            int statut = -1;
-            ::waitpid(pid, &statut, 0);
-            EXPECT_EQ(statut, 0);
-        }
+        std::deque<essais::Enfant> programmes;
+        for (int i = 0; i < nbprogrammes; ++i)
+            programmes.emplace_back(demarreraufeu, essais::Mots{installe.racine().string()});
+        installe.allumer();
+        for (auto& programme : programmes)
+            EXPECT_EQ(programme.attendre(), 0);
         EXPECT_EQ(installe.contenu(), premiere ? nouvelle : ajouterjoueur(nouvelle));
         EXPECT_FALSE(std::filesystem::exists(installe.jeu() / installation::dossierattente));
+    }
+}
+
+int mouriraurang(const essais::Mots& mots) {
+    const auto racine = common::chemin(mots[0]);
+    essais::AppelsDessai appels;
+    appels.prevoir(Panne::Avant, std::stoi(mots[1]));
+    static_cast<void>(
+        installation::preparer(appels, {racine / "usr/games", racine / "maison/joueur/orvane"}));
+    return 0;
+}
+
+/// The same as of the sweep above, by programs that do end, whatever the system.
+TEST(Tue, pour_de_bon_il_se_reprend_au_demarrage_suivant) {
+    for (const int rang : {1, 5, 15, 25}) {
+        const essais::Installe installe;
+        preparerjeu(installe, false);
+        EXPECT_EQ(essais::enfant(mouriraurang, {installe.racine().string(), std::to_string(rang)}),
+                  essais::tue);
+        verifiercoupe(installe, ajouterjoueur(ancienne), ajouterjoueur(nouvelle));
+        EXPECT_FALSE(demarrer(installe, Panne::Aucune, 0));
+        EXPECT_EQ(installe.contenu(), ajouterjoueur(nouvelle));
     }
 }
 

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "appelsdessai.h"
 #include "dossiertemporaire.h"
@@ -9,37 +9,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Maison {
-    const char* nom;
-    const char* donnees;
-    const char* maison;
-    const char* attendu;
-};
-class Donneesxdg : public testing::TestWithParam<Maison> {};
-TEST_P(Donneesxdg, est_le_dossier) {
-    EXPECT_EQ(installation::donneesxdg(GetParam().donnees, GetParam().maison), GetParam().attendu);
-}
-INSTANTIATE_TEST_SUITE_P(
-    Lieux, Donneesxdg,
-    testing::Values(Maison{"dites", "/d", "/home/a", "/d/orvane"},
-                    Maison{"non_dites", nullptr, "/home/a", "/home/a/.local/share/orvane"},
-                    Maison{"vides", "", "/home/a", "/home/a/.local/share/orvane"},
-                    Maison{"relatives", "d", "/home/a", "/home/a/.local/share/orvane"},
-                    Maison{"accents", nullptr, "/home/zoé d'été",
-                           "/home/zoé d'été/.local/share/orvane"},
-                    Maison{"sans_maison", nullptr, nullptr, ""},
-                    Maison{"maison_relative", nullptr, "ici", ""}),
-    [](const auto& rangee) { return rangee.param.nom; });
-
 class Choisir : public testing::Test {
   protected:
     Choisir() { fs::create_directories(programme); }
     [[nodiscard]] installation::Lieu choisir() {
         return installation::choisir(appels, {programme, donnees});
     }
-    void installer() const {
-        fs::create_directories(fournis);
-        dossier.ecrire("usr/share/games/orvane/inventaire.txt", "1\n");
+    void installer(const char* ou = "usr/share/games/orvane") const {
+        fs::create_directories(dossier.chemin() / ou);
+        dossier.ecrire(std::string(ou) + "/inventaire.txt", "1\n");
     }
 
     essais::DossierTemporaire dossier;
@@ -58,6 +36,29 @@ TEST_F(Choisir, un_programme_installe_va_chez_le_joueur) {
     const auto lieu = choisir();
     EXPECT_EQ(lieu.dossier, donnees);
     EXPECT_TRUE(fs::equivalent(lieu.fournis, fournis));
+}
+
+TEST_F(Choisir, un_programme_installe_ou_son_joueur_peut_ecrire_va_chez_lui) {
+    installer("usr/games/fournis");
+    fs::create_directory(programme / "fournis" / "listes");
+    const auto lieu = choisir();
+    EXPECT_EQ(lieu.dossier, donnees);
+    EXPECT_TRUE(fs::equivalent(lieu.fournis, programme / "fournis"));
+}
+
+TEST_F(Choisir, des_listes_a_cote_de_lui_l_emportent_sur_ce_qui_est_fourni) {
+    installer("usr/games/fournis");
+    fs::create_directory(programme / "listes");
+    EXPECT_EQ(choisir().dossier, programme);
+    EXPECT_TRUE(choisir().fournis.empty());
+}
+
+TEST_F(Choisir, des_listes_qu_une_fabrication_tuee_avait_ecartees_reviennent) {
+    installer();
+    fs::create_directories(programme / ".nouvelles-listes" / "listes-anciennes");
+    dossier.ecrire("usr/games/.nouvelles-listes/listes-anciennes/a.txt", "A");
+    EXPECT_EQ(choisir().dossier, programme);
+    EXPECT_EQ(dossier.lire("usr/games/listes/a.txt"), "A");
 }
 
 TEST_F(Choisir, un_programme_dans_son_dossier_de_jeu_y_reste) {
@@ -84,10 +85,23 @@ TEST_F(Choisir, un_fichier_nomme_listes_n_est_pas_un_dossier_de_jeu) {
     EXPECT_EQ(choisir().dossier, donnees);
 }
 
-TEST_F(Choisir, sans_maison_c_est_une_faute) {
+TEST_F(Choisir, sans_maison_c_est_une_faute_qui_dit_pourquoi) {
     installer();
-    donnees.clear();
-    EXPECT_THROW(static_cast<void>(choisir()), common::Faute);
+    try {
+        static_cast<void>(
+            installation::choisir(appels, {programme, {}, "LIEU n'est pas un dossier"}));
+        FAIL() << "no fault";
+    } catch (const common::Faute& faute) {
+        EXPECT_THAT(faute.what(), testing::HasSubstr("(LIEU n'est pas un dossier)"));
+    }
+}
+
+TEST(Environs, disent_ou_sont_les_donnees_du_joueur) {
+    const auto ici = installation::environs("ici");
+    EXPECT_EQ(ici.programme, "ici");
+    EXPECT_TRUE(ici.donnees.is_absolute());
+    EXPECT_THAT(ici.donnees.filename().string(), testing::StrCaseEq("orvane"));
+    EXPECT_NE(ici.sansdonnees, "");
 }
 
 }  // namespace

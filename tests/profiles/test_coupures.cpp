@@ -4,12 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "appelsdessai.h"
+#include "chemin.h"
 #include "form2.h"
 #include "hist.h"
 #include "lignes.h"
@@ -22,8 +21,9 @@ namespace {
 
 enum class Moment { Avant, Pendant, Apres };
 
-/// A disk that kills its program at the n-th thing it is asked to change. In the midst of putting a
-/// file in the place of another, the new one lies beside it; all else is one step of the system.
+/// A disk that kills its program at the n-th thing it is asked to change, and changes nothing more.
+/// In the midst of putting a file in the place of another, the new one lies beside it; all else is
+/// one step of the system.
 class Disquemortel : public common::DisqueReel {
   public:
     Disquemortel(std::filesystem::path racine, int rang, Moment moment)
@@ -49,11 +49,11 @@ class Disquemortel : public common::DisqueReel {
     std::error_code mourir(const Ecriture& ecriture) {
         const bool ici = --reste_ == 0;
         if (ici && moment_ != Moment::Apres)
-            ::_exit(essais::tue);
-        const auto erreur = ecriture();
+            essais::mourir();
+        const auto erreur = essais::mort() ? make_error_code(std::errc::io_error) : ecriture();
         if (ici)
-            ::_exit(essais::tue);
-        return erreur;
+            essais::mourir();
+        return essais::mort() ? make_error_code(std::errc::io_error) : erreur;
     }
 
     int reste_;
@@ -110,7 +110,7 @@ TEST_P(Coupure, garde_ce_qui_etait_ecrit) {
     const int rang = std::get<0>(GetParam());
     const auto moment = std::get<1>(GetParam());
     machine.ecrire("users.dat", "Paul\r\n");
-    EXPECT_EQ(essais::enfant([&] {
+    EXPECT_EQ(essais::encopie([&] {
                   Disquemortel disque(machine.dossier.chemin(), rang, moment);
                   jouer(disque);
                   return 0;
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Ecritures, Coupure,
 
 TEST(Coupures, la_table_les_tient_toutes) {
     essai::Machine machine;
-    EXPECT_EQ(essais::enfant([&] {
+    EXPECT_EQ(essais::encopie([&] {
                   Disquemortel disque(machine.dossier.chemin(), nbecritures + 1, Moment::Avant);
                   jouer(disque);
                   return 0;
@@ -156,30 +156,68 @@ TEST(Coupures, la_table_les_tient_toutes) {
               0);
 }
 
-/// Runs an action as two programs at once, which know their number.
-template <class Action>
-void adeux(const Action& action) {
-    const auto pid = ::fork();
-    if (pid == 0) {
-        action(1);
-        ::_exit(0);
+int jouerjusqua(const essais::Mots& mots) {
+    Disquemortel disque(common::chemin(mots[0]), std::stoi(mots[1]), Moment::Apres);
+    jouer(disque);
+    return 0;
+}
+
+/// As of the table above, by programs that do end, whatever the system.
+TEST(Coupures, pour_de_bon_gardent_ce_qui_etait_ecrit) {
+    for (const int rang : {1, nbecritures / 2, nbecritures}) {
+        essai::Machine machine;
+        machine.ecrire("users.dat", "Paul\r\n");
+        EXPECT_EQ(
+            essais::enfant(jouerjusqua, {machine.dossier.chemin().string(), std::to_string(rang)}),
+            essais::tue);
+        EXPECT_EQ(machine.lire("users.dat"), common::vers1252("Paul\r\nZoé\r\n"));
+        EXPECT_EQ(profiles::dossierexiste(machine.disque(), "Zoé"), rang > 1);
+        EXPECT_EQ(machine.lire(revision), rang < nbecritures ? "absent" : "AELV;LEVA\r\n");
     }
-    action(0);
-    int statut = -1;
-    ::waitpid(pid, &statut, 0);
-    EXPECT_EQ(statut, 0);
+}
+
+/// Runs an action as two programs at once, which know the play folder, their number, and what else
+/// they are told.
+void adeux(essais::Action action, const std::filesystem::path& jeu,
+           const essais::Mots& suite = {}) {
+    const auto mots = [&](const char* numero) {
+        essais::Mots tous{jeu.string(), numero};
+        tous.insert(tous.end(), suite.begin(), suite.end());
+        return tous;
+    };
+    essais::Enfant autre(action, mots("1"));
+    EXPECT_EQ(action(mots("0")), 0);
+    EXPECT_EQ(autre.attendre(), 0);
+}
+
+/// The disk of one of them.
+class Disquepatient {
+  public:
+    explicit Disquepatient(const essais::Mots& mots) : disque_(common::chemin(mots[0]), appels_) {}
+    [[nodiscard]] common::Disque& disque() { return disque_; }
+
+  private:
+    essais::AppelsPatients appels_;
+    common::DisqueReel disque_;
+};
+
+bool premier(const essais::Mots& mots) {
+    return mots[1] == "0";
+}
+
+constexpr int nbrecords = 150;
+
+int ajouterrecords(const essais::Mots& mots) {
+    Disquepatient patient(mots);
+    for (int i = 0; i < nbrecords; ++i)
+        profiles::ajouterhist(patient.disque(), "Zoé", std::string(41, premier(mots) ? 'a' : 'b'));
+    return 0;
 }
 
 TEST(Ajouts, de_deux_programmes_a_la_fois_ne_se_dechirent_pas) {
-    constexpr int nbrecords = 150;
     essai::Machine machine;
     machine.ecrire("Zoé\\hist.dat", "");
-    adeux([&](int programme) {
-        essais::AppelsPatients appels;
-        common::DisqueReel disque(machine.dossier.chemin(), appels);
-        for (int i = 0; i < nbrecords; ++i)
-            profiles::ajouterhist(disque, "Zoé", std::string(41, programme == 0 ? 'a' : 'b'));
-    });
+    adeux(ajouterrecords, machine.dossier.chemin());
     int a = 0;
     int b = 0;
     for (const auto& record : records(machine.disque())) {
@@ -194,29 +232,43 @@ TEST(Ajouts, de_deux_programmes_a_la_fois_ne_se_dechirent_pas) {
     EXPECT_EQ(b, nbrecords);
 }
 
+constexpr int nbutilisateurs = 60;
+
+/// Every third one is a user that both make.
+std::string utilisateur(bool premier, int i) {
+    return (i % 3 == 0 ? "commun " : premier ? "a " : "b ") + std::to_string(i);
+}
+
+int creerutilisateurs(const essais::Mots& mots) {
+    Disquepatient patient(mots);
+    for (int i = 0; i < nbutilisateurs; ++i) {
+        const auto nom = utilisateur(premier(mots), i);
+        if (!profiles::dossierexiste(patient.disque(), nom))
+            profiles::creerutilisateur(patient.disque(), nom);
+    }
+    return 0;
+}
+
 TEST(Creations, de_deux_programmes_a_la_fois_ne_se_melent_pas) {
-    constexpr int nbutilisateurs = 60;
     essai::Machine machine;
     machine.ecrire("users.dat", "");
-    const auto nom = [](int programme, int i) {
-        // Every third one is a user that both make.
-        return (i % 3 == 0 ? "commun " : programme == 0 ? "a " : "b ") + std::to_string(i);
-    };
-    adeux([&](int programme) {
-        essais::AppelsPatients appels;
-        common::DisqueReel disque(machine.dossier.chemin(), appels);
+    adeux(creerutilisateurs, machine.dossier.chemin());
+    for (const bool un : {true, false}) {
         for (int i = 0; i < nbutilisateurs; ++i) {
-            if (!profiles::dossierexiste(disque, nom(programme, i)))
-                profiles::creerutilisateur(disque, nom(programme, i));
-        }
-    });
-    for (const int programme : {0, 1}) {
-        for (int i = 0; i < nbutilisateurs; ++i) {
-            EXPECT_EQ(machine.lire(nom(programme, i) + "\\hist.dat"), "") << nom(programme, i);
-            EXPECT_EQ(profiles::liresettings(machine.disque(), nom(programme, i)).seuilch, 95);
+            const auto nom = utilisateur(un, i);
+            EXPECT_EQ(machine.lire(nom + "\\hist.dat"), "") << nom;
+            EXPECT_EQ(profiles::liresettings(machine.disque(), nom).seuilch, 95);
         }
     }
     EXPECT_FALSE(machine.disque().existe("nouvel-utilisateur.tmp"));
+}
+
+/// Makes a player, from the list that the login form showed.
+int connecter(const essais::Mots& mots) {
+    Disquepatient patient(mots);
+    const std::vector<std::string> liste(mots.begin() + 2, mots.end());
+    profiles::ecrireusers(patient.disque(), liste, premier(mots) ? "Zoe" : "Luc");
+    return 0;
 }
 
 /// Two copies of the program, both on their login form, which then make a player each.
@@ -231,11 +283,7 @@ TEST(Connexions, de_deux_programmes_a_la_fois_ne_perdent_personne) {
             profiles::Form2 form(machine.plateforme, v.form3, v.menu, v.form1);
             form.charger();
             const auto liste = form.trouver("user")->choix();
-            adeux([&](int programme) {
-                essais::AppelsPatients appels;
-                common::DisqueReel disque(machine.dossier.chemin(), appels);
-                profiles::ecrireusers(disque, liste, programme == 0 ? "Zoe" : "Luc");
-            });
+            adeux(connecter, machine.dossier.chemin(), {liste.begin(), liste.end()});
             auto lus = profiles::utilisateurs(machine.lire("users.dat")).noms;
             std::sort(lus.begin(), lus.end());
             auto attendus = liste;
@@ -246,20 +294,24 @@ TEST(Connexions, de_deux_programmes_a_la_fois_ne_perdent_personne) {
     }
 }
 
+constexpr int nbrangees = 200;
+
+int ajouterouretirer(const essais::Mots& mots) {
+    Disquepatient patient(mots);
+    for (int i = 0; i < nbrangees; ++i) {
+        if (premier(mots))
+            series::ajouterenrevision(patient.disque(), revision,
+                                      std::vector{"A;" + std::to_string(i)});
+        else
+            series::retirerderevision(patient.disque(), revision, "ABSENTE;");
+    }
+    return 0;
+}
+
 TEST(Revisions, une_rangee_ajoutee_pendant_qu_un_autre_programme_en_ote_reste) {
-    constexpr int nbrangees = 200;
     essai::Machine machine;
     machine.ecrire(revision, "");
-    adeux([&](int programme) {
-        essais::AppelsPatients appels;
-        common::DisqueReel disque(machine.dossier.chemin(), appels);
-        for (int i = 0; i < nbrangees; ++i) {
-            if (programme == 0)
-                series::ajouterenrevision(disque, revision, std::vector{"A;" + std::to_string(i)});
-            else
-                series::retirerderevision(disque, revision, "ABSENTE;");
-        }
-    });
+    adeux(ajouterouretirer, machine.dossier.chemin());
     std::vector<std::string> attendues;
     attendues.reserve(nbrangees);
     for (int i = 0; i < nbrangees; ++i)

@@ -5,15 +5,13 @@
 #include <iterator>
 #include <memory>
 #include <string>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "appelsdessai.h"
+#include "chemin.h"
 #include "disquereel.h"
 #include "dossiertemporaire.h"
 #include "journal.h"
@@ -137,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(Journal, Ligneslues, testing::ValuesIn(lues),
 
 class Fichierjournal : public testing::Test {
   protected:
-    Fichierjournal() { std::filesystem::create_directory(dossier.chemin() / "Zoé"); }
+    Fichierjournal() { std::filesystem::create_directory(dossier.chemin() / u8"Zoé"); }
 
     void corriger(const std::string& tirage) {
         const std::vector<Tiragejuge> juges{{tirage, {"X"}, {"X"}}};
@@ -176,7 +174,7 @@ TEST_F(Fichierjournal, une_correction_est_une_ecriture_sans_synchronisation) {
 
 TEST_F(Fichierjournal, une_correction_sans_tirage_n_ecrit_rien) {
     journaliser(disque, "Zoé", serie, {}, attente);
-    EXPECT_FALSE(std::filesystem::exists(dossier.chemin() / "Zoé" / "journal.txt"));
+    EXPECT_FALSE(std::filesystem::exists(dossier.chemin() / u8"Zoé" / "journal.txt"));
 }
 
 TEST_F(Fichierjournal, apres_une_moitie_de_ligne_en_commence_une) {
@@ -193,35 +191,29 @@ TEST_F(Fichierjournal, apres_une_moitie_de_ligne_en_commence_une) {
 
 TEST_F(Fichierjournal, le_joueur_peut_l_effacer) {
     corriger("A");
-    std::filesystem::remove(dossier.chemin() / "Zoé" / "journal.txt");
+    std::filesystem::remove(dossier.chemin() / u8"Zoé" / "journal.txt");
     EXPECT_THAT(tirages(), IsEmpty());
     corriger("B");
     EXPECT_THAT(tirages(), ElementsAre("B"));
 }
 
 TEST_F(Fichierjournal, sans_dossier_les_lignes_attendent) {
-    std::filesystem::remove(dossier.chemin() / "Zoé");
+    std::filesystem::remove(dossier.chemin() / u8"Zoé");
     corriger("A");
     corriger("B");
     EXPECT_EQ(attente, ligne("A") + ligne("B"));
-    std::filesystem::create_directory(dossier.chemin() / "Zoé");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé");
     corriger("C");
     EXPECT_EQ(attente, "");
     EXPECT_THAT(tirages(), ElementsAre("A", "B", "C"));
 }
 
 TEST_F(Fichierjournal, a_la_place_d_un_dossier_les_lignes_attendent) {
-    std::filesystem::create_directory(dossier.chemin() / "Zoé" / "journal.txt");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé" / "journal.txt");
     corriger("A");
-    std::filesystem::remove(dossier.chemin() / "Zoé" / "journal.txt");
+    std::filesystem::remove(dossier.chemin() / u8"Zoé" / "journal.txt");
     corriger("B");
     EXPECT_THAT(tirages(), ElementsAre("A", "B"));
-}
-
-TEST_F(Fichierjournal, un_tube_ne_fait_pas_attendre_le_jeu) {
-    ASSERT_EQ(::mkfifo((dossier.chemin() / "Zoé" / "journal.txt").c_str(), 0600), 0);
-    corriger("A");
-    EXPECT_EQ(attente, ligne("A"));
 }
 
 TEST_F(Fichierjournal, tout_appel_refuse_laisse_le_fichier_et_les_lignes) {
@@ -257,14 +249,19 @@ TEST_F(Fichierjournal, un_disque_plein_en_pleine_ecriture_rend_ce_qu_il_a_pris) 
     EXPECT_EQ(dossier.lire("Zoé/journal.txt"), ligne("A") + ligne("B") + ligne("C"));
 }
 
+int mourirencorrigeant(const essais::Mots& mots) {
+    essais::AppelsDessai appels;
+    common::DisqueReel disque(common::chemin(mots[0]), appels);
+    std::string attente;
+    appels.prevoir(essais::Panne::Dechirure, 1);
+    const std::vector<Tiragejuge> juges{{"B", {"X"}, {"X"}}};
+    journaliser(disque, "Zoé", serie, juges, attente);
+    return 0;
+}
+
 TEST_F(Fichierjournal, tue_en_pleine_ecriture_il_reste_des_lignes_lisibles) {
     corriger("A");
-    EXPECT_EQ(essais::enfant([&] {
-                  appels.prevoir(essais::Panne::Dechirure, 1);
-                  corriger("B");
-                  return 0;
-              }),
-              essais::tue);
+    EXPECT_EQ(essais::enfant(mourirencorrigeant, {dossier.chemin().string()}), essais::tue);
     corriger("C");
     EXPECT_THAT(tirages(), ElementsAre("A", "C"));
     EXPECT_EQ(lecture.sautees, 1U);
@@ -282,23 +279,27 @@ TEST_F(Fichierjournal, un_verrou_tenu_ne_fait_pas_attendre) {
     EXPECT_THAT(tirages(), ElementsAre("A", "B", "C"));
 }
 
-TEST_F(Fichierjournal, deux_programmes_a_la_fois_n_en_perdent_aucune) {
-    constexpr int corrections = 300;
-    const auto jouer = [&](const std::string& nom) {
-        for (int i = 0; i < corrections; ++i)
-            corriger(nom + std::to_string(i));
-        while (!attente.empty())
-            journaliser(disque, "Zoé", serie, {}, attente);
-    };
-    const auto autre = ::fork();
-    if (autre == 0) {
-        jouer("B");
-        ::_exit(0);
+constexpr int corrections = 300;
+
+/// So many corrections of racks whose names begin with the second word.
+int jouercorrections(const essais::Mots& mots) {
+    essais::AppelsDessai appels;
+    common::DisqueReel disque(common::chemin(mots[0]), appels);
+    std::string attente;
+    for (int i = 0; i < corrections; ++i) {
+        const std::vector<Tiragejuge> juges{{mots[1] + std::to_string(i), {"X"}, {"X"}}};
+        journaliser(disque, "Zoé", serie, juges, attente);
     }
-    jouer("A");
-    int statut = -1;
-    ASSERT_EQ(::waitpid(autre, &statut, 0), autre);
-    ASSERT_EQ(statut, 0);
+    while (!attente.empty())
+        journaliser(disque, "Zoé", serie, {}, attente);
+    return 0;
+}
+
+TEST_F(Fichierjournal, deux_programmes_a_la_fois_n_en_perdent_aucune) {
+    const auto racine = dossier.chemin().string();
+    essais::Enfant autre(jouercorrections, {racine, "B"});
+    EXPECT_EQ(jouercorrections({racine, "A"}), 0);
+    ASSERT_EQ(autre.attendre(), 0);
     const auto lus = tirages();
     EXPECT_EQ(lus.size(), 2U * corrections);
     EXPECT_EQ(lecture.sautees, 0U);
@@ -313,12 +314,12 @@ TEST_F(Fichierjournal, deux_programmes_a_la_fois_n_en_perdent_aucune) {
 }
 
 TEST_F(Fichierjournal, ce_qui_attend_a_une_limite) {
-    std::filesystem::remove(dossier.chemin() / "Zoé");
+    std::filesystem::remove(dossier.chemin() / u8"Zoé");
     const std::string longue(common::limiterangee, 'L');
     for (int i = 0; i < 10; ++i)
         corriger(longue + std::to_string(i));
     EXPECT_LE(attente.size(), limiteattente);
-    std::filesystem::create_directory(dossier.chemin() / "Zoé");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé");
     corriger("A");
     const auto lus = tirages();
     ASSERT_EQ(lus.size(), 8U);  // the last seven that fit, and A

@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Revision, Partie,
 /// The revision file "Léa/rev-x.txt".
 class Revision : public testing::Test {
   protected:
-    Revision() { std::filesystem::create_directory(dossier.chemin() / "Léa"); }
+    Revision() { std::filesystem::create_directory(dossier.chemin() / u8"Léa"); }
     void ecrire(const std::string& octets) { dossier.ecrire("Léa/rev-x.txt", octets); }
     [[nodiscard]] std::string lire() const { return dossier.lire("Léa/rev-x.txt"); }
     [[nodiscard]] std::vector<bool> presents(const std::vector<std::string>& lignes) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "chemin.h"
 #include "dossiertemporaire.h"
 #include "verification.h"
 
@@ -16,7 +17,7 @@ using testing::IsEmpty;
 std::vector<Constat> verifier(const std::string& nom, const std::string& octets) {
     const DossierTemporaire dossier;
     dossier.ecrire(nom, octets);
-    return atelier::verifierfichier((dossier.chemin() / nom).string());
+    return atelier::verifierfichier((dossier.chemin() / common::chemin(nom)).string());
 }
 
 struct Bonne {

@@ -1,13 +1,13 @@
-#include <fcntl.h>
 #include <filesystem>
 #include <string>
-#include <sys/file.h>
-#include <unistd.h>
 
 #include <gmock/gmock.h>
 
+#include "appelsdessai.h"
+#include "chemin.h"
 #include "dossiertemporaire.h"
 #include "faute.h"
+#include "programme.h"
 #include "sortie.h"
 
 namespace {
@@ -76,7 +76,7 @@ TEST_F(Sortie, un_disque_plein_laisse_les_vieux) {
         } catch (const common::Faute& faute) {
             EXPECT_THAT(faute.what(), HasSubstr("le disque est plein"));
             EXPECT_THAT(faute.what(),
-                        HasSubstr(std::filesystem::path(neufs[places].chemin).filename().string()));
+                        HasSubstr(common::chemin(neufs[places].chemin).filename().string()));
         }
         EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
         EXPECT_EQ(dossier.lire("infosouris.txt"), "vieux\r\n");
@@ -94,13 +94,71 @@ TEST_F(Sortie, ce_qu_une_fabrication_tuee_a_laisse_ne_gene_pas) {
 }
 
 TEST_F(Sortie, deux_fabrications_ne_se_melent_pas) {
-    const int verrou = ::open(dossier.chemin().c_str(), O_RDONLY | O_DIRECTORY);
-    ASSERT_GE(verrou, 0);
-    ASSERT_EQ(::flock(verrou, LOCK_EX), 0);
-    EXPECT_THROW(installer(neufs, dossier.chemin()), common::Faute);
-    ::close(verrou);
-    EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
+    bool refusee = false;
+    installer(neufs, dossier.chemin(),
+              [&](const std::filesystem::path& chemin, std::string_view octets) {
+                  EXPECT_THROW(installer(neufs, dossier.chemin()), common::Faute);
+                  EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
+                  refusee = true;
+                  return ecrirefichier(chemin, octets);
+              });
+    EXPECT_TRUE(refusee);
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "neuf a\r\n");
     EXPECT_NO_THROW(installer(neufs, dossier.chemin()));
+}
+
+/// A disk that cannot give two folders each other's name.
+class Sansechange : public essais::AppelsDessai {
+    std::error_code echanger(const Chemin& /*un*/, const Chemin& /*autre*/) override {
+        return std::make_error_code(std::errc::function_not_supported);
+    }
+};
+
+/// Killed before any of its changes to what is in place, and taken up by the next start or the
+/// next making.
+TEST_F(Sortie, tuee_en_echangeant_laisse_toutes_les_vieilles_ou_toutes_les_neuves) {
+    const auto etat = [&] {
+        return dossier.lire("listes/a.txt") + dossier.lire("listes/perso.txt");
+    };
+    const std::string vieilles = "vieux a\r\ndu joueur\r\n";
+    const std::string neuves = "neuf a\r\ndu joueur\r\n";
+    int absentes = 0;
+    int rang = 1;
+    for (int statut = essais::tue; statut == essais::tue; ++rang) {
+        SCOPED_TRACE(rang);
+        std::filesystem::remove_all(dossier.chemin() / "listes");
+        std::filesystem::remove_all(dossier.chemin() / ".nouvelles-listes");
+        std::filesystem::create_directory(dossier.chemin() / "listes");
+        dossier.ecrire("listes/a.txt", "vieux a\r\n");
+        dossier.ecrire("listes/perso.txt", "du joueur\r\n");
+        statut = essais::encopie([&] {
+            Sansechange appels;
+            appels.prevoir(essais::Panne::Avant, rang);
+            installer(neufs, dossier.chemin(), ecrirefichier, abriter, appels);
+            return 0;
+        });
+        absentes += std::filesystem::exists(dossier.chemin() / "listes") ? 0 : 1;
+        EXPECT_FALSE(common::remettrelistes(common::appelsdusysteme(), dossier.chemin()));
+        EXPECT_THAT(etat(), testing::AnyOf(vieilles, neuves));
+        installer(neufs, dossier.chemin());
+        EXPECT_EQ(etat(), neuves);
+        EXPECT_EQ(entrees(), 4U);
+    }
+    EXPECT_EQ(absentes, 1);
+    EXPECT_GT(rang, 4);
+}
+
+TEST_F(Sortie, qu_un_disque_refuse_au_milieu_remet_les_vieilles) {
+    class Unefois : public Sansechange {
+        std::error_code renommer(const Chemin& ancien, const Chemin& nouveau) override {
+            return ++nombre_ == 2 ? std::make_error_code(std::errc::io_error)
+                                  : Sansechange::renommer(ancien, nouveau);
+        }
+        int nombre_ = 0;
+    } appels;
+    EXPECT_THROW(installer(neufs, dossier.chemin(), ecrirefichier, abriter, appels), common::Faute);
+    EXPECT_EQ(dossier.lire("listes/a.txt"), "vieux a\r\n");
+    EXPECT_EQ(entrees(), 4U);
 }
 
 TEST_F(Sortie, les_neufs_sont_a_l_abri_avant_l_echange_et_les_noms_apres) {

@@ -31,7 +31,7 @@ class Bilans : public testing::TestWithParam<Cas> {};
 
 TEST_P(Bilans, des_records) {
     const essais::DossierTemporaire dossier;
-    std::filesystem::create_directory(dossier.chemin() / "Zoé");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé");
     dossier.ecrire("Zoé/hist.dat", GetParam().records);
     common::DisqueReel disque(dossier.chemin());
     EXPECT_EQ(texte(carnet::lirebilans(disque, "Zoé")), GetParam().attendu);
@@ -69,7 +69,7 @@ TEST(Progres, sans_fichier_rien_n_a_ete_joue) {
 
 TEST(Progres, un_fichier_illisible_est_une_faute) {
     const essais::DossierTemporaire dossier;
-    std::filesystem::create_directories(dossier.chemin() / "Zoé" / "hist.dat");
+    std::filesystem::create_directories(dossier.chemin() / u8"Zoé" / "hist.dat");
     common::DisqueReel disque(dossier.chemin());
     EXPECT_THROW(static_cast<void>(carnet::lirebilans(disque, "Zoé")), common::Faute);
 }

@@ -17,7 +17,7 @@ using testing::HasSubstr;
 
 class Reponses : public testing::Test {
   protected:
-    Reponses() { std::filesystem::create_directory(dossier.chemin() / "Zoé"); }
+    Reponses() { std::filesystem::create_directory(dossier.chemin() / u8"Zoé"); }
 
     std::string echeances(const char* jour, std::optional<int> plafond = std::nullopt) {
         return std::get<std::string>(
@@ -55,7 +55,7 @@ TEST_F(Reponses, les_lignes_sautees_sont_dites) {
 }
 
 TEST_F(Reponses, un_journal_illisible_est_un_refus) {
-    std::filesystem::create_directory(dossier.chemin() / "Zoé" / "journal.txt");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé" / "journal.txt");
     const auto reponse = carnet::echeances(disque, "Zoé", 0, std::nullopt, avis);
     ASSERT_TRUE(std::holds_alternative<carnet::Refus>(reponse));
     EXPECT_THAT(std::get<carnet::Refus>(reponse).raison, HasSubstr("c'est un dossier"));
@@ -83,7 +83,7 @@ TEST_F(Reponses, progres_une_ligne_par_liste) {
 }
 
 TEST_F(Reponses, progres_refuse_des_resultats_illisibles) {
-    std::filesystem::create_directory(dossier.chemin() / "Zoé" / "hist.dat");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé" / "hist.dat");
     const auto reponse = carnet::progres(disque, "Zoé");
     ASSERT_TRUE(std::holds_alternative<carnet::Refus>(reponse));
     EXPECT_THAT(std::get<carnet::Refus>(reponse).raison, HasSubstr("hist.dat"));

@@ -104,7 +104,7 @@ TEST(Tableaux, un_fichier_pour_un_tableur_garde_chaque_cellule) {
 class Lecture : public testing::Test {
   protected:
     Lecture() {
-        std::filesystem::create_directory(dossier.chemin() / "Zoé");
+        std::filesystem::create_directory(dossier.chemin() / u8"Zoé");
         suivi.util = "Zoé";
     }
     essais::DossierTemporaire dossier;
@@ -132,7 +132,7 @@ TEST_F(Lecture, un_joueur_dont_le_dossier_a_disparu_n_a_rien_fait) {
 }
 
 TEST_F(Lecture, un_journal_qui_ne_peut_se_lire_est_dit) {
-    std::filesystem::create_directory(dossier.chemin() / "Zoé" / "journal.txt");
+    std::filesystem::create_directory(dossier.chemin() / u8"Zoé" / "journal.txt");
     ASSERT_TRUE(carnet::liresuivi(disque, suivi, [](std::size_t) { return true; }));
     EXPECT_THAT(suivi.ennui, HasSubstr("journal.txt"));
 }
