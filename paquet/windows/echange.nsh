@@ -290,6 +290,9 @@ Function actualiserportable
   ${EndIf}
   CreateDirectory "$INSTDIR\${ANCIEN}"
   Call placerfichiers
-  Rename "$INSTDIR\${NOUVEAU}\fournis\inventaire.txt" "$INSTDIR\inventaire.txt"
+  StrCpy $0 "$INSTDIR\${NOUVEAU}\fournis\inventaire.txt"
+  StrCpy $1 "$INSTDIR\inventaire.txt"
+  StrCpy $2 "$INSTDIR\${ANCIEN}\inventaire.txt"
+  Call deplacer
   RMDir /r "$INSTDIR\${ANCIEN}"
 FunctionEnd
