@@ -42,6 +42,8 @@ std::error_code abriter(const fs::path& dossier) {
     if (const auto erreur = appels.lister(dossier, noms))
         return erreur;
     for (const auto& nom : noms) {
+        if (nom == fichierexclusif)
+            continue;  // kept from everybody, this program included
         const auto chemin = dossier / nom;
         common::Descripteur fichier(appels);
         auto erreur = fichier.ouvrir(chemin, common::Ouverture::Modification);

@@ -43,9 +43,10 @@ class Attente {
     Attente(const Attente&) = delete;
     Attente& operator=(const Attente&) = delete;
     ~Attente() {
-        // The old lists may be in it, if the disk has refused to put them back.
         std::error_code oubli = common::remettrelistes(appels_, dossier_);
-        if (!oubli)
+        // The old lists may still be in it, if the disk has refused to put them back.
+        if (fs::exists(dossier_ / common::dossierlistes, oubli) ||
+            !fs::exists(chemin_ / common::ancienneslistes, oubli))
             fs::remove_all(chemin_, oubli);  // the next run clears what is left
     }
     [[nodiscard]] const fs::path& chemin() const { return chemin_; }
