@@ -9,12 +9,6 @@
 namespace atelier {
 namespace {
 
-#ifndef ORVANE_LEXIQUE
-#define ORVANE_LEXIQUE "/usr/share/hunspell/fr.dic"
-#define ORVANE_AFFIXES "/usr/share/hunspell/fr.aff"
-#define ORVANE_THESAURUS "/usr/share/mythes/thes_fr.dat"
-#endif
-
 std::string lire(const std::string& chemin, std::string_view action,
                  const Progression& progression) {
     progression(action);
@@ -31,10 +25,6 @@ Lexique lexique(const Chemins& chemins, const Thesaurus& thesaurus,
 }
 
 }  // namespace
-
-Chemins cheminsdorigine() {
-    return {ORVANE_LEXIQUE, ORVANE_AFFIXES, ORVANE_THESAURUS};
-}
 
 Chantier::Chantier(const Chemins& chemins, const std::optional<Dictionnaire>& dictionnaire,
                    Nouveautes nouveautes, const Progression& progression)

@@ -21,7 +21,8 @@ struct Chemins {
     bool ajouts = true;  ///< add the words that the lexicon lacks
 };
 
-/// The places that the build found, or those of Debian.
+/// Where the sources are unless others are named: those that the build found; on Windows those in
+/// `lexique` beside the program, if it is there. One source a system.
 [[nodiscard]] Chemins cheminsdorigine();
 
 class Chantier {

@@ -1,9 +1,9 @@
+#include "exclusion.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
-
-#include "exclusion.h"
 
 namespace atelier {
 namespace {

@@ -1,8 +1,9 @@
+#include "exclusion.h"
+
 #include <windows.h>
 
 #include "chemins_windows.h"
 #include "erreurs_windows.h"
-#include "exclusion.h"
 #include "provisoire.h"
 
 namespace atelier {

@@ -78,6 +78,12 @@ carnet() {
     ouvrir "$programme/orvane-carnet.exe" "Carnet d'Orvane"
     fermer "Carnet d'Orvane"
 }
+refaites() { # the lists that the program makes there from its own lexicon are those that came with it
+    local la="$WINEPREFIX/drive_c/Listes d'été"
+    (cd "$WINEPREFIX/drive_c" && wine "$programme/orvane-listes.exe" --sortie "C:\\Listes d'été")
+    diff -r "$programme/fournis/listes" "$la/listes"
+    rm -rf "$la"
+}
 apportees() { diff -r "$programme/fournis/listes" "$donnees/listes"; }
 garnir() { # what players have made; and files of theirs in the folder of programs
     mkdir -p "$donnees/Zoé"
@@ -249,6 +255,7 @@ essai "windows : liste des programmes" declaree 2.68
 essai "windows : démarrage" demarrer
 essai "windows : listes apportées au joueur" apportees
 essai "windows : carnet" carnet
+essai "windows : listes refaites par le programme" refaites
 essai "windows : joueurs" garnir
 essai "windows : version plus récente par-dessus" installer "$recent"
 essai "windows : numéro de la version" declaree 2.69

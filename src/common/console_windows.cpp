@@ -1,8 +1,8 @@
+#include <windows.h>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <io.h>
-#include <windows.h>
 // Behind the header that it stands on.
 #include <shellapi.h>
 

@@ -1,10 +1,10 @@
 // The calls of the real disk on Windows. Files are opened so that others may read, write, rename
 // and delete them: what keeps programs apart are the locks.
 
+#include <windows.h>
 #include <algorithm>
 #include <chrono>
 #include <thread>
-#include <windows.h>
 
 #include "appels.h"
 #include "chemins_windows.h"

@@ -1,8 +1,8 @@
 #include "erreurs_windows.h"
 
+#include <windows.h>
 #include <algorithm>
 #include <array>
-#include <windows.h>
 
 #include "disque.h"
 

@@ -1,6 +1,6 @@
-#include <ctime>
-
 #include "horloge.h"
+
+#include <ctime>
 
 namespace common {
 

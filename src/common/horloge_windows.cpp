@@ -1,6 +1,6 @@
-#include <windows.h>
-
 #include "horloge.h"
+
+#include <windows.h>
 
 namespace common {
 

@@ -1,5 +1,6 @@
 #include "remplacement_windows.h"
 
+#include <windows.h>
 #include <chrono>
 #include <cstring>
 #include <mutex>
@@ -7,7 +8,6 @@
 #include <thread>
 #include <utility>
 #include <vector>
-#include <windows.h>
 
 #include "disque.h"
 #include "erreurs_windows.h"

@@ -1,9 +1,9 @@
 // Where Windows keeps what is a player's.
 
+#include "lieux.h"
+
 #include <memory>
 #include <shlobj.h>
-
-#include "lieux.h"
 
 namespace installation {
 namespace {

@@ -1,3 +1,5 @@
+#include "processus.h"
+
 #include <array>
 #include <chrono>
 #include <fcntl.h>
@@ -7,7 +9,6 @@
 #include <unistd.h>
 
 #include "dossiertemporaire.h"
-#include "processus.h"
 
 namespace essais {
 namespace {

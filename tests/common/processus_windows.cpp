@@ -1,10 +1,10 @@
 // The programs of tests on Windows, and their `main`: the test program, started with an action,
 // does that instead of testing.
 
+#include <windows.h>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
-#include <windows.h>
 
 #include <gmock/gmock.h>
 // Behind the header that it stands on.

@@ -1,9 +1,9 @@
 // What only Windows has: files that a program keeps all others from, names that are devices, paths
 // of a limited length, files that cannot be replaced while they are read.
 
+#include <windows.h>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 #include <gmock/gmock.h>
 
