@@ -36,7 +36,10 @@ std::vector<std::string>& avertissements() {
 }
 
 /// Warnings that tell what the machine of the tests lacks, and nothing of the program.
-constexpr std::array sansobjet{"This plugin does not support", "QStandardPaths: XDG_RUNTIME_DIR"};
+constexpr std::array sansobjet{"This plugin does not support", "QStandardPaths: XDG_RUNTIME_DIR",
+                               // Of Windows, which Wine does not have all of.
+                               "EnableNonClientDpiScaling()", "QPixmap::fromWinHICON()",
+                               "SetProcessDpiAwarenessContext("};
 
 void noter(QtMsgType genre, const QMessageLogContext& /*lieu*/, const QString& texte) {
     const bool connu = std::any_of(sansobjet.begin(), sansobjet.end(), [&](const char* debut) {
@@ -90,7 +93,7 @@ constexpr std::array cles{
 std::unique_ptr<QApplication> preparerqt(int& argc, char** argv) {
     qInstallMessageHandler(noter);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", ORVANE_ECRAN);
     ui::qt::preparer();
     auto application = std::make_unique<QApplication>(argc, argv);
     ui::qt::habiller(*application);
