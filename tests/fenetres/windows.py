@@ -54,19 +54,19 @@ class SceneWindows(Scene):
         verifier(self.processus.returncode == 0, f"statut {self.processus.returncode}")
 
     def numero(self, titre):
-        """The window whose title holds this, once it is shown."""
-        def chercher():
-            trouve = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", titre],
-                                    capture_output=True, text=True).stdout.split()
-            return trouve[0] if trouve else None
+        """The window whose title matches, once it is shown."""
+        return attendre(lambda: self.trouver(titre), f"la fenêtre « {titre} »")
 
-        return attendre(chercher, f"la fenêtre « {titre} »")
+    @staticmethod
+    def trouver(titre):
+        """A window that is shown now, whose title matches; None if there is none."""
+        trouve = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", titre],
+                                capture_output=True, text=True).stdout.split()
+        return trouve[0] if trouve else None
 
     def absente(self, titre):
         """No window has this title any more."""
-        attendre(lambda: not subprocess.run(["xdotool", "search", "--onlyvisible", "--name", titre],
-                                            capture_output=True, text=True).stdout.split(),
-                 f"« {titre} » fermée")
+        attendre(lambda: not self.trouver(titre), f"« {titre} » fermée")
 
     def active(self, titre):
         """The window, once it has come in front."""
@@ -203,16 +203,28 @@ def mettreajour(scene, port, installeur, version):
     verifier(Publication.demandes == list(Publication.pages), f"demandé : {Publication.demandes}")
     verifier(not list(scene.dossier.glob("*link.txt")) and
              not list(scene.dossier.glob("version_en_ligne.txt")), "les fichiers lus sont ôtés")
-    numero = scene.active(INSTALLATION)
-    premiere = scene.pose(numero)
-    scene.photographier("installation")
-    scene.touche("Return")
-    cle = scene.programme.parent / "fournis" / "inventaire.txt"
-    attendre(lambda: cle.read_bytes().startswith(version.encode() + b" "), "la nouvelle version")
-    attendre(lambda: scene.pose(numero) != premiere, "la dernière page")
-    scene.photographier("installee")
     scene.active(INSTALLATION)
-    scene.touche("Return")
+    scene.photographier("installation")
+    inventaire = scene.programme.parent / "fournis" / "inventaire.txt"
+
+    def arrivee():
+        with contextlib.suppress(FileNotFoundError):  # its folder is on its way
+            return inventaire.read_bytes().startswith(version.encode() + b" ")
+        return False
+
+    def lancee():  # whatever page is there, its default button goes on
+        if scene.trouver(BIENVENUE):
+            return True
+        numero = scene.trouver(INSTALLATION)
+        page = scene.image(numero) if numero else None
+        if page is not None and page == scene.image(numero):
+            scene.photographier("installee")
+            subprocess.run(["xdotool", "windowactivate", numero], capture_output=True)
+            scene.touche("Return")
+        return False
+
+    attendre(arrivee, "la nouvelle version")
+    attendre(lancee, "le programme que lance la dernière page")
     scene.active(BIENVENUE)  # of the newer program, which its last page starts
     scene.fermer(BIENVENUE)
     scene.absente(BIENVENUE)
