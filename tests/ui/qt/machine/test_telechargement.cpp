@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include "chemin.h"
 #include "minuteur.h"
 #include "provisoire.h"
 #include "telechargement.h"
@@ -262,7 +263,7 @@ TEST_F(Telechargements, ce_qu_un_programme_mort_a_laisse_est_emporte) {
     ecrire("recu.txt.5678.tmp", "d'un vivant");
     ecrire("recu.txt.backup", "du joueur");
     common::Descripteur vivant(common::appelsdusysteme());
-    const std::filesystem::path ecrit(dossier.filePath("recu.txt.5678.tmp").toStdString());
+    const auto ecrit = common::chemin(dossier.filePath("recu.txt.5678.tmp").toStdString());
     ASSERT_FALSE(common::tenir(common::appelsdusysteme(), ecrit, vivant));
     EXPECT_TRUE(enregistrer(adresse()));
     EXPECT_EQ(fichiers(), (QStringList{"recu.txt", "recu.txt.5678.tmp", "recu.txt.backup"}));

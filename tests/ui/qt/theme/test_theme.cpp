@@ -1,7 +1,6 @@
 // Colours, palette and fonts of the program.
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPixmap>
 #include <QStyle>
@@ -70,15 +69,6 @@ TEST(Theme, les_mnemoniques_ne_sont_pas_soulignes) {
     EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_UnderlineShortcut), 0);
 }
 
-TEST(Fontes, les_familles_nommees_ont_des_remplacantes_differentes) {
-    QStringList trouvees;
-    for (const char* famille : {"Arial", "Verdana", "Times New Roman", "Lucida Sans", "Georgia"}) {
-        const auto reelle = QFontInfo(QFont(QString::fromLatin1(famille)));
-        trouvees << reelle.family();
-    }
-    EXPECT_EQ(trouvees.removeDuplicates(), 0) << trouvees.join(", ").toStdString();
-}
-
 TEST(Fontes, la_hauteur_garde_ses_fractions) {
     const QPixmap support(10, 10);
     const auto grande = ui::qt::fonte("", 20.5, support);
@@ -132,16 +122,6 @@ INSTANTIATE_TEST_SUITE_P(
                     CasAjustement{"plusieurs_lignes", "Vérifier la mise à jour", {140, 70}},
                     CasAjustement{"une_seule_ligne", "Eliminer un tirage trouvé en", {220, 30}}),
     [](const auto& cas) { return cas.param.nom; });
-
-TEST(Fontes, une_famille_absente_cede_a_celle_que_qt_prendrait) {
-    const QPixmap support(10, 10);
-    for (const auto* nom : {"Arial", "Verdana", "Times New Roman", "Lucida Sans", "Georgia",
-                            "Constantia", "Segoe UI"}) {
-        const auto fonte = ui::qt::fonte(nom, 20, support);
-        EXPECT_EQ(QFontInfo(fonte).family(), QFontInfo(QFont(nom)).family()) << nom;
-        EXPECT_TRUE(QFontInfo(fonte).family().startsWith(fonte.family())) << nom;
-    }
-}
 
 TEST(Fontes, un_texte_qui_tient_garde_sa_taille) {
     const QPixmap support(10, 10);
