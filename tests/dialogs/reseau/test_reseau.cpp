@@ -1,40 +1,16 @@
 // The update check against a web server on 127.0.0.1, through the download that players get.
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <optional>
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QFile>
-#include <QProcess>
-#include <QSslCertificate>
-#include <QSslConfiguration>
-#include <QSslKey>
-#include <QSslServer>
 #include <QTemporaryDir>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "journal.h"
-#include "lignes.h"
-#include "miseajour.h"
-#include "plateformeqt.h"
-#include "serveur.h"
-#include "textesmiseajour.h"
-#include "voisinage.h"
+#include "verification.h"
 
 namespace {
 
 using namespace essai;
-namespace fs = std::filesystem;
-
-constexpr const char* cheminversion = "/Orvane/version.txt";
-constexpr const char* cheminlien = "/Orvane/downloadlink.txt";
-constexpr const char* chemininstalleur = "/orvane_setup.exe";
-constexpr const char* page = "https://www.orvane.example/orvane.php#telechargement";
-const std::string ouvrirpage = std::string("ouvrir ") + page;
 
 /// Qt for the whole program; what it warns of is a failure.
 class Bureau : public testing::Environment {
@@ -61,70 +37,6 @@ class Bureau : public testing::Environment {
 };
 
 const auto* const bureau = testing::AddGlobalTestEnvironment(new Bureau);
-
-/// The player's machine, its message boxes answered and its browser noted down.
-class Machine : public ui::qt::PlateformeQt {
-  public:
-    Machine() : PlateformeQt({.silence = 200, .duree = 600}) {}
-    /// The program runs from its own folder.
-    std::string dossierprogramme() override { return {}; }
-
-    Journal journal;
-    ui::Reponse reponse = ui::Reponse::Oui;
-
-    void ouvrir(std::string_view cible) override { noter(journal, "ouvrir ", cible); }
-
-  protected:
-    ui::Reponse demander(std::string_view texte, ui::Icone icone, bool ouinon) override {
-        noter(journal, genre(icone), texte);
-        return ouinon ? reponse : ui::Reponse::Ok;
-    }
-    void rapporter(std::string_view rapport) override { noter(journal, "faute ", rapport); }
-    void arreter(int statut) override { noter(journal, "fin ", std::to_string(statut)); }
-};
-
-std::optional<std::string> contenu(const char* fichier) {
-    std::ifstream flux(fichier, std::ios::binary);
-    if (!flux)
-        return std::nullopt;
-    return std::string(std::istreambuf_iterator<char>(flux), {});
-}
-
-class Reseau : public testing::Test {
-  protected:
-    QTemporaryDir dossier{QDir::tempPath() + QStringLiteral("/mise à jour XXXXXX")};
-    fs::path ancien = fs::current_path();
-    Serveur serveur;
-    VoisinageSur<Machine> v;
-
-    void SetUp() override { fs::current_path(dossier.path().toStdString()); }
-    void TearDown() override { fs::current_path(ancien); }
-
-    Journal verifier() { return verifier(serveur); }
-    Journal verifier(const Serveur& ou) {
-        dialogs::MiseAJour verification(v.plateforme, v.form3, v.menu,
-                                        {ou.adresse(cheminversion), ou.adresse(cheminlien), page});
-        v.plateforme.executer([&] { verification.verifier(); });
-        return v.relever();
-    }
-    void publier(const QByteArray& version) { serveur.pages[cheminversion] = {version}; }
-    void toutpublier() {
-        publier("2.7\r\n");
-        serveur.pages[cheminlien] = {QByteArray::fromStdString(serveur.adresse(chemininstalleur)) +
-                                     "\r\n"};
-        serveur.pages[chemininstalleur] = {"MZ\0programme"};
-    }
-    /// The journal of a check that has asked for the link, and then `suite`.
-    static Journal telechargement(const Journal& suite) {
-        Journal tout{proposer("2.7"), debuttelechargement, "menu pointeur attente",
-                     "aide Téléchargement en cours"};
-        tout.insert(tout.end(), suite.begin(), suite.end());
-        return tout;
-    }
-    static Journal echecdelinstalleur() {
-        return telechargement({"menu pointeur normal", echecinstalleur, ouvrirpage});
-    }
-};
 
 TEST_F(Reseau, personne_a_l_adresse) {
     serveur.fermer();
@@ -280,66 +192,6 @@ TEST_F(Reseau, un_lien_en_clair_vers_une_autre_machine) {
     serveur.pages[cheminlien] = {lien + "\r\n"};
     EXPECT_EQ(verifier(), echecdelinstalleur());
     EXPECT_EQ(serveur.demandes.size(), 2U) << "the installer is not asked for";
-}
-
-/// A key and a certificate that nobody has signed, for 127.0.0.1.
-class Certifie : public Reseau {
-  protected:
-    QSslCertificate certificat;
-    int poignees = 0;  ///< handshakes begun
-
-    Serveur https() {
-        const QStringList ordre{"req",
-                                "-x509",
-                                "-newkey",
-                                "ec",
-                                "-pkeyopt",
-                                "ec_paramgen_curve:prime256v1",
-                                "-nodes",
-                                "-days",
-                                "2",
-                                "-subj",
-                                "/CN=essai",
-                                "-addext",
-                                "subjectAltName=IP:127.0.0.1",
-                                "-keyout",
-                                "cle.pem",
-                                "-out",
-                                "certificat.pem"};
-        QProcess openssl;
-        openssl.start("openssl", ordre);
-        if (!openssl.waitForFinished() || openssl.exitCode() != 0)
-            qFatal("openssl : %s", openssl.readAllStandardError().constData());
-        certificat = QSslCertificate::fromPath("certificat.pem").value(0);
-        const auto cle = contenu("cle.pem").value_or("");
-        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-        tls.setLocalCertificate(certificat);
-        tls.setPrivateKey(QSslKey(QByteArray::fromStdString(cle), QSsl::Ec));
-        auto ecoute = std::make_unique<QSslServer>();
-        ecoute->setSslConfiguration(tls);
-        QObject::connect(ecoute.get(), &QSslServer::startedEncryptionHandshake, ecoute.get(),
-                         [this] { ++poignees; });
-        return Serveur(std::move(ecoute), "https");
-    }
-};
-
-TEST_F(Certifie, un_certificat_que_personne_n_a_signe_est_un_echec) {
-    auto sur = https();
-    sur.pages[cheminversion] = {"2.68\r\n"};
-    EXPECT_EQ(verifier(sur), (Journal{echecverification, ouvrirpage}));
-    EXPECT_EQ(poignees, 1);
-    EXPECT_TRUE(sur.demandes.empty()) << "nothing is asked of a server that is not trusted";
-}
-
-TEST_F(Certifie, un_certificat_reconnu_est_servi) {
-    auto sur = https();
-    sur.pages[cheminversion] = {"2.68\r\n"};
-    const auto defaut = QSslConfiguration::defaultConfiguration();
-    auto reconnue = defaut;
-    reconnue.addCaCertificate(certificat);
-    QSslConfiguration::setDefaultConfiguration(reconnue);
-    EXPECT_EQ(verifier(sur), Journal{ajour});
-    QSslConfiguration::setDefaultConfiguration(defaut);
 }
 
 TEST_F(Reseau, une_adresse_https_sur_un_serveur_qui_ne_l_est_pas) {

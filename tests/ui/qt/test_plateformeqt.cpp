@@ -203,5 +203,3 @@ TEST_F(Machine, laisser_courir_montre_ce_qui_vient_de_changer) {
 }
 
 }  // namespace essais
-
-#include "test_plateformeqt.moc"
