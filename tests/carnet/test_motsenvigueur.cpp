@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "arguments.h"
+#include "chemin.h"
 #include "motsenvigueur.h"
 #include "petitchantier.h"
 #include "processus.h"
@@ -49,7 +50,7 @@ TEST_F(Envigueurlu, un_dictionnaire_abime_ne_devient_pas_le_lexique_libre) {
 TEST(Arguments, nomment_le_dossier_et_les_sources) {
     const std::vector<std::string> mots{"--dossier", "jeu été", "--lexique", "d", "--sans-ajouts"};
     const auto options = lireoptions(mots);
-    EXPECT_EQ(options.dossier, "jeu été");
+    EXPECT_EQ(options.dossier, common::chemin("jeu été"));
     EXPECT_EQ(options.chemins.lexique, "d");
     EXPECT_FALSE(options.chemins.ajouts);
     EXPECT_TRUE(lireoptions(std::vector<std::string>{}).chemins.ajouts);

@@ -15,6 +15,7 @@
 #include <QTableView>
 #include <gmock/gmock.h>
 
+#include "chemin.h"
 #include "dessin.h"
 #include "dossiertemporaire.h"
 #include "fenetrecarnet.h"
@@ -36,7 +37,7 @@ class Suividunjoueur : public testing::Test {
   protected:
     Suividunjoueur() { std::filesystem::create_directories(dossier.chemin() / "listes"); }
     void inscrire() {
-        std::filesystem::create_directories(dossier.chemin() / "Zoé");
+        std::filesystem::create_directories(dossier.chemin() / common::chemin("Zoé"));
         std::filesystem::create_directories(dossier.chemin() / "Anne");
         dossier.ecrire("users.dat", "Anne\r\nZo\xE9\r\n");
     }
@@ -255,7 +256,7 @@ TEST_F(Suividunjoueur, un_dossier_de_joueur_qui_disparait_laisse_la_place_a_un_a
     jouer();
     const Pagerevoir revoir(seance, nullptr);
     lire();
-    std::filesystem::remove_all(dossier.chemin() / "Zoé");
+    std::filesystem::remove_all(dossier.chemin() / common::chemin("Zoé"));
     lire();
     EXPECT_EQ(seance.joueur(), QStringLiteral("Anne"));
     EXPECT_EQ(dit(revoir, "dus"), QStringLiteral("Rien à revoir aujourd'hui"));

@@ -13,12 +13,14 @@
 namespace {
 
 // How the platform without a screen, and a machine without sound, begin to say what they cannot do.
-constexpr std::array<std::string_view, 5> attendus{
+constexpr std::array<std::string_view, 6> attendus{
     "This plugin does not support raise()",
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support grabbing the keyboard",
     "PulseAudioService: pa_context_connect() failed",
     "QFontDatabase: Cannot find font directory",
+    "QFont::setPointSizeF: Point size <= 0 (-0.750000)",  // of Windows without its screen: in a
+                                                          // menu
 };
 
 void entendre(QtMsgType genre, const QMessageLogContext& /*lieu*/, const QString& message) {

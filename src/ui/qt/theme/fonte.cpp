@@ -6,7 +6,6 @@
 #include <functional>
 
 #include <QFontDatabase>
-#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPaintDevice>
@@ -72,11 +71,8 @@ QFont reduire(const QFont& fonte, double plancher, const QSizeF& place,
     int haut = crans;
     QFont essai = fonte;
     essai.setLetterSpacing(QFont::PercentageSpacing, serrage);
-    // A font that was asked for in pixels tells no size in points of its own.
-    const double points =
-        fonte.pointSizeF() > 0 ? fonte.pointSizeF() : QFontInfo(fonte).pointSizeF();
     const auto taille = [&](int cran) {
-        essai.setPointSizeF(points * (plancher + (1 - plancher) * cran / crans));
+        essai.setPointSizeF(fonte.pointSizeF() * (plancher + (1 - plancher) * cran / crans));
     };
     const double part = std::min(place.width() / std::max(entiere.width() * serrage / 100, 1.0),
                                  place.height() / std::max(entiere.height(), 1.0));

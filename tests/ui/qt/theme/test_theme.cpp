@@ -123,16 +123,6 @@ INSTANTIATE_TEST_SUITE_P(
                     CasAjustement{"une_seule_ligne", "Eliminer un tirage trouvé en", {220, 30}}),
     [](const auto& cas) { return cas.param.nom; });
 
-TEST(Fontes, une_fonte_demandee_en_pixels_se_reduit_aussi) {
-    const QPixmap support(10, 10);
-    const QSizeF place(200, 40);
-    QFont entiere;
-    entiere.setPixelSize(32);
-    const auto fonte = ui::qt::ajuster(entiere, "ANTICONSTITUTIONNELLEMENT", place, support);
-    EXPECT_LE(QFontMetricsF(fonte, &support).horizontalAdvance("ANTICONSTITUTIONNELLEMENT"), 200);
-    EXPECT_GT(fonte.pointSizeF(), 4);
-}
-
 TEST(Fontes, un_texte_qui_tient_garde_sa_taille) {
     const QPixmap support(10, 10);
     const auto fonte = ui::qt::fonte("", 24, support);
