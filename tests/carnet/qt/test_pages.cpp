@@ -381,7 +381,7 @@ TEST(Fenetresansmots, dit_pourquoi_et_reste_ouverte) {
 
 int main(int nombre, char** arguments) {
     testing::InitGoogleMock(&nombre, arguments);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", ORVANE_ECRAN);
     const QApplication application(nombre, arguments);
     return RUN_ALL_TESTS();
 }
