@@ -102,7 +102,7 @@ class AppelsWindows : public Appels {
                           FILE_ATTRIBUTE_NORMAL, nullptr);
         if (fichier == INVALID_HANDLE_VALUE)
             return refus(large, mode);
-        poignee = reinterpret_cast<Poignee>(new Ouvert(fichier, large, mode == Ouverture::Ajout));
+        poignee = reinterpret_cast<Poignee>(new Ouvert(fichier, large, mode));
         return {};
     }
 

@@ -164,7 +164,7 @@ Issue essayer(const std::wstring& ancien, const std::wstring& nouveau, bool& enp
     return renommersimplement(ancien, nouveau);
 }
 
-/// Closes what this program has locked of the file; the locks stay.
+/// Closes what this program has opened of the file to change it; the locks stay.
 void ceder(const std::wstring& chemin) {
     const auto cle = cledefichier(chemin);
     const std::lock_guard seul(barriere());
@@ -208,8 +208,8 @@ bool Garde::tenue(const std::wstring& cle) {
     return objet.ouverte() || ::GetLastError() == ERROR_ACCESS_DENIED;
 }
 
-Ouvert::Ouvert(void* fichier, std::wstring chemin, bool enfin)
-    : fichier_(fichier), chemin_(std::move(chemin)), enfin_(enfin) {
+Ouvert::Ouvert(void* fichier, std::wstring chemin, Ouverture mode)
+    : fichier_(fichier), chemin_(std::move(chemin)), mode_(mode) {
     const std::lock_guard seul(barriere());
     ouverts().insert(this);
 }
@@ -247,9 +247,11 @@ void Ouvert::deverrouiller() {
 }
 
 void Ouvert::ceder(const std::wstring& cle) {
-    if (cle.empty() || !verrouille_ || !fichier_.ouverte() || cle_ != cle)
+    if (cle.empty() || mode_ == Ouverture::Lecture || !fichier_.ouverte() ||
+        (cle_.empty() ? cledefichier(chemin_) : cle_) != cle)
         return;
-    garde_ = std::make_unique<Garde>(cle);
+    if (verrouille_)  // some disks have no locks
+        garde_ = std::make_unique<Garde>(cle);
     deverrouiller();
     fichier_.fermer();
 }

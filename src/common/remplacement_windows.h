@@ -6,6 +6,8 @@
 #include <string>
 #include <system_error>
 
+#include "appels.h"
+
 namespace common {
 
 /// A handle of the system, closed on destruction.
@@ -44,17 +46,17 @@ class Garde {
 class Ouvert {
   public:
     /// `chemin` as of `cheminlarge`.
-    Ouvert(void* fichier, std::wstring chemin, bool enfin);
+    Ouvert(void* fichier, std::wstring chemin, Ouverture mode);
     Ouvert(const Ouvert&) = delete;
     Ouvert& operator=(const Ouvert&) = delete;
     ~Ouvert();
 
     [[nodiscard]] void* fichier() const { return fichier_.valeur(); }
     /// Every write goes to the end.
-    [[nodiscard]] bool enfin() const { return enfin_; }
+    [[nodiscard]] bool enfin() const { return mode_ == Ouverture::Ajout; }
     /// Locks the file, until this is destroyed; `pris` is false if it is locked already.
     [[nodiscard]] std::error_code verrouiller(bool& pris);
-    /// Closes the file if it is locked, and was opened as the one of that key; the lock stays.
+    /// Closes the file if it was opened to be changed, as the one of that key; a lock stays.
     void ceder(const std::wstring& cle);
 
   private:
@@ -63,7 +65,7 @@ class Ouvert {
     Poigneewindows fichier_;
     std::wstring chemin_;
     std::wstring cle_;  ///< of a file that is locked
-    bool enfin_;
+    Ouverture mode_;
     bool verrouille_ = false;
     std::unique_ptr<Garde> garde_;
 };

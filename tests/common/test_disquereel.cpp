@@ -231,6 +231,7 @@ TEST_F(DisqueReel, un_bail_qui_se_rend_est_attendu) {
     std::unique_ptr<common::Flux> flux;
     EXPECT_FALSE(loue.ouvrir("f.txt", flux));
     EXPECT_EQ(bail.attendu, 100);
+    flux.reset();  // not every disk replaces a file that is being read
     EXPECT_FALSE(loue.ajouter("f.txt", "B\r\n"));
     EXPECT_EQ(dossier.lire("f.txt"), "A\r\nB\r\n");
 }
