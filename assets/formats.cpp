@@ -60,15 +60,35 @@ void ajoutermasque(std::string& fichier, const Image& image) {
     }
 }
 
+/// Appends the header of a BMP file, whose pixels stand right behind the description.
+void enteter(std::string& fichier, std::uint32_t description, std::uint32_t pixels) {
+    constexpr std::uint32_t entete = 14;
+    fichier += "BM";
+    petitboutien(fichier, entete + description + pixels, 4);
+    petitboutien(fichier, 0, 4);
+    petitboutien(fichier, entete + description, 4);
+}
+
+/// Appends how every description of a bitmap begins.
+void decrire(std::string& fichier, std::uint32_t description, int largeur, int hauteur,
+             std::uint32_t bits) {
+    petitboutien(fichier, description, 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(largeur), 4);
+    petitboutien(fichier, static_cast<std::uint32_t>(hauteur), 4);
+    petitboutien(fichier, 1, 2);  // planes
+    petitboutien(fichier, bits, 2);
+}
+
+/// The size of the oldest description of Windows, and what ends it: not compressed; no size,
+/// density or palette need be told.
+constexpr std::uint32_t descriptionancienne = 40;
+constexpr std::size_t financienne = 24;
+
 /// A bitmap as it stands in an ICO file: without file header, its height doubled for the mask.
 std::string bitmapicone(const Image& image) {
     std::string octets;
-    petitboutien(octets, 40, 4);
-    petitboutien(octets, static_cast<std::uint32_t>(image.largeur), 4);
-    petitboutien(octets, static_cast<std::uint32_t>(image.hauteur) * 2, 4);
-    petitboutien(octets, 1, 2);   // planes
-    petitboutien(octets, 32, 2);  // bits a pixel
-    octets.append(24, '\0');      // not compressed; no size, density or palette need be told
+    decrire(octets, descriptionancienne, image.largeur, image.hauteur * 2, 32);
+    octets.append(financienne, '\0');
     ajouterpixels(octets, image);
     ajoutermasque(octets, image);
     return octets;
@@ -94,19 +114,12 @@ std::string fichierpng(int largeur, int hauteur, const std::string& genre,
 }  // namespace
 
 std::string bmp(const Image& image) {
-    constexpr std::uint32_t entete = 14;
     constexpr std::uint32_t description = 108;
     const auto taille = static_cast<std::uint32_t>(image.pixels.size());
-    std::string fichier = "BM";
-    petitboutien(fichier, entete + description + taille, 4);
-    petitboutien(fichier, 0, 4);
-    petitboutien(fichier, entete + description, 4);
-    petitboutien(fichier, description, 4);
-    petitboutien(fichier, static_cast<std::uint32_t>(image.largeur), 4);
-    petitboutien(fichier, static_cast<std::uint32_t>(image.hauteur), 4);
-    petitboutien(fichier, 1, 2);   // planes
-    petitboutien(fichier, 32, 2);  // bits a pixel
-    petitboutien(fichier, 3, 4);   // the channels stand where the masks below say
+    std::string fichier;
+    enteter(fichier, description, taille);
+    decrire(fichier, description, image.largeur, image.hauteur, 32);
+    petitboutien(fichier, 3, 4);  // the channels stand where the masks below say
     petitboutien(fichier, taille, 4);
     for (const std::uint32_t valeur : {3780U, 3780U, 0U, 0U}) {  // pixels a metre, no palette
         petitboutien(fichier, valeur, 4);
@@ -121,22 +134,14 @@ std::string bmp(const Image& image) {
 }
 
 std::string dib(const Image& image) {
-    constexpr std::uint32_t entete = 14;
-    constexpr std::uint32_t description = 40;
     const auto largeur = static_cast<std::size_t>(image.largeur);
     const std::size_t rangee = (largeur * 3 + 3) / 4 * 4;
     const auto taille =
         static_cast<std::uint32_t>(rangee * static_cast<std::size_t>(image.hauteur));
-    std::string fichier = "BM";
-    petitboutien(fichier, entete + description + taille, 4);
-    petitboutien(fichier, 0, 4);
-    petitboutien(fichier, entete + description, 4);
-    petitboutien(fichier, description, 4);
-    petitboutien(fichier, static_cast<std::uint32_t>(image.largeur), 4);
-    petitboutien(fichier, static_cast<std::uint32_t>(image.hauteur), 4);
-    petitboutien(fichier, 1, 2);   // planes
-    petitboutien(fichier, 24, 2);  // bits a pixel
-    fichier.append(24, '\0');      // not compressed; no size, density or palette need be told
+    std::string fichier;
+    enteter(fichier, descriptionancienne, taille);
+    decrire(fichier, descriptionancienne, image.largeur, image.hauteur, 24);
+    fichier.append(financienne, '\0');
     for (auto y = static_cast<std::size_t>(image.hauteur); y-- > 0;) {
         for (std::size_t x = 0; x < largeur; ++x) {
             const std::uint8_t* pixel = &image.pixels[(y * largeur + x) * 4];

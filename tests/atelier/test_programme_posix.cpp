@@ -1,33 +1,14 @@
 // The program on a disk that is full, which a limit on the size of files stands for.
 
-#include <csignal>
 #include <string>
-#include <sys/resource.h>
 
 #include <gmock/gmock.h>
 
 #include "dossiertemporaire.h"
+#include "plafond_posix.h"
 #include "processus.h"
 
 namespace {
-
-/// As long as it lives, programs that are started can write no larger file.
-class Plafond {
-  public:
-    explicit Plafond(rlim_t octets) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &avant_);
-        auto limite = avant_;
-        limite.rlim_cur = octets;
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    Plafond(const Plafond&) = delete;
-    Plafond& operator=(const Plafond&) = delete;
-    ~Plafond() { ::setrlimit(RLIMIT_FSIZE, &avant_); }
-
-  private:
-    rlimit avant_{};
-};
 
 TEST(Programmeposix, un_disque_plein_est_une_faute_et_laisse_les_vieilles_listes) {
     const essais::DossierTemporaire dossier;
@@ -42,7 +23,7 @@ TEST(Programmeposix, un_disque_plein_est_une_faute_et_laisse_les_vieilles_listes
     dossier.ecrire("jeu/infosouris.txt", "vieux\r\n");
     essais::Fin fin;
     {
-        const Plafond plafond(4096);  // the pictures are larger than that
+        const essais::Plafond plafond(4096);  // the pictures are larger than that
         fin = essais::lancer(ORVANE_PROGRAMME, arguments, dossier.chemin());
     }
     EXPECT_EQ(fin.etat, 1);

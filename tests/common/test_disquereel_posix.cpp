@@ -1,12 +1,10 @@
 // What only a POSIX system has: pipes and devices in the place of files, modes and owners, symbolic
 // links, a limit on the size of files.
 
-#include <csignal>
 #include <fcntl.h>
 #include <grp.h>
 #include <string>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -16,31 +14,10 @@
 #include "appelsdessai.h"
 #include "disquereel.h"
 #include "dossiertemporaire.h"
+#include "plafond_posix.h"
 #include "programme.h"
 
 namespace {
-
-/// No file may grow past a size while this lives, as on a full disk.
-class Plafond {
-  public:
-    explicit Plafond(rlim_t octets) {
-        ancienne_ = std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &avant_);
-        auto limite = avant_;
-        limite.rlim_cur = octets;
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    Plafond(const Plafond&) = delete;
-    Plafond& operator=(const Plafond&) = delete;
-    ~Plafond() {
-        ::setrlimit(RLIMIT_FSIZE, &avant_);
-        std::signal(SIGXFSZ, ancienne_);
-    }
-
-  private:
-    rlimit avant_{};
-    void (*ancienne_)(int);
-};
 
 class DisqueReelPosix : public testing::Test {
   protected:
@@ -51,14 +28,14 @@ class DisqueReelPosix : public testing::Test {
 
 TEST_F(DisqueReelPosix, un_ajout_qui_echoue_laisse_le_fichier_tel_quel) {
     dossier.ecrire("f.txt", "AB;BA\r\n");
-    const Plafond plafond(10);
+    const essais::Plafond plafond(10);
     EXPECT_TRUE(disque.ajouter("f.txt", "CD;DC\r\n"));
     EXPECT_EQ(dossier.lire("f.txt"), "AB;BA\r\n");
 }
 
 TEST_F(DisqueReelPosix, un_premier_ajout_qui_echoue_ne_laisse_pas_de_fichier) {
     {
-        const Plafond plafond(2);
+        const essais::Plafond plafond(2);
         EXPECT_TRUE(disque.ajouter("f.txt", "CD;DC\r\n"));
     }
     EXPECT_FALSE(disque.existe("f.txt"));
@@ -67,7 +44,7 @@ TEST_F(DisqueReelPosix, un_premier_ajout_qui_echoue_ne_laisse_pas_de_fichier) {
 TEST_F(DisqueReelPosix, un_remplacement_qui_echoue_laisse_l_ancien_et_rien_d_autre) {
     dossier.ecrire("f.txt", "ancien");
     {
-        const Plafond plafond(10);
+        const essais::Plafond plafond(10);
         EXPECT_TRUE(disque.remplacer("f.txt", std::string(100, 'x')));
     }
     EXPECT_EQ(dossier.lire("f.txt"), "ancien");

@@ -13,7 +13,8 @@ import shutil
 import subprocess
 import sys
 
-from joueur import BIENVENUE, MENU, SERIE, connecternouveau, lancer, ouvrirpanneau, tous, verifier
+from joueur import (BIENVENUE, MENU, SERIE, connecternouveau, lancer, ouvrirpanneau, tous, verifier,
+                    verifierbravo)
 from scene import Scene, attendre
 
 LISTE = "7v6.txt"  # which the player makes shorter
@@ -94,9 +95,7 @@ def jouer(scene, joueur):
         scene.taper(SOLUTIONS[serie.tirage(rang)].lower())
         scene.touche("Return")
     scene.touche("F12")
-    attendre(lambda: scene.lire(joueur + "\\hist.dat"), "le résultat dans hist.dat")
-    verifier(scene.lire(joueur + "\\hist.dat")[0].endswith(" - 100% - T - " + LISTE), "le résultat")
-    scene.photographier("bravo")
+    verifierbravo(scene, joueur, LISTE)
     scene.fermer(SERIE)
     scene.devant(MENU)
     scene.cliquer(scene.objets(MENU)["Quitter"])

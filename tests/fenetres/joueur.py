@@ -70,6 +70,14 @@ def tuiles(scene, titre=SERIE):
     return sorted(liste, key=lambda o: o.queryComponent().getExtents(0).x)
 
 
+def verifierbravo(scene, joueur, liste):
+    """A whole list, found to its last rack, is in the player's history."""
+    chemin = joueur + "\\hist.dat"
+    attendre(lambda: scene.lire(chemin), "le résultat dans hist.dat")
+    verifier(scene.lire(chemin)[0].endswith(" - 100% - T - " + liste), "le résultat")
+    scene.photographier("bravo")
+
+
 class Serie:
     """The window of a series. Controls are found once, what they show is read at each look."""
 

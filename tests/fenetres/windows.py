@@ -17,7 +17,7 @@ import sys
 import threading
 import time
 
-from joueur import BIENVENUE, MENU, SERIE, verifier
+from joueur import BIENVENUE, MENU, SERIE, verifier, verifierbravo
 from scene import Scene, attendre
 
 MESSAGE = "^Orvane$"
@@ -127,9 +127,7 @@ def jouer(scene, joueur):
     scene.taper(SOLUTION.lower())
     scene.touche("Return")
     scene.touche("F12")
-    attendre(lambda: scene.lire(joueur + "\\hist.dat"), "le résultat dans hist.dat")
-    verifier(scene.lire(joueur + "\\hist.dat")[0].endswith(" - 100% - T - " + LISTE), "le résultat")
-    scene.photographier("bravo")
+    verifierbravo(scene, joueur, LISTE)
     scene.fermer(SERIE)
     scene.active(MENU)
     scene.quitter()
