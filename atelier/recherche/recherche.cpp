@@ -81,6 +81,38 @@ atelier::Rangee rangee(const Glossaire& glossaire, const Groupe& groupe) {
     return rangee;
 }
 
+/// The words by rack, without the racks that have more than a row holds.
+std::vector<Groupe> tenables(const Glossaire& glossaire, const std::vector<std::uint32_t>& places,
+                             Liste& liste) {
+    auto groupes = grouper(glossaire, places);
+    const auto riches =
+        std::erase_if(groupes, [](const Groupe& g) { return g.size() > common::solutionsmulti; });
+    if (riches > 0)
+        liste.laisses.push_back(mots(riches, "tirage laissé de côté : il a plus de ",
+                                     "tirages laissés de côté : ils ont plus de ") +
+                                std::to_string(common::solutionsmulti) + " mots.");
+    for (const auto& groupe : groupes)
+        liste.solutions = std::max(liste.solutions, groupe.size());
+    return groupes;
+}
+
+/// A row for each of the first groups, up to the limit.
+void remplir(Liste& liste, const Glossaire& glossaire, std::vector<Groupe> groupes,
+             std::size_t limite) {
+    if (groupes.size() > limite) {
+        liste.laisses.push_back(
+            mots(groupes.size() - limite, "tirage laissé de côté", "tirages laissés de côté") +
+            " : une liste en tient " + std::to_string(limite) + '.');
+        groupes.resize(limite);
+    }
+    atelier::Contenu contenu;
+    for (const auto& groupe : groupes)
+        contenu.rangees.push_back(rangee(glossaire, groupe));
+    atelier::ordonner(contenu);
+    for (const auto& r : contenu.rangees)
+        liste.rangees.push_back(r.texte());
+}
+
 }  // namespace
 
 std::vector<std::uint32_t> chercher(const Glossaire& glossaire, const Demande& demande,
@@ -114,16 +146,8 @@ std::vector<std::uint32_t> chercher(const Glossaire& glossaire, const Demande& d
 
 std::variant<Liste, Refus> enliste(const Glossaire& glossaire,
                                    const std::vector<std::uint32_t>& places) {
-    auto groupes = grouper(glossaire, places);
     Liste liste;
-    const auto riches =
-        std::erase_if(groupes, [](const Groupe& g) { return g.size() > common::solutionsmulti; });
-    if (riches > 0)
-        liste.laisses.push_back(mots(riches, "tirage laissé de côté : il a plus de ",
-                                     "tirages laissés de côté : ils ont plus de ") +
-                                std::to_string(common::solutionsmulti) + " mots.");
-    for (const auto& groupe : groupes)
-        liste.solutions = std::max(liste.solutions, groupe.size());
+    auto groupes = tenables(glossaire, places, liste);
     const bool seuls =
         std::any_of(groupes.begin(), groupes.end(), [](const Groupe& g) { return g.size() == 1; });
     if (seuls && liste.solutions > 1)
@@ -133,18 +157,14 @@ std::variant<Liste, Refus> enliste(const Glossaire& glossaire,
     const auto limite = liste.solutions > 1
                             ? std::min(common::rangeesmulti, seizebits / liste.solutions)
                             : common::rangeesform1;
-    if (groupes.size() > limite) {
-        liste.laisses.push_back(
-            mots(groupes.size() - limite, "tirage laissé de côté", "tirages laissés de côté") +
-            " : une liste en tient " + std::to_string(limite) + '.');
-        groupes.resize(limite);
-    }
-    atelier::Contenu contenu;
-    for (const auto& groupe : groupes)
-        contenu.rangees.push_back(rangee(glossaire, groupe));
-    atelier::ordonner(contenu);
-    for (const auto& r : contenu.rangees)
-        liste.rangees.push_back(r.texte());
+    remplir(liste, glossaire, std::move(groupes), limite);
+    return liste;
+}
+
+Liste surpapier(const Glossaire& glossaire, const std::vector<std::uint32_t>& places) {
+    Liste liste;
+    auto groupes = tenables(glossaire, places, liste);
+    remplir(liste, glossaire, std::move(groupes), common::rangeesform1);
     return liste;
 }
 

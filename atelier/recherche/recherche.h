@@ -33,6 +33,9 @@ struct Liste {
 [[nodiscard]] std::variant<Liste, Refus> enliste(const Glossaire& glossaire,
                                                  const std::vector<std::uint32_t>& places);
 
+/// The same for paper, where racks with one word and with several stand together.
+[[nodiscard]] Liste surpapier(const Glossaire& glossaire, const std::vector<std::uint32_t>& places);
+
 /// The words of a list of the folder `listes`: all solutions of a list of racks, the whole extended
 /// words of a list of extensions, the words of a reference list; or, in French, why not.
 [[nodiscard]] Motsdeliste motsdeliste(common::Disque& disque, std::string_view fichier);

@@ -35,6 +35,14 @@ QString titre() {
     return QStringLiteral("Orvane – ma liste");
 }
 
+/// What a list leaves out, a sentence each.
+QString laisses(const recherche::Liste& liste) {
+    QString dit;
+    for (const auto& laisse : liste.laisses)
+        dit += qt(laisse) + QLatin1Char(' ');
+    return dit;
+}
+
 }  // namespace
 
 Pagelistes::Pagelistes(Seance& seance, QWidget* parent)
@@ -203,15 +211,19 @@ std::optional<recherche::Liste> Pagelistes::liste() {
                           "par tirage »."));
         return std::nullopt;
     }
-    auto& prete = std::get<recherche::Liste>(faite);
-    if (prete.rangees.empty()) {
-        QString pourquoi = QStringLiteral("Il n'y a rien à mettre dans une liste.");
-        for (const auto& laisse : prete.laisses)
-            pourquoi += QLatin1Char(' ') + qt(laisse);
-        avertir(this, pourquoi);
-        return std::nullopt;
-    }
-    return std::move(prete);
+    return remplie(std::move(std::get<recherche::Liste>(faite)));
+}
+
+std::optional<recherche::Liste> Pagelistes::papier() {
+    return remplie(recherche::surpapier(*seance_.glossaire(), modele_->places()));
+}
+
+std::optional<recherche::Liste> Pagelistes::remplie(recherche::Liste liste) {
+    if (!liste.rangees.empty())
+        return liste;
+    avertir(this,
+            (QStringLiteral("Il n'y a rien à mettre dans une liste. ") + laisses(liste)).trimmed());
+    return std::nullopt;
 }
 
 void Pagelistes::enregistrer() {
@@ -251,18 +263,16 @@ void Pagelistes::ecrire(const QString& nom) {
                                                     common::raison(erreur))));
         return;
     }
-    QString dit = nom + QStringLiteral(" : ") +
-                  compte(faite->rangees.size(), QStringLiteral("tirage enregistré. "),
-                         QStringLiteral("tirages enregistrés. "));
-    for (const auto& laisse : faite->laisses)
-        dit += qt(laisse) + QLatin1Char(' ');
-    message_->setText(dit + qt(commentjouer(fichier)));
+    message_->setText(nom + QStringLiteral(" : ") +
+                      compte(faite->rangees.size(), QStringLiteral("tirage enregistré. "),
+                             QStringLiteral("tirages enregistrés. ")) +
+                      laisses(*faite) + qt(commentjouer(fichier)));
     message_->show();
     proposer();
 }
 
 void Pagelistes::imprimer() {
-    const auto faite = liste();
+    const auto faite = papier();
     if (!faite)
         return;
     QPrinter imprimante(QPrinter::HighResolution);
@@ -276,12 +286,13 @@ void Pagelistes::imprimer() {
         return;
     }
     message_->setText(
-        QStringLiteral("La liste est imprimée : tirages au recto, réponses au verso."));
+        QStringLiteral("La liste est imprimée : tirages au recto, réponses au verso. ") +
+        laisses(*faite));
     message_->show();
 }
 
 void Pagelistes::enpdf() {
-    const auto faite = liste();
+    const auto faite = papier();
     if (!faite)
         return;
     const auto chemin = ouenregistrer(this, QStringLiteral("Enregistrer en PDF"),
@@ -290,7 +301,9 @@ void Pagelistes::enpdf() {
         return;
     if (!ecrirefichier(this, chemin, carnet::enpdf(faite->rangees, titre())))
         return;
-    message_->setText(chemin + QStringLiteral(" est écrit : tirages au recto, réponses au verso."));
+    message_->setText(chemin +
+                      QStringLiteral(" est écrit : tirages au recto, réponses au verso. ") +
+                      laisses(*faite));
     message_->show();
 }
 

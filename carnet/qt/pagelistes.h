@@ -28,8 +28,10 @@ class Pagelistes : public QWidget {
     void chercher();
     void montrer(const recherche::Demande& demande);
     void proposer();
-    /// The rows of what is found; nothing, once it has been said why.
+    /// The rows of what is found, to be played, or for paper; nothing, once it has been said why.
     [[nodiscard]] std::optional<recherche::Liste> liste();
+    [[nodiscard]] std::optional<recherche::Liste> papier();
+    [[nodiscard]] std::optional<recherche::Liste> remplie(recherche::Liste liste);
     void enregistrer();
     void ecrire(const QString& nom);
     void imprimer();

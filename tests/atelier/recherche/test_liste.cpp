@@ -53,6 +53,21 @@ TEST(Liste, un_melange_est_refuse) {
     EXPECT_THAT(std::get<Refus>(faite).texte(), HasSubstr("par : ces mots mêlent"));
 }
 
+TEST(Liste, sur_le_papier_tous_les_tirages_vont_ensemble) {
+    const essais::Listes aucune;
+    const auto contexte = essais::contexte(glossaire(), aucune);
+    const auto places = [&](std::string_view criteres) {
+        const auto lue = liredemande(criteres, contexte);
+        return chercher(glossaire(), std::get<Demande>(lue), 1);
+    };
+    const auto melee = surpapier(glossaire(), places("longueur=2-3"));
+    EXPECT_THAT(melee.rangees,
+                ElementsAre("SU;SU;US", "ART;ART;RAT;TRA", "BEL;BEL", "ENZ;NEZ;ZEN"));
+    EXPECT_THAT(melee.laisses, IsEmpty());
+    EXPECT_THAT(surpapier(glossaire(), places("longueur=6")).laisses,
+                ElementsAre(HasSubstr("1 tirage laissé de côté")));
+}
+
 TEST(Liste, un_tirage_de_plus_de_cinq_mots_est_laisse_et_compte) {
     for (const auto* criteres : {"longueur=6", "longueur=6 par=2-5", "longueur=6 par=1"}) {
         const auto liste = std::get<Liste>(faire(criteres));
