@@ -77,8 +77,16 @@ Criteres::Criteres(QWidget* parent) : QWidget(parent) {
                    {"les plus difficiles", "difficulte"},
                    {"les plus probables", "probabilite"},
                    {"les plus lourds", "poids"},
-                   {"au hasard", "hasard graine=1"}}),
-            "Les premiers de cet ordre sont gardés");
+                   {"au hasard", "hasard"}}),
+            "Les premiers de cet ordre sont gardés ; « au hasard » choisi de nouveau en donne "
+            "d'autres");
+    auto* ordre = findChild<QComboBox*>(QStringLiteral("ordre"));
+    connect(ordre, &QComboBox::activated, this, [this, ordre] {
+        if (ordre->currentData() != QLatin1String("hasard"))
+            return;
+        graine_ = QRandomGenerator::global()->generate();
+        emit change();
+    });
     ajouter("max", "Au plus", ligne("500"), "Nombre de mots gardés");
 }
 
@@ -174,12 +182,12 @@ QString Criteres::texte() const {
         auto v = valeur(champ);
         if (v.isEmpty())
             continue;
-        const bool saisi = champ.cle != QLatin1String("ordre");
         v.remove(QLatin1Char('"'));
         criteres << champ.cle + QLatin1Char('=') +
-                        (saisi && v.contains(QLatin1Char(' '))
-                             ? QLatin1Char('"') + v + QLatin1Char('"')
-                             : v);
+                        (v.contains(QLatin1Char(' ')) ? QLatin1Char('"') + v + QLatin1Char('"')
+                                                      : v);
+        if (champ.cle == QLatin1String("ordre") && v == QLatin1String("hasard"))
+            criteres << QStringLiteral("graine=%1").arg(graine_);
     }
     return criteres.join(QLatin1Char(' '));
 }

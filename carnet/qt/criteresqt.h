@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QLabel>
+#include <QRandomGenerator>
 #include <QWidget>
 
 #include "criteres.h"
@@ -45,6 +46,7 @@ class Criteres : public QWidget {
 
     std::vector<Champ> champs_;
     std::vector<QComboBox*> natures_;
+    quint32 graine_ = QRandomGenerator::global()->generate();  ///< of the order by chance
 };
 
 }  // namespace carnet

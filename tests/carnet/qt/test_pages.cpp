@@ -33,6 +33,7 @@ namespace {
 
 using namespace carnet;
 using testing::HasSubstr;
+using testing::MatchesRegex;
 
 std::vector<std::string> rangees(std::size_t nombre) {
     std::vector<std::string> toutes;
@@ -86,9 +87,21 @@ TEST_F(Formulaire, dit_ses_criteres_en_texte) {
     choix("par")->setCurrentIndex(1);
     choix("ordre")->setCurrentIndex(4);
     ligne("max")->setText(QStringLiteral("500"));
-    EXPECT_EQ(criteres.texte().toStdString(),
-              "longueur=7-8 contient=qu,k nature=nom,!pluriel dans=\"la mienne.txt\" par=1 "
-              "ordre=hasard graine=1 max=500");
+    EXPECT_THAT(
+        criteres.texte().toStdString(),
+        MatchesRegex("longueur=7-8 contient=qu,k nature=nom,!pluriel dans=\"la mienne.txt\" "
+                     "par=1 ordre=hasard graine=[0-9]+ max=500"));
+}
+
+TEST_F(Formulaire, au_hasard_choisi_de_nouveau_en_tire_d_autres) {
+    choix("ordre")->setCurrentIndex(4);
+    const auto premier = criteres.texte();
+    ligne("max")->setText(QStringLiteral("9"));
+    EXPECT_EQ(criteres.texte(), premier + QStringLiteral(" max=9"));
+    const QSignalSpy changes(&criteres, &Criteres::change);
+    emit choix("ordre")->activated(4);
+    EXPECT_NE(criteres.texte(), premier + QStringLiteral(" max=9"));
+    EXPECT_EQ(changes.count(), 1);
 }
 
 TEST_F(Formulaire, efface_tout_en_une_fois) {
