@@ -7,11 +7,9 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPalette>
-#include <QTranslator>
 
 #include "arguments.h"
 #include "console.h"
@@ -21,6 +19,7 @@
 #include "preparation.h"
 #include "reponses.h"
 #include "textesqt.h"
+#include "traduction.h"
 
 namespace {
 
@@ -55,10 +54,7 @@ int ouvrir(const carnet::Options& options, int& nombre, char** arguments) {
     QApplication::setApplicationDisplayName(QStringLiteral("Orvane"));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvane-carnet"));
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-    QTranslator boites;
-    if (boites.load(QStringLiteral("qtbase_fr"),
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&boites);
+    carnet::traduire();
     // Some themes leave this one out: a grey that reads on light and on dark.
     QPalette palette;
     palette.setColor(QPalette::PlaceholderText, QColor(128, 128, 128));
