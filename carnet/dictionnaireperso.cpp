@@ -8,7 +8,6 @@
 namespace carnet {
 namespace {
 
-constexpr std::string_view marqueutf8 = "\xEF\xBB\xBF";
 constexpr std::size_t extraitmax = 40;
 constexpr std::size_t exemplesmax = 12;
 
@@ -20,25 +19,18 @@ bool ascii(std::string_view texte) {
 /// A word of fifteen letters, each of four bytes, and what may stand around it.
 constexpr std::size_t lignemax = 256;
 
-std::string_view sansblancs(std::string_view ligne) {
-    const auto debut = ligne.find_first_not_of(" \t");
-    if (debut == std::string_view::npos)
-        return {};
-    return ligne.substr(debut, ligne.find_last_not_of(" \t") - debut + 1);
-}
-
 class Lecteur {
   public:
     Motslus lire(std::string_view octets) {
-        if (octets.starts_with(marqueutf8)) {
-            octets.remove_prefix(marqueutf8.size());
+        if (octets.starts_with(common::marqueutf8)) {
+            octets.remove_prefix(common::marqueutf8.size());
             utf8_ = true;
         }
         atelier::LignesTexte lignes(octets);
         std::string_view ligne;
         while (lignes.suivante(ligne)) {
             numero_ = lignes.numero();
-            prendre(sansblancs(ligne));
+            prendre(common::sansblancs(ligne));
         }
         auto& mots = lus_.mots;
         std::sort(mots.begin(), mots.end());

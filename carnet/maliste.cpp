@@ -22,13 +22,6 @@ constexpr std::array appareils = std::to_array<std::string_view>(
 constexpr std::array ducarnet{nomsdujour.simple, nomsdujour.multiple, nomsdesdurs.simple,
                               nomsdesdurs.multiple};
 
-std::string sansblancs(std::string_view texte) {
-    const auto debut = texte.find_first_not_of(" \t");
-    if (debut == std::string_view::npos)
-        return {};
-    return std::string(texte.substr(debut, texte.find_last_not_of(" \t") - debut + 1));
-}
-
 bool fourni(const std::string& fichier) {
     const auto lequel = [&](std::string_view nom) { return common::minuscules(nom) == fichier; };
     const auto fixes = menu::fichiersfixes();
@@ -41,7 +34,7 @@ bool fourni(const std::string& fichier) {
 }  // namespace
 
 std::string fichierdenom(std::string_view nom) {
-    auto fichier = sansblancs(nom);
+    std::string fichier(common::sansblancs(nom));
     if (!fichier.empty() && !common::minuscules(fichier).ends_with(extension))
         fichier += extension;
     return fichier;

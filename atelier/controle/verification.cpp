@@ -15,6 +15,7 @@
 #include "lignestexte.h"
 #include "listes.h"
 #include "nombre.h"
+#include "texte.h"
 #include "verification_rangee.h"
 
 namespace atelier {
@@ -23,7 +24,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view action = "Vérification";
-constexpr std::string_view findeligne = "\r\n";
 /// Most lines of notes that the makers of the lists put in the file.
 constexpr std::size_t seizebits = common::plusgrand16;
 
@@ -191,10 +191,10 @@ class Verificateur {
         for (const auto& exemple : exemples) {
             if (exemple.fichier != fichier)
                 continue;
-            const auto ligne = std::string(findeligne) + std::string(exemple.ligne);
+            const auto ligne = std::string(common::findeligne) + std::string(exemple.ligne);
             const bool trouve =
-                (std::string(findeligne) + octets).find(ligne + std::string(findeligne)) !=
-                std::string::npos;
+                (std::string(common::findeligne) + octets)
+                    .find(ligne + std::string(common::findeligne)) != std::string::npos;
             if (trouve != exemple.present)
                 dire(Gravite::remarque, chemin, 0,
                      "l'aide du menu dit que « " + std::string(exemple.ligne) +

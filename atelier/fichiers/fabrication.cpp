@@ -15,8 +15,6 @@
 namespace atelier {
 namespace {
 
-constexpr std::string_view findeligne = "\r\n";
-
 std::string chemindeliste(std::string_view fichier) {
     return std::string(common::dossierlistes) + '/' + std::string(fichier);
 }
@@ -24,22 +22,22 @@ std::string chemindeliste(std::string_view fichier) {
 std::string octets(std::span<const Rangee> rangees) {
     std::string texte;
     for (const auto& rangee : rangees)
-        texte.append(rangee.texte()).append(findeligne);
+        texte.append(rangee.texte()).append(common::findeligne);
     return texte;
 }
 
 std::string octets(const std::vector<Capitales>& mots) {
     std::string texte;
     for (const auto& mot : mots)
-        texte.append(mot.texte()).append(findeligne);
+        texte.append(mot.texte()).append(common::findeligne);
     return texte;
 }
 
 std::string octets(const std::vector<Note>& notes) {
     std::string texte;
     for (const auto& note : notes) {
-        texte.append(note.mot).append(findeligne);
-        texte.append(common::vers1252(note.texte)).append(findeligne);
+        texte.append(note.mot).append(common::findeligne);
+        texte.append(common::vers1252(note.texte)).append(common::findeligne);
     }
     return texte;
 }
@@ -50,7 +48,7 @@ std::string octets(std::string_view texte) {
     LignesTexte lignes(texte);
     std::string_view ligne;
     while (lignes.suivante(ligne))
-        resultat.append(common::vers1252(ligne)).append(findeligne);
+        resultat.append(common::vers1252(ligne)).append(common::findeligne);
     return resultat;
 }
 

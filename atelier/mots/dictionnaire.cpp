@@ -11,26 +11,18 @@ namespace atelier {
 namespace {
 
 constexpr std::string_view action = "Lecture du dictionnaire";
-constexpr std::string_view marqueutf8 = "\xEF\xBB\xBF";
-
-std::string_view sansblancs(std::string_view ligne) {
-    const auto debut = ligne.find_first_not_of(" \t");
-    if (debut == std::string_view::npos)
-        return {};
-    return ligne.substr(debut, ligne.find_last_not_of(" \t") - debut + 1);
-}
 
 }  // namespace
 
 Dictionnaire liredictionnaire(std::string_view octets, std::string_view chemin) {
-    if (octets.starts_with(marqueutf8))
-        octets.remove_prefix(marqueutf8.size());
+    if (octets.starts_with(common::marqueutf8))
+        octets.remove_prefix(common::marqueutf8.size());
     const bool utf8 = points(octets).has_value();
     Dictionnaire mots;
     LignesTexte lignes(octets);
     std::string_view ligne;
     while (lignes.suivante(ligne)) {
-        const auto texte = sansblancs(ligne);
+        const auto texte = common::sansblancs(ligne);
         if (texte.empty())
             continue;
         const auto mot =

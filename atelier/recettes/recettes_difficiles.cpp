@@ -88,7 +88,7 @@ Recette recettecourante(std::string_view fichier, std::size_t taille) {
             [taille](const Matiere& m) { return motscourants(m, taille); }};
 }
 
-Recette recetteatypique(std::string_view fichier, std::size_t taille) {
+Recette recettekvd(std::string_view fichier, std::size_t taille) {
     return {std::string(fichier),
             "Les " + std::to_string(dursentrees) + " entrées et les " +
                 std::to_string(dursconjugues) + " formes conjuguées de " + std::to_string(taille) +
@@ -100,10 +100,10 @@ Recette recetteatypique(std::string_view fichier, std::size_t taille) {
 
 std::vector<Recette> recettesdifficiles() {
     return {
-        recettecourante("courant_6L.txt", 6),  recettecourante("courant_7L.txt", 7),
-        recettecourante("courant_8L.txt", 8),  recettecourante("courant_9L.txt", 9),
-        recetteatypique("durs_kvd_6L.txt", 6), recetteatypique("durs_kvd_7L.txt", 7),
-        recetteatypique("durs_kvd_8L.txt", 8), recetteatypique("durs_kvd_9L.txt", 9),
+        recettecourante("courant_6L.txt", 6), recettecourante("courant_7L.txt", 7),
+        recettecourante("courant_8L.txt", 8), recettecourante("courant_9L.txt", 9),
+        recettekvd("durs_kvd_6L.txt", 6),     recettekvd("durs_kvd_7L.txt", 7),
+        recettekvd("durs_kvd_8L.txt", 8),     recettekvd("durs_kvd_9L.txt", 9),
     };
 }
 

@@ -47,7 +47,7 @@ std::vector<Capitales> transitifs(const Matiere& m) {
                    common::listevbt.places);
 }
 
-std::vector<Capitales> invariables(const Matiere& m) {
+std::vector<Capitales> motsinvariables(const Matiere& m) {
     return lettres(choisir(m.mots, longueurmin, longueurmax,
                            [&](const Mot& mot) { return invariable(m.mots, mot); }),
                    common::listeinv.places);
@@ -69,7 +69,7 @@ std::vector<Reference> references() {
                       participesinvariables});
     toutes.push_back({common::listevbt, "Les verbes transitifs de 4 à 10 lettres.", transitifs});
     toutes.push_back(
-        {common::listeinv, "Les mots invariables, les plus courts d'abord.", invariables});
+        {common::listeinv, "Les mots invariables, les plus courts d'abord.", motsinvariables});
     return toutes;
 }
 

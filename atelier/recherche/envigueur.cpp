@@ -10,7 +10,6 @@
 namespace recherche {
 namespace {
 
-constexpr std::string_view findeligne = "\r\n";
 constexpr std::string_view motlibre = "libre";
 constexpr std::string_view motperso = "perso";
 
@@ -27,13 +26,16 @@ std::string nomretenu(std::string_view fichier) {
 
 std::string octets(const Envigueur& envigueur) {
     std::string texte(envigueur.libre() ? motlibre : motperso);
-    texte.append(findeligne).append(std::to_string(envigueur.mots)).append(findeligne);
-    texte.append(common::vers1252(nomretenu(envigueur.fichier))).append(findeligne);
+    texte.append(common::findeligne)
+        .append(std::to_string(envigueur.mots))
+        .append(common::findeligne);
+    texte.append(common::vers1252(nomretenu(envigueur.fichier))).append(common::findeligne);
     for (std::size_t i = 0; i < atelier::editions.size(); ++i) {
         if (envigueur.comparaisons.at(i).empty())
             continue;
         texte.append(atelier::editions.at(i).annee).append("=");
-        texte.append(common::vers1252(nomretenu(envigueur.comparaisons.at(i)))).append(findeligne);
+        texte.append(common::vers1252(nomretenu(envigueur.comparaisons.at(i))))
+            .append(common::findeligne);
     }
     return texte;
 }

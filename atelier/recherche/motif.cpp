@@ -8,7 +8,7 @@ namespace recherche {
 namespace {
 
 constexpr std::uint32_t toutes = (1U << 26U) - 1;
-constexpr std::uint32_t suite = 0;
+constexpr std::uint32_t placesuite = 0;
 
 bool lettre(char c) {
     return c >= 'A' && c <= 'Z';
@@ -27,14 +27,14 @@ Motif::Motif(std::string_view texte, std::string& ennui) {
             places_.push_back(toutes);
         else if (c == '[')
             ennui = lireclasse(texte);
-        else if (c == '*' && (places_.empty() || places_.back() != suite))
-            places_.push_back(suite);
+        else if (c == '*' && (places_.empty() || places_.back() != placesuite))
+            places_.push_back(placesuite);
         else if (c != '*')
             ennui = "« " + std::string(1, c) + " » n'est ni une lettre, ni ?, ni *, ni [..]";
     }
-    etoile_ = std::find(places_.begin(), places_.end(), suite) != places_.end();
+    etoile_ = std::find(places_.begin(), places_.end(), placesuite) != places_.end();
     minimum_ = static_cast<std::size_t>(
-        std::count_if(places_.begin(), places_.end(), [](Place p) { return p != suite; }));
+        std::count_if(places_.begin(), places_.end(), [](Place p) { return p != placesuite; }));
 }
 
 std::string Motif::lireclasse(std::string_view& reste) {
@@ -75,7 +75,7 @@ bool Motif::convient(std::string_view mot) const {
     std::size_t derniere = places_.size();
     std::size_t retour = 0;
     while (m < mot.size()) {
-        if (p < places_.size() && places_[p] == suite) {
+        if (p < places_.size() && places_[p] == placesuite) {
             derniere = p++;
             retour = m;
         } else if (p < places_.size() && accepte(places_[p], mot[m])) {
@@ -88,7 +88,7 @@ bool Motif::convient(std::string_view mot) const {
             return false;
         }
     }
-    return p == places_.size() || (p + 1 == places_.size() && places_[p] == suite);
+    return p == places_.size() || (p + 1 == places_.size() && places_[p] == placesuite);
 }
 
 }  // namespace recherche

@@ -11,7 +11,7 @@
 namespace atelier {
 namespace {
 
-constexpr std::string_view action = "Lecture des affixes";
+constexpr std::string_view actionaffixes = "Lecture des affixes";
 /// Marks that the file names by keyword instead of by rules.
 constexpr std::array marques{drapeausansforme, drapeaucasse, std::string_view("--"),
                              std::string_view("{}"), std::string_view("**")};
@@ -74,7 +74,7 @@ class LecteurAffixes {
 
   private:
     [[noreturn]] void faute(const std::string& ennui) const {
-        throw common::Faute(common::rapportligne(action, chemin_, lignes_.numero(), ennui));
+        throw common::Faute(common::rapportligne(actionaffixes, chemin_, lignes_.numero(), ennui));
     }
 
     [[noreturn]] void fautebloc() const {

@@ -15,7 +15,7 @@
 namespace atelier {
 namespace {
 
-constexpr std::string_view action = "Lecture du lexique";
+constexpr std::string_view actionlexique = "Lecture du lexique";
 
 /// A dictionary may hold this share fewer entries than its first line says before it counts as cut.
 constexpr std::size_t tolerance = 100;
@@ -105,7 +105,7 @@ class LecteurLexique {
 
   private:
     [[noreturn]] void faute(const std::string& ennui) const {
-        throw common::Faute(common::rapportligne(action, chemin_, lignes_.numero(), ennui));
+        throw common::Faute(common::rapportligne(actionlexique, chemin_, lignes_.numero(), ennui));
     }
 
     std::size_t lireentete() {
@@ -268,7 +268,7 @@ class LecteurLexique {
         const auto modele = modeles_.find(ajout.modele);
         if (modele == modeles_.end())
             throw common::Faute(common::rapportligne(
-                action, fichierajouts, ajout.ligne,
+                actionlexique, fichierajouts, ajout.ligne,
                 "« " + ajout.modele + " » n'est pas un verbe du lexique « " + chemin_ + " »"));
         auto entree = modele->second;
         entree.mot = ajout.mot;

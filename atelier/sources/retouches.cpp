@@ -13,7 +13,7 @@
 namespace atelier {
 namespace {
 
-constexpr std::string_view action = "Lecture des retouches du lexique";
+constexpr std::string_view actionretouches = "Lecture des retouches du lexique";
 constexpr std::string_view titreinjures = "[injures]";
 constexpr std::string_view titrerefus = "[refus]";
 
@@ -47,7 +47,8 @@ class LignesUtiles {
     [[nodiscard]] std::size_t numero() const { return lignes_.numero(); }
 
     [[noreturn]] void faute(const std::string& ennui) const {
-        throw common::Faute(common::rapportligne(action, fichier_, lignes_.numero(), ennui));
+        throw common::Faute(
+            common::rapportligne(actionretouches, fichier_, lignes_.numero(), ennui));
     }
 
     /// The capitals of a word of the line.

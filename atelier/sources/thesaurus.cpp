@@ -11,7 +11,7 @@
 namespace atelier {
 namespace {
 
-constexpr std::string_view action = "Lecture du thésaurus";
+constexpr std::string_view actionthesaurus = "Lecture du thésaurus";
 constexpr std::size_t fichesprevues = 60000;
 
 /// Cuts the next item off a line of items between bars.
@@ -28,7 +28,7 @@ Thesaurus::Thesaurus(std::string texte, std::string_view chemin)
     : texte_(std::make_unique<const std::string>(std::move(texte))) {
     LignesTexte lignes(*texte_);
     const auto faute = [&](const std::string& ennui) {
-        return common::Faute(common::rapportligne(action, chemin, lignes.numero(), ennui));
+        return common::Faute(common::rapportligne(actionthesaurus, chemin, lignes.numero(), ennui));
     };
     std::string_view ligne;
     if (!lignes.suivante(ligne) || ligne != "UTF-8")

@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "boites.h"
+#include "echelle.h"
 #include "listedujour.h"
 #include "planche.h"
 #include "seance.h"
@@ -27,7 +28,6 @@
 namespace carnet {
 namespace {
 
-constexpr std::size_t joursprevus = 30;
 constexpr std::size_t plusdurs = 60;
 constexpr int moisparan = 12;
 
@@ -36,7 +36,7 @@ struct Libelle {
     const char* vide;  ///< what is said where there is nothing to show
 };
 /// In the order of `Vue`.
-constexpr std::array libelles{
+constexpr std::array libellesdesvues{
     Libelle{
         "Le calendrier",
         "Rien de corrigé dans ces douze mois. Jouez une série dans Orvane, F12 la corrige : elle "
@@ -60,7 +60,7 @@ Pageprogres::Pageprogres(Seance& seance, QWidget* parent)
       titredequoi_(new QLabel(this)),
       dequoi_(new QComboBox(this)),
       vide_(new QLabel(this)),
-      planche_(new Planche(QString::fromUtf8(libelles.front().titre), this)),
+      planche_(new Planche(QString::fromUtf8(libellesdesvues.front().titre), this)),
       surlesdurs_(nullptr),
       message_(new QLabel(this)) {
     // Before a layout takes the choice: this sets the page's place in the order of Tab.
@@ -94,7 +94,7 @@ Pageprogres::Pageprogres(Seance& seance, QWidget* parent)
 
 QWidget* Pageprogres::choix() {
     auto* haut = new QWidget(this);
-    for (const auto& libelle : libelles)
+    for (const auto& libelle : libellesdesvues)
         vues_->addItem(QString::fromUtf8(libelle.titre));
     vues_->setAccessibleName(QStringLiteral("Voir"));
     vues_->setObjectName(QStringLiteral("voir"));
@@ -196,7 +196,7 @@ void Pageprogres::montrer() {
         vide = seance_.lecture().encours() ? QStringLiteral("Lecture du journal…")
                                            : QStringLiteral("Le journal n'a pas été lu.");
     if (suivi && planche_->tableau().rangees.empty())
-        vide = QString::fromUtf8(libelles.at(static_cast<std::size_t>(vue())).vide);
+        vide = QString::fromUtf8(libellesdesvues.at(static_cast<std::size_t>(vue())).vide);
     if (suivi && !suivi->ennui.empty())
         vide += QLatin1Char(' ') + qt(suivi->ennui);
     const bool image = suivi && !planche_->tableau().rangees.empty();
@@ -211,7 +211,7 @@ void Pageprogres::montrer() {
 
 void Pageprogres::montrervue(Vue vue) {
     const auto& suivi = *seance_.suivi();
-    const auto titre = QString::fromUtf8(libelles.at(static_cast<std::size_t>(vue)).titre);
+    const auto titre = QString::fromUtf8(libellesdesvues.at(static_cast<std::size_t>(vue)).titre);
     const auto prevus = suivi.echelle.prevoir(suivi.jour, joursprevus);
     const auto parpalier = suivi.echelle.parpalier();
     const auto& bilans = suivi.bilans;

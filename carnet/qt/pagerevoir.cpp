@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "boites.h"
+#include "echelle.h"
 #include "joueurs.h"
 #include "listedujour.h"
 #include "planche.h"
@@ -21,8 +22,6 @@
 
 namespace carnet {
 namespace {
-
-constexpr std::size_t joursprevus = 30;
 
 QString tirages(std::size_t nombre) {
     return compte(nombre, QStringLiteral("tirage"), QStringLiteral("tirages"));

@@ -23,6 +23,8 @@ inline constexpr std::array paliers{1, 3, 7, 15, 30, 60, 120, 240, 365};
 inline constexpr int plafondordinaire = 60;
 inline constexpr int plafondminimum = 1;
 inline constexpr int plafondmaximum = 900;
+/// Days for which what will be due is shown.
+inline constexpr std::size_t joursprevus = 30;
 
 /// FNV-1a of 64 bits.
 [[nodiscard]] constexpr std::uint64_t fnv1a(std::string_view octets) {

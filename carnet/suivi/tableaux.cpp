@@ -39,7 +39,7 @@ std::string jours(std::size_t nombre) {
 }  // namespace
 
 std::string encsv(const Tableau& tableau) {
-    std::string octets = "\xEF\xBB\xBF";
+    std::string octets(common::marqueutf8);
     ligne(octets, tableau.titres);
     for (const auto& rangee : tableau.rangees)
         ligne(octets, rangee);

@@ -8,8 +8,7 @@
 namespace common {
 namespace {
 
-constexpr std::size_t bloc = limiteligne;  // read at once
-constexpr std::string_view findeligne = "\r\n";
+constexpr std::size_t lusdunefois = limiteligne;
 
 std::string octets(std::span<const std::string> lignes, std::string_view chemin,
                    std::string_view action, std::size_t limite) {
@@ -33,7 +32,7 @@ std::error_code lire(Disque& disque, std::string_view chemin, std::string& conte
     std::size_t lus = 1;
     while (!erreur && lus > 0) {
         const auto place = contenu.size();
-        contenu.resize(place + bloc);
+        contenu.resize(place + lusdunefois);
         lus = 0;
         erreur = flux->lire(std::span(contenu).subspan(place), lus);
         contenu.resize(place + lus);

@@ -4,13 +4,13 @@
 
 #include "faute.h"
 #include "fichier.h"
+#include "texte.h"
 
 namespace common {
 namespace {
 
 /// Read at once. No limit is lower, so a line that lies whole in a block is short enough.
 constexpr std::size_t bloc = limiteligne;
-constexpr std::string_view findeligne = "\r\n";
 
 /// What makes an item other than a whole line, a blank at its start aside.
 bool sanssigne(std::string_view octets) {

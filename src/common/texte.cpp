@@ -91,6 +91,14 @@ std::string minuscules(std::string_view texte) {
     return resultat;
 }
 
+std::string_view sansblancs(std::string_view texte) {
+    constexpr std::string_view blancs = " \t";
+    const auto debut = texte.find_first_not_of(blancs);
+    if (debut == std::string_view::npos)
+        return {};
+    return texte.substr(debut, texte.find_last_not_of(blancs) - debut + 1);
+}
+
 char32_t premier(std::string_view texte) {
     if (texte.empty())
         return 0;

@@ -11,6 +11,11 @@
 
 namespace common {
 
+/// The end of a line in the files that are written.
+inline constexpr std::string_view findeligne = "\r\n";
+/// What begins a file of UTF-8 that says so.
+inline constexpr std::string_view marqueutf8 = "\xEF\xBB\xBF";
+
 /// Number of characters of a UTF-8 text.
 [[nodiscard]] std::size_t longueur(std::string_view texte);
 
@@ -28,6 +33,9 @@ namespace common {
 
 /// The text in lower case, including the accented letters of Windows-1252.
 [[nodiscard]] std::string minuscules(std::string_view texte);
+
+/// The text without the blanks and tabulations at its ends.
+[[nodiscard]] std::string_view sansblancs(std::string_view texte);
 
 /// The first character of a UTF-8 text, 0 for an empty one; a malformed byte stands for itself.
 [[nodiscard]] char32_t premier(std::string_view texte);

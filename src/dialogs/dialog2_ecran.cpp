@@ -11,15 +11,15 @@ namespace dialogs {
 namespace {
 
 // Three columns: what a line is about, its value, its unit.
-constexpr int marge = 360;
+constexpr int margeoptions = 360;
 constexpr int colonnevaleur = 4860;
 constexpr int colonneunite = 5760;
-constexpr int largeurforme = 8280;
-constexpr int largeurlibelle = colonnevaleur - marge - 120;
+constexpr int largeuroptions = 8280;
+constexpr int largeurlibelle = colonnevaleur - margeoptions - 120;
 constexpr int largeurvaleur = 780;
-constexpr int largeurresultat = largeurforme - colonnevaleur - marge;
-constexpr int largeurunite = largeurforme - colonneunite - marge;
-constexpr int hauteurtexte = 285;
+constexpr int largeurresultat = largeuroptions - colonnevaleur - margeoptions;
+constexpr int largeurunite = largeuroptions - colonneunite - margeoptions;
+constexpr int hauteurlibelle = 285;
 constexpr int hauteurboite = 345;
 constexpr int largeurbouton = 1680;
 constexpr int hauteurbouton = 450;
@@ -36,7 +36,7 @@ constexpr int ligneson = 6045;
 constexpr int ligneassistance = 6465;
 constexpr int lignemessage = 7065;
 constexpr int ligneboutons = 7560;
-constexpr int hauteurforme = 8220;
+constexpr int hauteuroptions = 8220;
 constexpr int pas = 390;
 constexpr int ecartsousfilet = 135;
 constexpr int pasresultat = 315;
@@ -118,14 +118,15 @@ constexpr ui::Cadrage boite(int haut) {
     return {colonnevaleur, haut - 30, largeurvaleur, hauteurboite};
 }
 constexpr ui::Cadrage calcul(int haut) {
-    return {colonnevaleur, haut, largeurresultat, hauteurtexte};
+    return {colonnevaleur, haut, largeurresultat, hauteurlibelle};
 }
 constexpr ui::Cadrage choix(int haut) {
     return {colonnevaleur, haut - 30, largeurresultat, hauteurboite};
 }
 constexpr ui::Cadrage bouton(int rangdepuisladroite) {
-    return {largeurforme - marge - largeurbouton - rangdepuisladroite * (largeurbouton + 180),
-            ligneboutons, largeurbouton, hauteurbouton};
+    return {
+        largeuroptions - margeoptions - largeurbouton - rangdepuisladroite * (largeurbouton + 180),
+        ligneboutons, largeurbouton, hauteurbouton};
 }
 
 auto places() {
@@ -144,7 +145,10 @@ auto places() {
         Place{"Combo1", -1, choix(lignecouleur), "Couleur du fond"},
         Place{"Check1", -1, choix(ligneson), ""},
         Place{"Check2", -1, choix(ligneassistance), ""},
-        Place{"Label4", -1, {marge, lignemessage, largeurforme - 2 * marge, hauteurboite}, ""},
+        Place{"Label4",
+              -1,
+              {margeoptions, lignemessage, largeuroptions - 2 * margeoptions, hauteurboite},
+              ""},
         Place{"OKButton", -1, bouton(1), ""},
         Place{"Command1", -1, bouton(0), ""},
     };
@@ -153,14 +157,14 @@ auto places() {
 ui::Controle& etiquette(ui::Formulaire& form, const Libelle& libelle, int gauche, int largeur) {
     auto& controle = form.ajouter(ui::Genre::Etiquette, libelle.nom, libelle.index);
     controle.texte = libelle.texte;
-    controle.placer({gauche, libelle.haut, largeur, hauteurtexte});
+    controle.placer({gauche, libelle.haut, largeur, hauteurlibelle});
     return controle;
 }
 
 /// A thin rule above a group.
 void filet(ui::Formulaire& form, int index, int haut) {
     auto& trait = form.ajouter(ui::Genre::Ligne, "Line1", index);
-    trait.placer({marge, haut, largeurforme - 2 * marge, 0});
+    trait.placer({margeoptions, haut, largeuroptions - 2 * margeoptions, 0});
     trait.couleur = ui::Couleur(0x9A8C80);
 }
 
@@ -168,20 +172,20 @@ void filet(ui::Formulaire& form, int index, int haut) {
 
 /// Makes the labels of fixed text, and gives every control its place.
 void Dialog2::disposer() {
-    largeur = largeurforme;
-    hauteur = hauteurforme;
+    largeur = largeuroptions;
+    hauteur = hauteuroptions;
     message_.couleur = couleurdumessage;
     for (const auto& titre : titres()) {
         const bool fondu = titre.index >= premiertitrefondu;
-        auto& pose =
-            etiquette(*this, titre, marge, fondu ? largeurlibelle : largeurforme - 2 * marge);
+        auto& pose = etiquette(*this, titre, margeoptions,
+                               fondu ? largeurlibelle : largeuroptions - 2 * margeoptions);
         pose.gras = true;
         pose.taille = tailletitre;
         pose.aspect = ui::Aspect::Titre;
         pose.fondu = fondu;
     }
     for (const auto& libelle : libelles())
-        etiquette(*this, libelle, marge, largeurlibelle);
+        etiquette(*this, libelle, margeoptions, largeurlibelle);
     for (const auto& unite : unites())
         etiquette(*this, unite, colonneunite, largeurunite);
     int index = 0;

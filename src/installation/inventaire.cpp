@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view action = "Inventaire des fichiers du programme";
+constexpr std::string_view actioninventaire = "Inventaire des fichiers du programme";
 constexpr std::string_view separation = "  ./";
 
 /// The path of the rules for a file of the folder.
@@ -61,13 +61,14 @@ Inventaire inventorier(const fs::path& dossier) {
     }
     if (erreur)
         throw common::Faute(
-            common::rapportfichier(action, dossier.string(), common::raison(erreur)));
+            common::rapportfichier(actioninventaire, dossier.string(), common::raison(erreur)));
     std::sort(chemins.begin(), chemins.end());
     common::DisqueReel disque(dossier);
     for (const auto& chemin : chemins) {
         Fourni fourni{{}, chemin};
         if (const auto ennui = sommer(disque, chemin, fourni.somme))
-            throw common::Faute(common::rapportfichier(action, chemin, common::raison(ennui)));
+            throw common::Faute(
+                common::rapportfichier(actioninventaire, chemin, common::raison(ennui)));
         inventaire.fichiers.push_back(std::move(fourni));
     }
     return inventaire;
@@ -88,7 +89,7 @@ std::string ecrire(const Inventaire& inventaire) {
 }
 
 Inventaire lireinventaire(common::Disque& disque) {
-    const auto octets = common::liretexte(disque, fichierinventaire, action);
+    const auto octets = common::liretexte(disque, fichierinventaire, actioninventaire);
     common::Lignes lignes(octets);
     Inventaire inventaire;
     std::string_view ligne;
@@ -97,13 +98,13 @@ Inventaire lireinventaire(common::Disque& disque) {
     for (std::size_t numero = 2; lignes.suivante(ligne); ++numero) {
         Fourni fourni;
         if (!lireligne(ligne, fourni))
-            throw common::Faute(common::rapportligne(action, fichierinventaire, numero,
+            throw common::Faute(common::rapportligne(actioninventaire, fichierinventaire, numero,
                                                      "ce n'est pas une somme et un nom"));
         inventaire.fichiers.push_back(std::move(fourni));
     }
     if (inventaire.version.empty())
         throw common::Faute(
-            common::rapportligne(action, fichierinventaire, 1, "la version manque"));
+            common::rapportligne(actioninventaire, fichierinventaire, 1, "la version manque"));
     return inventaire;
 }
 

@@ -11,12 +11,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view action = "Ouverture de votre dossier";
+constexpr std::string_view actionouverture = "Ouverture de votre dossier";
 
-void verifier(const fs::path& dossier, const std::error_code& erreur) {
+void exiger(const fs::path& dossier, const std::error_code& erreur) {
     if (erreur)
         throw common::Faute(
-            common::rapportfichier(action, dossier.string(), common::raison(erreur)));
+            common::rapportfichier(actionouverture, dossier.string(), common::raison(erreur)));
 }
 
 /// Creates the folder and its missing parents.
@@ -39,13 +39,13 @@ Lieu preparer(common::Appels& appels, const Environs& environs) {
     auto lieu = choisir(appels, environs);
     if (lieu.fournis.empty())
         return lieu;
-    verifier(lieu.dossier, common::remettrelistes(appels, lieu.dossier));
+    exiger(lieu.dossier, common::remettrelistes(appels, lieu.dossier));
     common::DisqueReel source(lieu.fournis, appels);
     common::DisqueReel cible(lieu.dossier, appels);
     const auto inventaire = lireinventaire(source);
     if (versionrecue(cible) == inventaire.version)
         return lieu;
-    verifier(lieu.dossier, creer(appels, lieu.dossier));
+    exiger(lieu.dossier, creer(appels, lieu.dossier));
     rafraichir(appels, lieu.fournis, lieu.dossier, inventaire);
     return lieu;
 }
@@ -55,7 +55,7 @@ Lieu sinstaller(const fs::path& programme) {
     std::error_code erreur;
     if (!lieu.dossier.empty())
         fs::current_path(lieu.dossier, erreur);
-    verifier(lieu.dossier, erreur);
+    exiger(lieu.dossier, erreur);
     return lieu;
 }
 

@@ -13,13 +13,13 @@
 namespace installation {
 namespace {
 
-constexpr std::string_view action = "Mise en place des fichiers du programme";
+constexpr std::string_view actionplace = "Mise en place des fichiers du programme";
 constexpr std::string_view fichierdictionnaire = "listes\\dictionnaire.dat";
 constexpr int attentes = 12;  // times the limit for a lock: a slow disk takes a while
 
 void verifier(std::string_view chemin, const std::error_code& erreur) {
     if (erreur)
-        throw common::Faute(common::rapportfichier(action, chemin, common::raison(erreur)));
+        throw common::Faute(common::rapportfichier(actionplace, chemin, common::raison(erreur)));
 }
 
 /// Every line that was ever written there, and those of the inventory.
@@ -121,8 +121,9 @@ class Rafraichissement {
         Somme somme;
         somme.ajouter(octets);
         if (somme.finir() != fourni.somme)
-            throw common::Faute(common::rapportfichier(
-                action, fourni.chemin, "le fichier installé n'est pas celui qui était attendu"));
+            throw common::Faute(
+                common::rapportfichier(actionplace, fourni.chemin,
+                                       "le fichier installé n'est pas celui qui était attendu"));
         verifier(dossierattente, attente_.ajouter(octets));
     }
 

@@ -9,8 +9,8 @@
 namespace profiles {
 namespace {
 
-constexpr std::string_view lecture = "Lecture des résultats";
-constexpr std::string_view separateur = " - ";
+constexpr std::string_view lectureresultats = "Lecture des résultats";
+constexpr std::string_view tiret = " - ";
 constexpr std::size_t longueurheure = 5;   // HH:MM
 constexpr std::size_t placepourcent = 21;  // of the percent text, from 0
 constexpr std::size_t versmode = 4;        // from the "%" to the mode
@@ -35,10 +35,10 @@ std::string nomcourt(std::string_view fich, std::string_view toue, std::string_v
 std::string enregistrement(const common::Instant& quand, double pourc, std::string_view toue,
                            std::string_view nom) {
     std::string record = quand.date();
-    record.append(separateur).append(common::debut(quand.heuredujour(), longueurheure));
-    record.append(separateur).append(common::textenombre(pourc)).append("%").append(separateur);
+    record.append(tiret).append(common::debut(quand.heuredujour(), longueurheure));
+    record.append(tiret).append(common::textenombre(pourc)).append("%").append(tiret);
     if (!toue.empty())
-        record.append(toue).append(separateur);
+        record.append(toue).append(tiret);
     return record.append(nom);
 }
 
@@ -66,13 +66,13 @@ std::optional<Balayage> balayer(std::string_view record) {
 void parcourirhist(common::Disque& disque, std::string_view util,
                    const std::function<bool(std::string_view)>& voir) {
     const auto chemin = cheminhist(util);
-    common::Items items(disque, chemin, lecture);
+    common::Items items(disque, chemin, lectureresultats);
     std::string_view item;
     std::size_t gardes = 0;
     while (items.lireitem(item)) {
         if (voir(item) && ++gardes > maximumhist) {
             throw common::Faute(common::rapportligne(
-                lecture, chemin, items.numero(),
+                lectureresultats, chemin, items.numero(),
                 "le journal dépasse la limite de " + std::to_string(maximumhist) +
                     " résultats. Ôtez-en les lignes les plus anciennes, en tête du fichier"));
         }

@@ -14,7 +14,6 @@ namespace profiles {
 namespace {
 
 constexpr char separateur = ';';
-constexpr std::string_view findeligne = "\r\n";
 constexpr std::size_t nombredechamps = 7;
 constexpr std::string_view entredateetheure = " - ";
 
@@ -49,7 +48,7 @@ std::optional<std::string> suitedeligne(const Tiragejuge& juge) {
     suite.append(1, separateur).append(joindre(juge.solutions));
     auto octets = common::essayervers1252(suite.append(juge.trouve() ? ";1;" : ";0;"));
     if (octets)
-        octets->append(champsaisi(juge.saisis)).append(findeligne);
+        octets->append(champsaisi(juge.saisis)).append(common::findeligne);
     return octets;
 }
 

@@ -9,12 +9,12 @@
 namespace profiles {
 namespace {
 
-constexpr std::string_view lecture = "Lecture des réglages";
+constexpr std::string_view lecturereglages = "Lecture des réglages";
 constexpr std::size_t nombresdetete = 5;
 
 std::int16_t nombre(std::string_view item, std::string_view chemin, std::size_t ligne) {
-    const auto quoi = std::string(lecture) + " : fichier « " + std::string(chemin) + " », ligne " +
-                      std::to_string(ligne);
+    const auto quoi = std::string(lecturereglages) + " : fichier « " + std::string(chemin) +
+                      " », ligne " + std::to_string(ligne);
     return common::entier16(common::valeur(item), quoi);
 }
 
@@ -28,12 +28,12 @@ Reglages reglages(std::string_view octets, std::string_view chemin) {
     Reglages lus;
     const std::array<std::int16_t*, nombresdetete> tete{
         &lus.seuilch, &lus.seuilcb, &lus.tempsparmot, &lus.nbechantillon, &lus.son};
-    common::Items items(octets, chemin, lecture);
+    common::Items items(octets, chemin, lecturereglages);
     std::string_view item;
     std::size_t rang = 0;
     for (auto* nombrelu : tete) {
         if (!items.lireitem(item)) {
-            throw common::Faute(common::rapportfichier(lecture, chemin,
+            throw common::Faute(common::rapportfichier(lecturereglages, chemin,
                                                        "il s'arrête après " + std::to_string(rang) +
                                                            " réglage(s), il en faut au moins " +
                                                            std::to_string(nombresdetete)));
@@ -70,7 +70,7 @@ std::vector<std::string> lignessettings(const Reglages& reglages) {
 
 Reglages liresettings(common::Disque& disque, std::string_view util) {
     const auto chemin = cheminsettings(util);
-    return reglages(common::liretexte(disque, chemin, lecture), chemin);
+    return reglages(common::liretexte(disque, chemin, lecturereglages), chemin);
 }
 
 void appliquer(const Reglages& reglages, common::VariablesDialog2& dialog2,

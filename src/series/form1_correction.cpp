@@ -11,7 +11,7 @@
 namespace series {
 namespace {
 
-constexpr std::string_view action = "Correction de la série";
+constexpr std::string_view actioncorrection = "Correction de la série";
 
 /// One word for each letter: with a joker the letters are so many answers. One word past the limit
 /// tells that there are too many.
@@ -76,7 +76,7 @@ void Form1::noter() {
         auto motsdelarangee = motsdesnotes(place.tirage, place.suite, serie_.nature);
         if (motsdelarangee.size() > limitevariantes) {
             throw common::Faute(common::rapportligne(
-                action, serie_.fich, place.ligne,
+                actioncorrection, serie_.fich, place.ligne,
                 "la solution d'un tirage à joker a trop de lettres ; la limite est de " +
                     std::to_string(limitevariantes)));
         }

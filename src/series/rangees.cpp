@@ -6,10 +6,10 @@
 namespace series {
 namespace {
 
-constexpr std::string_view action = "Lecture de la liste";
+constexpr std::string_view actionliste = "Lecture de la liste";
 
 [[noreturn]] void mauvaise(std::string_view chemin, std::size_t ligne, const std::string& ennui) {
-    throw common::Faute(common::rapportligne(action, chemin, ligne, ennui));
+    throw common::Faute(common::rapportligne(actionliste, chemin, ligne, ennui));
 }
 
 /// Place of the ";" that ends the rack; a fault if there is none in reach.
@@ -30,7 +30,7 @@ std::size_t separateur(std::string_view ligne, std::string_view chemin, std::siz
 void Rangees::lire(common::Disque& disque, std::string_view chemin) {
     rangees_.clear();
     octets_ = std::make_shared<const std::string>(
-        common::liretexte(disque, chemin, action, common::limiterangee));
+        common::liretexte(disque, chemin, actionliste, common::limiterangee));
     // The lines are views of the bytes.
     common::Lignes(*octets_).chaque([&](std::string_view ligne, std::size_t numero) {
         const auto place = separateur(ligne, chemin, numero);

@@ -9,12 +9,12 @@
 namespace series {
 namespace {
 
-constexpr std::string_view action = "Correction de la série";
+constexpr std::string_view actionreference = "Correction de la série";
 
 [[noreturn]] void trop(std::string_view chemin, std::size_t ligne, std::size_t limite,
                        std::string_view quoi) {
     throw common::Faute(common::rapportligne(
-        action, chemin, ligne,
+        actionreference, chemin, ligne,
         "trop de " + std::string(quoi) + " ; la limite est de " + std::to_string(limite)));
 }
 
@@ -46,15 +46,16 @@ std::vector<bool> chercherliste(common::Disque& disque, std::string_view chemin,
     std::vector<bool> trouves(nombredemots, false);
     std::size_t nombre = 0;
     bool ouverte = true;
-    common::Items(disque, chemin, action).chaque([&](std::string_view item, std::size_t ligne) {
-        if (++nombre > limite)
-            trop(chemin, ligne, limite, "mots");
-        ouverte = ouverte && !item.empty();
-        if (!ouverte)
-            return;
-        for (const auto rang : recherche.rangs(item))
-            trouves[rang] = true;
-    });
+    common::Items(disque, chemin, actionreference)
+        .chaque([&](std::string_view item, std::size_t ligne) {
+            if (++nombre > limite)
+                trop(chemin, ligne, limite, "mots");
+            ouverte = ouverte && !item.empty();
+            if (!ouverte)
+                return;
+            for (const auto rang : recherche.rangs(item))
+                trouves[rang] = true;
+        });
     return trouves;
 }
 
@@ -63,21 +64,22 @@ std::vector<Note> cherchernotes(common::Disque& disque, std::string_view chemin,
     std::vector<Note> notes;
     std::vector<std::size_t> attente;  // words whose note is the next line
     bool ouverte = true;
-    common::Lignes(disque, chemin, action).chaque([&](std::string_view ligne, std::size_t numero) {
-        if (numero > limite)
-            trop(chemin, numero, limite, "lignes");
-        if (!attente.empty()) {
-            for (const auto mot : attente)
-                notes.push_back({mot, common::depuis1252(ligne)});
-            attente.clear();
-        }
-        const bool comparee = lignes == Lignesdemots::Toutes || numero % 2 == 1;
-        if (!ouverte || !comparee)
-            return;
-        ouverte = !ligne.empty();
-        const auto rangs = recherche.rangs(ligne);
-        attente.assign(rangs.begin(), rangs.end());
-    });
+    common::Lignes(disque, chemin, actionreference)
+        .chaque([&](std::string_view ligne, std::size_t numero) {
+            if (numero > limite)
+                trop(chemin, numero, limite, "lignes");
+            if (!attente.empty()) {
+                for (const auto mot : attente)
+                    notes.push_back({mot, common::depuis1252(ligne)});
+                attente.clear();
+            }
+            const bool comparee = lignes == Lignesdemots::Toutes || numero % 2 == 1;
+            if (!ouverte || !comparee)
+                return;
+            ouverte = !ligne.empty();
+            const auto rangs = recherche.rangs(ligne);
+            attente.assign(rangs.begin(), rangs.end());
+        });
     return notes;
 }
 

@@ -136,7 +136,7 @@ std::string attendrefin(Seance& seance, const Ordre& ordre) {
     return {};
 }
 
-constexpr std::array commandes{
+constexpr std::array commandesattentes{
     Commande{"lire", ordrelire},
     Commande{"attendre", attendre},
     Commande{"attendremessages", attendremessages},
@@ -151,7 +151,7 @@ constexpr std::array commandes{
 }  // namespace
 
 std::span<const Commande> ordresdattente() {
-    return commandes;
+    return commandesattentes;
 }
 
 }  // namespace banc

@@ -97,7 +97,7 @@ std::string absent(Seance& seance, const Ordre& ordre) {
     return {};
 }
 
-constexpr std::array commandes{
+constexpr std::array commandesfichiers{
     Commande{"fichier", ordrefichier, true}, Commande{"octets", ordreoctets, true},
     Commande{"supprimer", supprimer, true},  Commande{"lectureseule", lectureseule, true},
     Commande{"contenu", contenu, true},      Commande{"absent", absent, true},
@@ -106,7 +106,7 @@ constexpr std::array commandes{
 }  // namespace
 
 std::span<const Commande> ordresdesfichiers() {
-    return commandes;
+    return commandesfichiers;
 }
 
 }  // namespace banc

@@ -98,7 +98,7 @@ std::string capture(Seance& seance, const Ordre& ordre) {
     return {};
 }
 
-constexpr std::array commandes{
+constexpr std::array commandesmachine{
     Commande{"horloge", horloge}, Commande{"hasard", hasard},     Commande{"graine", graine},
     Commande{"avancer", avancer}, Commande{"repondre", repondre}, Commande{"reseau", reseau},
     Commande{"capture", capture},
@@ -107,7 +107,7 @@ constexpr std::array commandes{
 }  // namespace
 
 std::span<const Commande> ordresdelamachine() {
-    return commandes;
+    return commandesmachine;
 }
 
 }  // namespace banc

@@ -174,7 +174,7 @@ std::string serie(Seance& seance, const Ordre& ordre) {
     return {};
 }
 
-constexpr std::array commandes{
+constexpr std::array commandesprogramme{
     Commande{"demarrer", demarrer},
     Commande{"connexion", connexion},
     Commande{"panneau", panneau},
@@ -184,7 +184,7 @@ constexpr std::array commandes{
 }  // namespace
 
 std::span<const Commande> ordresduprogramme() {
-    return commandes;
+    return commandesprogramme;
 }
 
 }  // namespace banc

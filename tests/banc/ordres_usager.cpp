@@ -127,7 +127,7 @@ std::string fermer(Seance& seance, const Ordre& ordre) {
     return {};
 }
 
-constexpr std::array commandes{
+constexpr std::array commandesusager{
     Commande{"clic", clic},     Commande{"doubleclic", doubleclic},
     Commande{"survol", survol}, Commande{"relache", relache},
     Commande{"focus", focus},   Commande{"taper", taper},
@@ -139,7 +139,7 @@ constexpr std::array commandes{
 }  // namespace
 
 std::span<const Commande> ordresdelusager() {
-    return commandes;
+    return commandesusager;
 }
 
 }  // namespace banc

@@ -5,6 +5,7 @@
 #include "faute.h"
 #include "texte.h"
 
+namespace test_texte {
 namespace {
 
 using common::code1252;
@@ -79,7 +80,9 @@ TEST_P(Partie, compte_les_caracteres) {
 }
 INSTANTIATE_TEST_SUITE_P(
     Texte, Partie,
-    testing::Values(Coupe{"milieu", common::milieu("éàçù", 2, 2), "àç"},
+    testing::Values(Coupe{"sans_blancs", std::string(common::sansblancs(" \tà  b\t ")), "à  b"},
+                    Coupe{"blancs_seuls", std::string(common::sansblancs(" \t")), ""},
+                    Coupe{"milieu", common::milieu("éàçù", 2, 2), "àç"},
                     Coupe{"milieu_jusqu_au_bout", common::milieu("éàçù", 3), "çù"},
                     Coupe{"milieu_trop_long", common::milieu("éà", 2, 9), "à"},
                     Coupe{"milieu_hors_du_texte", common::milieu("éà", 9, 2), ""},
@@ -95,3 +98,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& rangee) { return rangee.param.nom; });
 
 }  // namespace
+}  // namespace test_texte

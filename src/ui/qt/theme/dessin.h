@@ -40,6 +40,9 @@ struct Boite {
     double rayon = 4;  ///< of the corners, in pixels of the design
 };
 
+/// Of the corners of a clock, in pixels of the design.
+inline constexpr double rayonhorloge = 8;
+
 /// Draws the background and the edge of a text box.
 void boite(QPainter& peintre, const QRectF& place, double unite, const QColor& fond,
            const Boite& etat);

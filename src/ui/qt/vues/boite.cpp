@@ -25,7 +25,6 @@ namespace {
 constexpr double marge = 6;  // pixels of the design
 constexpr double margehaute = 1;
 constexpr double rayoncase = 4;
-constexpr double rayonhorloge = 8;
 constexpr double epaisseurcurseur = 1.6;
 
 }  // namespace
@@ -165,7 +164,7 @@ void Boite::paintEvent(QPaintEvent* /*evenement*/) {
                       {.actif = isEnabled(),
                        .focus = focus,
                        .survole = underMouse() && !controle()->verrou(),
-                       .rayon = horloge ? rayonhorloge : rayoncase});
+                       .rayon = horloge ? dessin::rayonhorloge : rayoncase});
     }
     ligne_.peindre(
         peintre, isEnabled() ? encreqt(controle()->couleur()) : QColor::fromRgb(teintes::encrepale),

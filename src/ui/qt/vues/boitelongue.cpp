@@ -10,15 +10,15 @@
 
 #include "dessin.h"
 #include "menuedition.h"
+#include "texte.h"
 #include "texteqt.h"
 #include "theme.h"
 
 namespace ui::qt {
 namespace {
 
-constexpr double marge = 5;  // pixels of the design
-constexpr double rayon = 8;
-constexpr std::string_view findeligne = "\r\n";
+constexpr double margelongue = 5;  // pixels of the design
+constexpr double rayonlongue = 8;
 
 QString lignesqt(std::string_view texte) {
     return versqt(texte).replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -44,7 +44,7 @@ void BoiteLongue::montrer(Champs champs) {
     remise_ = remise_ || (champs & (champsfonte | champsplace)) != 0;
     if (controle()->visible() && std::exchange(remise_, false)) {
         setFont(fonte());
-        const int bord = static_cast<int>(std::lround(marge * unite()));
+        const int bord = static_cast<int>(std::lround(margelongue * unite()));
         setViewportMargins(bord, bord, bord, bord);
     }
     if ((champs & ensemble(Champ::Verrou)) != 0)
@@ -68,7 +68,7 @@ void BoiteLongue::rapportertexte() {
     if (montre_ || controle() == nullptr)
         return;
     auto nouveau = toPlainText();
-    if (controle()->texte().find(findeligne) != std::string::npos)
+    if (controle()->texte().find(common::findeligne) != std::string::npos)
         nouveau.replace(QLatin1String("\n"), QLatin1String("\r\n"));
     executer([&] { controle()->texte = depuisqt(nouveau); });
 }
@@ -86,7 +86,7 @@ void BoiteLongue::peindrecadre() {
         return;
     QPainter peintre(this);
     dessin::boite(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()),
-                  {.actif = isEnabled(), .focus = alefocus(), .rayon = rayon});
+                  {.actif = isEnabled(), .focus = alefocus(), .rayon = rayonlongue});
 }
 
 bool BoiteLongue::viewportEvent(QEvent* evenement) {

@@ -12,9 +12,9 @@ namespace ui::qt {
 namespace {
 
 constexpr double cote = 18;  // pixels of the design
-constexpr double marge = 3;
+constexpr double margecoche = 3;
 constexpr double ecart = 7;
-constexpr double rayon = 5;
+constexpr double rayoncoche = 5;
 
 }  // namespace
 
@@ -28,11 +28,11 @@ CaseCochee::CaseCochee(QWidget& parent, Hote& hote, Controle& controle)
 
 QRectF CaseCochee::carre() const {
     const double c = std::min(cote * unite(), height() - 2.0);
-    return {marge * unite(), (height() - c) / 2, c, c};
+    return {margecoche * unite(), (height() - c) / 2, c, c};
 }
 
 QRectF CaseCochee::placetexte() const {
-    return QRectF(rect()).adjusted(carre().right() + ecart * unite(), 0, -marge * unite(), 0);
+    return QRectF(rect()).adjusted(carre().right() + ecart * unite(), 0, -margecoche * unite(), 0);
 }
 
 void CaseCochee::montrer(Champs champs) {
@@ -50,7 +50,7 @@ void CaseCochee::paintEvent(QPaintEvent* /*evenement*/) {
     if (!sansfond()) {
         peintre.setPen(Qt::NoPen);
         peintre.setBrush(couleurqt(controle()->fond()));
-        peintre.drawRoundedRect(QRectF(rect()), rayon * unite(), rayon * unite());
+        peintre.drawRoundedRect(QRectF(rect()), rayoncoche * unite(), rayoncoche * unite());
     }
     dessin::coche(
         peintre, carre(), unite(), controle()->coche(),
@@ -60,7 +60,7 @@ void CaseCochee::paintEvent(QPaintEvent* /*evenement*/) {
                                : QColor::fromRgb(teintes::encrepale));
     peintre.drawText(placetexte(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, texte());
     if (alefocus())
-        dessin::anneau(peintre, QRectF(rect()), unite(), rayon);
+        dessin::anneau(peintre, QRectF(rect()), unite(), rayoncoche);
 }
 
 }  // namespace ui::qt

@@ -12,9 +12,9 @@
 namespace ui::qt {
 namespace {
 
-constexpr double rayon = 5;  // pixels of the design, of a label with a background of its own
-constexpr double rayonhorloge = 8;
-constexpr double marge = 3;
+constexpr double rayonetiquette =
+    5;  // pixels of the design, of a label with a background of its own
+constexpr double margeetiquette = 3;
 constexpr double lignesdunparagraphe = 2.2;  // a label this high begins at its top
 
 Qt::Alignment alignementqt(Alignement alignement) {
@@ -36,7 +36,7 @@ Etiquette::Etiquette(QWidget& parent, Hote& hote, Controle& controle)
 }
 
 QRectF Etiquette::placetexte() const {
-    const double bord = sansfond() ? 0 : marge * unite();
+    const double bord = sansfond() ? 0 : margeetiquette * unite();
     return QRectF(rect()).adjusted(bord, 0, -bord, 0);
 }
 
@@ -63,12 +63,12 @@ void Etiquette::paintEvent(QPaintEvent* /*evenement*/) {
     QPainter peintre(this);
     if (controle()->aspect() == Aspect::Horloge) {
         dessin::boite(peintre, QRectF(rect()), unite(), couleurqt(controle()->fond()),
-                      {.actif = isEnabled(), .rayon = rayonhorloge});
+                      {.actif = isEnabled(), .rayon = dessin::rayonhorloge});
     } else if (!sansfond()) {
         peintre.setRenderHint(QPainter::Antialiasing);
         peintre.setPen(Qt::NoPen);
         peintre.setBrush(couleurqt(controle()->fond()));
-        peintre.drawRoundedRect(QRectF(rect()), rayon * unite(), rayon * unite());
+        peintre.drawRoundedRect(QRectF(rect()), rayonetiquette * unite(), rayonetiquette * unite());
     }
     if (texte().isEmpty())
         return;
