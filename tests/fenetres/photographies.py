@@ -1,6 +1,6 @@
 """Takes the pictures of docs/images from the program itself, on the real lists. Not a test:
 
-    dbus-run-session -- /usr/bin/python3 tests/fenetres/photographies.py \
+    tests/fenetres/session /usr/bin/python3 tests/fenetres/photographies.py \
         build/release/src/orvane build/release/jeu docs/images
 """
 

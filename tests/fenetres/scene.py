@@ -1,11 +1,12 @@
 """A scene for tests of the real program: a screen of its own, a window manager, real keys and
 mouse, and the accessibility tree to judge by.
 
-Run under dbus-run-session, so that the accessibility bus is the scene's own. Nothing here sleeps for
+Run under `session`, so that the accessibility bus is the scene's own. Nothing here sleeps for
 a fixed time: every wait is for a condition, with a limit after which the test fails.
 """
 
 import contextlib
+import fcntl
 import os
 import pathlib
 import shutil
@@ -60,12 +61,7 @@ class Scene:
         self.captures.mkdir(parents=True, exist_ok=True)
         self.depart = self._dossiertemporaire()
         self._garnir()
-        lecture, ecriture = os.pipe()
-        self._lancer(["Xvfb", "-displayfd", str(ecriture), "-screen", "0", self.taille + "x24",
-                      "-nolisten", "tcp", "-noreset"], pass_fds=(ecriture,))
-        os.close(ecriture)
-        with os.fdopen(lecture) as tube:
-            os.environ["DISPLAY"] = ":" + tube.readline().strip()
+        self._ouvrirecran()
         # The keyboard of the players: accented letters have keys of their own.
         subprocess.run(["setxkbmap", "fr"], check=True, capture_output=True)
         self._lancer(["openbox", "--sm-disable"])
@@ -73,6 +69,18 @@ class Scene:
                                         capture_output=True, text=True).stdout.count("0x"),
                  "le gestionnaire de fenêtres")
         return self
+
+    def _ouvrirecran(self):
+        """One server at a time: two that look for a free number may both take the same."""
+        verrou = os.open("/tmp", os.O_RDONLY)  # where the servers of a machine have their sockets
+        fcntl.flock(verrou, fcntl.LOCK_EX)
+        lecture, ecriture = os.pipe()
+        self._lancer(["Xvfb", "-displayfd", str(ecriture), "-screen", "0", self.taille + "x24",
+                      "-nolisten", "tcp", "-noreset"], pass_fds=(ecriture,))
+        os.close(ecriture)
+        with os.fdopen(lecture) as tube:
+            os.environ["DISPLAY"] = ":" + tube.readline().strip()
+        os.close(verrou)
 
     def _dossiertemporaire(self):
         dossier = pathlib.Path(tempfile.mkdtemp(prefix="partie d'été "))
