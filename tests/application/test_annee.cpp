@@ -23,6 +23,7 @@
 #include "seance.h"
 #include "suivi.h"
 
+namespace test_annee {
 namespace {
 
 using carnet::Jour;
@@ -155,3 +156,4 @@ TEST_F(Annee, chaque_tirage_manque_revient_a_son_jour_et_se_joue) {
 }
 
 }  // namespace
+}  // namespace test_annee

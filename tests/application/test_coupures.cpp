@@ -19,6 +19,7 @@
 #include "programmereel.h"
 #include "seance.h"
 
+namespace test_coupures {
 namespace {
 
 namespace fs = std::filesystem;
@@ -259,3 +260,4 @@ INSTANTIATE_TEST_SUITE_P(Operations, Coupures, testing::ValuesIn(operations),
                          [](const auto& cas) { return std::string(cas.param.nom); });
 
 }  // namespace
+}  // namespace test_coupures

@@ -6,6 +6,7 @@
 #include "dossier.h"
 #include "plateformesimulee.h"
 
+namespace test_dechargement {
 namespace {
 
 class Dechargement : public testing::Test {
@@ -37,3 +38,4 @@ TEST_F(Dechargement, aussi_dans_un_seul_evenement) {
 }
 
 }  // namespace
+}  // namespace test_dechargement

@@ -9,6 +9,7 @@
 #include "dossier.h"
 #include "plateformesimulee.h"
 
+namespace test_form1_ecran {
 namespace {
 
 struct Disposition {
@@ -115,3 +116,4 @@ TEST_P(Form1Ecran, le_retour_remet_les_notes_a_leur_place) {
 }
 
 }  // namespace
+}  // namespace test_form1_ecran

@@ -10,6 +10,7 @@
 #include "etats.h"
 #include "plateformesimulee.h"
 
+namespace test_paroles {
 namespace {
 
 struct Sens {
@@ -143,3 +144,4 @@ TEST_F(Paroles, disent_le_verdict_de_chaque_tirage_de_multi) {
 }
 
 }  // namespace
+}  // namespace test_paroles

@@ -13,6 +13,7 @@
 #include "image.h"
 
 namespace assets {
+namespace test_images {
 namespace {
 
 std::uint32_t petit(const std::string& octets, std::size_t place, int nombre) {
@@ -256,4 +257,5 @@ TEST(Images, TheDatedMarksAreToldApartByTheirRightHalf) {
 }
 
 }  // namespace
+}  // namespace test_images
 }  // namespace assets

@@ -7,6 +7,7 @@
 #include "son.h"
 
 namespace assets {
+namespace test_son {
 namespace {
 
 std::uint32_t entier(const std::string& octets, std::size_t place, int nombre) {
@@ -65,4 +66,5 @@ TEST(Son, HasNoClick) {
 }
 
 }  // namespace
+}  // namespace test_son
 }  // namespace assets

@@ -6,6 +6,7 @@
 #include "trait.h"
 
 namespace assets {
+namespace test_trait {
 namespace {
 
 constexpr Couleur noir = rvb(0);
@@ -80,4 +81,5 @@ TEST(Mot, ASignWithoutALetterIsRefused) {
 }
 
 }  // namespace
+}  // namespace test_trait
 }  // namespace assets

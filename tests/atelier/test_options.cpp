@@ -5,6 +5,7 @@
 
 #include "options.h"
 
+namespace test_options {
 namespace {
 
 using namespace atelier;
@@ -101,3 +102,4 @@ TEST(Options, l_aide_nomme_chaque_option) {
 }
 
 }  // namespace
+}  // namespace test_options

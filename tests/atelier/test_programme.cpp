@@ -11,6 +11,7 @@
 #include "dossiertemporaire.h"
 #include "processus.h"
 
+namespace test_programme {
 namespace {
 
 using essais::DossierTemporaire;
@@ -232,3 +233,4 @@ TEST_F(Programme, met_les_mots_et_leur_origine_a_cote_des_listes) {
 }
 
 }  // namespace
+}  // namespace test_programme

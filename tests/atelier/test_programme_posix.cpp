@@ -8,6 +8,7 @@
 #include "plafond_posix.h"
 #include "processus.h"
 
+namespace test_programme_posix {
 namespace {
 
 TEST(Programmeposix, un_disque_plein_est_une_faute_et_laisse_les_vieilles_listes) {
@@ -34,3 +35,4 @@ TEST(Programmeposix, un_disque_plein_est_une_faute_et_laisse_les_vieilles_listes
 }
 
 }  // namespace
+}  // namespace test_programme_posix

@@ -15,6 +15,7 @@
 #include "proprietes.h"
 #include "scenario.h"
 
+namespace test_banc {
 namespace {
 
 struct Cas {
@@ -409,3 +410,4 @@ TEST(Horloge, une_minuterie_faite_apres_l_accueil_attend_aussi_sa_seconde) {
 }
 
 }  // namespace
+}  // namespace test_banc

@@ -8,6 +8,7 @@
 
 #include "arguments.h"
 
+namespace test_arguments {
 namespace {
 
 using carnet::Action;
@@ -71,3 +72,4 @@ INSTANTIATE_TEST_SUITE_P(Arguments, Mauvaisusages, testing::ValuesIn(lescas),
                          [](const auto& cas) { return cas.param.nom; });
 
 }  // namespace
+}  // namespace test_arguments

@@ -6,6 +6,7 @@
 #include "dossiertemporaire.h"
 #include "petitglossaire.h"
 
+namespace test_dictionnaireperso {
 namespace {
 
 using namespace carnet;
@@ -144,3 +145,4 @@ TEST(Dictionnaireperso, se_compare_au_lexique) {
 }
 
 }  // namespace
+}  // namespace test_dictionnaireperso

@@ -9,6 +9,7 @@
 #include "petitchantier.h"
 #include "processus.h"
 
+namespace test_fabrique {
 namespace {
 
 using namespace carnet;
@@ -156,3 +157,4 @@ TEST_F(Fabrique, des_sources_qui_manquent_sont_une_faute_qui_ne_change_rien) {
 }
 
 }  // namespace
+}  // namespace test_fabrique

@@ -10,6 +10,7 @@
 #include "listedujour.h"
 #include "maliste.h"
 
+namespace test_listedujour {
 namespace {
 
 using carnet::Echeance;
@@ -136,3 +137,4 @@ TEST_F(Ecrite, le_plafond_d_un_joueur_est_garde) {
 }
 
 }  // namespace
+}  // namespace test_listedujour

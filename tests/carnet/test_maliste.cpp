@@ -7,6 +7,7 @@
 #include "maliste.h"
 #include "verification.h"
 
+namespace test_maliste {
 namespace {
 
 using namespace carnet;
@@ -84,3 +85,4 @@ TEST(Maliste, dit_comment_la_jouer) {
 }
 
 }  // namespace
+}  // namespace test_maliste

@@ -6,6 +6,7 @@
 #include "petitchantier.h"
 #include "processus.h"
 
+namespace test_motsenvigueur {
 namespace {
 
 using namespace carnet;
@@ -77,3 +78,4 @@ TEST(Programmecarnet, finit_par_le_statut_de_ce_qu_on_lui_demande) {
 }
 
 }  // namespace
+}  // namespace test_motsenvigueur

@@ -9,6 +9,7 @@
 #include "dossiertemporaire.h"
 #include "processus.h"
 
+namespace test_programme {
 namespace {
 
 using essais::Fin;
@@ -65,3 +66,4 @@ TEST_F(Programme, un_mauvais_usage_finit_par_2) {
 }
 
 }  // namespace
+}  // namespace test_programme

@@ -11,6 +11,7 @@
 #include "dossiertemporaire.h"
 #include "sauvegarde.h"
 
+namespace test_sauvegarde {
 namespace {
 
 namespace fs = std::filesystem;
@@ -289,3 +290,4 @@ TEST_F(Donnees, un_retour_qui_attend_sa_place_est_dit) {
 }
 
 }  // namespace
+}  // namespace test_sauvegarde

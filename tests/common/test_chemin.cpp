@@ -3,6 +3,7 @@
 #include "chemin.h"
 #include "dossiertemporaire.h"
 
+namespace test_chemin {
 namespace {
 
 TEST(Chemin, rend_le_texte_dont_il_est_fait) {
@@ -17,3 +18,4 @@ TEST(Chemin, nomme_un_fichier_hors_de_toute_page_de_codes) {
 }
 
 }  // namespace
+}  // namespace test_chemin

@@ -9,6 +9,7 @@
 #include "disquereel.h"
 #include "dossiertemporaire.h"
 
+namespace test_disquereel {
 namespace {
 
 class DisqueReel : public testing::Test {
@@ -305,3 +306,4 @@ TEST_F(DisqueReel, un_disque_sans_verrous_s_ecrit_et_n_ote_rien) {
 }
 
 }  // namespace
+}  // namespace test_disquereel

@@ -17,6 +17,7 @@
 #include "plafond_posix.h"
 #include "programme.h"
 
+namespace test_disquereel_posix {
 namespace {
 
 class DisqueReelPosix : public testing::Test {
@@ -196,3 +197,4 @@ TEST_F(DisqueReelPosix, un_dossier_de_programme_a_barre_inverse_ne_se_dit_pas) {
 }
 
 }  // namespace
+}  // namespace test_disquereel_posix

@@ -14,6 +14,7 @@
 #include "erreurs_windows.h"
 #include "remplacement_windows.h"
 
+namespace test_disquereel_windows {
 namespace {
 
 class DisqueReelWindows : public testing::Test {
@@ -221,3 +222,4 @@ TEST(Cheminlarge, porte_la_marque_des_longs_chemins_au_besoin) {
 }
 
 }  // namespace
+}  // namespace test_disquereel_windows

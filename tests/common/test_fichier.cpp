@@ -9,6 +9,7 @@
 #include "faute.h"
 #include "fichier.h"
 
+namespace test_fichier {
 namespace {
 
 using testing::ElementsAre;
@@ -345,3 +346,4 @@ TEST(Fichier, un_compte_rendu_dit_l_action_le_fichier_la_ligne_et_l_ennui) {
 }
 
 }  // namespace
+}  // namespace test_fichier

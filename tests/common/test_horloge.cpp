@@ -3,6 +3,7 @@
 #include "hasard.h"
 #include "horloge.h"
 
+namespace test_horloge {
 namespace {
 
 TEST(Horloge, date_et_heure_en_deux_chiffres) {
@@ -44,3 +45,4 @@ TEST(Hasard, deux_amorces_de_la_meme_seconde_different) {
 }
 
 }  // namespace
+}  // namespace test_horloge

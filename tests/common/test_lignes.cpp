@@ -10,6 +10,7 @@
 #include "dossiertemporaire.h"
 #include "lignes.h"
 
+namespace test_lignes {
 namespace {
 
 using testing::ElementsAre;
@@ -98,3 +99,4 @@ TEST(Items, de_memoire_sont_ceux_d_un_fichier) {
 }
 
 }  // namespace
+}  // namespace test_lignes

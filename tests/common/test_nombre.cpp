@@ -6,6 +6,7 @@
 #include "faute.h"
 #include "nombre.h"
 
+namespace test_nombre {
 namespace {
 
 constexpr double infini = std::numeric_limits<double>::infinity();
@@ -139,3 +140,4 @@ TEST(Entierdechiffres, ne_lit_que_des_chiffres) {
 }
 
 }  // namespace
+}  // namespace test_nombre

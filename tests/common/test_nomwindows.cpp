@@ -5,6 +5,7 @@
 #include "disque.h"
 #include "nomwindows.h"
 
+namespace test_nomwindows {
 namespace {
 
 using common::Ennui;
@@ -105,3 +106,4 @@ TEST(Nompourwindows, se_dit_au_joueur) {
 }
 
 }  // namespace
+}  // namespace test_nomwindows

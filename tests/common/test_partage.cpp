@@ -5,6 +5,7 @@
 #include "faute.h"
 #include "partage.h"
 
+namespace test_partage {
 namespace {
 
 struct Taille {
@@ -47,3 +48,4 @@ TEST(Partage, la_couleur_est_par_defaut_jusqu_a_ce_qu_on_la_choisisse) {
 }
 
 }  // namespace
+}  // namespace test_partage

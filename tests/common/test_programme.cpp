@@ -7,6 +7,7 @@
 #include "dossiertemporaire.h"
 #include "programme.h"
 
+namespace test_programme {
 namespace {
 
 class Dossierprogramme : public testing::Test {
@@ -92,3 +93,4 @@ TEST_F(Remettrelistes, ne_fait_rien_d_un_dossier_sans_listes) {
 }
 
 }  // namespace
+}  // namespace test_programme

@@ -13,6 +13,7 @@
 #include "dossiertemporaire.h"
 #include "provisoire.h"
 
+namespace test_provisoire {
 namespace {
 
 /// A disk some of whose calls answer with an error.
@@ -155,3 +156,4 @@ TEST_F(Provisoire, tue_entre_ses_deux_noms_il_laisse_l_avant_ou_l_apres) {
 }
 
 }  // namespace
+}  // namespace test_provisoire

@@ -5,6 +5,7 @@
 #include "dialog.h"
 #include "voisinage.h"
 
+namespace test_dialog {
 namespace {
 
 class Dialog : public testing::Test {
@@ -89,3 +90,4 @@ TEST_F(Dialog, la_boite_remplit_la_fenetre) {
 }
 
 }  // namespace
+}  // namespace test_dialog

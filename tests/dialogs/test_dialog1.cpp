@@ -4,6 +4,7 @@
 #include "dialog1.h"
 #include "voisinage.h"
 
+namespace test_dialog1 {
 namespace {
 
 using namespace std::string_literals;
@@ -153,3 +154,4 @@ TEST_F(Dialog1, la_tabulation_va_du_texte_a_la_petite_boite) {
 }
 
 }  // namespace
+}  // namespace test_dialog1

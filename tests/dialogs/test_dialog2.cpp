@@ -12,6 +12,7 @@
 #include "texte.h"
 #include "voisinage.h"
 
+namespace test_dialog2 {
 namespace {
 
 using essai::Journal;
@@ -386,3 +387,4 @@ TEST_F(Dialog2, chaque_controle_tient_dans_la_fenetre_sans_en_couvrir_un_autre) 
 }
 
 }  // namespace
+}  // namespace test_dialog2

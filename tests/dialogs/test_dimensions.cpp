@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "voisinage.h"
 
+namespace test_dimensions {
 namespace {
 
 using dialogs::Dimensions;
@@ -55,3 +56,4 @@ TEST(Tete, d_un_fichier_absent_ne_dit_rien) {
 }
 
 }  // namespace
+}  // namespace test_dimensions

@@ -7,6 +7,7 @@
 #include "textesmiseajour.h"
 #include "voisinage.h"
 
+namespace test_miseajour {
 namespace {
 
 using namespace essai;
@@ -238,3 +239,4 @@ INSTANTIATE_TEST_SUITE_P(MiseAJour, Comparaison, testing::ValuesIn(publiees),
                          essai::nommer<Publiee>);
 
 }  // namespace
+}  // namespace test_miseajour

@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "options.h"
 
+namespace test_options {
 namespace {
 
 using namespace dialogs::options;
@@ -251,3 +252,4 @@ TEST(Temps, au_dela_de_16_bits_est_une_faute) {
 }
 
 }  // namespace
+}  // namespace test_options

@@ -8,6 +8,7 @@
 #include "joueur.h"
 #include "partie.h"
 
+namespace test_endurance {
 namespace {
 
 using endurance::Joueur;
@@ -85,3 +86,4 @@ INSTANTIATE_TEST_SUITE_P(, Endurances, testing::Range<std::uint64_t>(1, 60),
                          [](const auto& cas) { return std::to_string(cas.param); });
 
 }  // namespace
+}  // namespace test_endurance

@@ -11,6 +11,7 @@
 #include "thesaurus.h"
 #include "verification.h"
 
+namespace test_atelier {
 namespace {
 
 using fuzz::Essai;
@@ -93,3 +94,4 @@ TEST_P(Atelier, lit_n_importe_quoi) {
 INSTANTIATE_TEST_SUITE_P(, Atelier, testing::ValuesIn(lecteurs), fuzz::nommer);
 
 }  // namespace
+}  // namespace test_atelier

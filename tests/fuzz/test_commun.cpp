@@ -9,6 +9,7 @@
 #include "nombre.h"
 #include "texte.h"
 
+namespace test_commun {
 namespace {
 
 using fuzz::Essai;
@@ -199,3 +200,4 @@ TEST_P(Commun, lit_n_importe_quoi) {
 INSTANTIATE_TEST_SUITE_P(, Commun, testing::ValuesIn(lecteurs), fuzz::nommer);
 
 }  // namespace
+}  // namespace test_commun

@@ -17,6 +17,7 @@
 #include "texte.h"
 #include "utilisateurs.h"
 
+namespace test_profils {
 namespace {
 
 using fuzz::Essai;
@@ -179,3 +180,4 @@ TEST_P(Profils, lit_n_importe_quoi) {
 INSTANTIATE_TEST_SUITE_P(, Profils, testing::ValuesIn(lecteurs), fuzz::nommer);
 
 }  // namespace
+}  // namespace test_profils

@@ -7,6 +7,7 @@
 #include "machine.h"
 #include "mutation.h"
 
+namespace test_programme {
 namespace {
 
 namespace fs = std::filesystem;
@@ -171,3 +172,4 @@ INSTANTIATE_TEST_SUITE_P(, Programme, testing::ValuesIn(lectures),
                          [](const auto& cas) { return std::string(cas.param.nom); });
 
 }  // namespace
+}  // namespace test_programme

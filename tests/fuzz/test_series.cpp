@@ -13,6 +13,7 @@
 #include "revision.h"
 #include "texte.h"
 
+namespace test_series {
 namespace {
 
 using fuzz::Essai;
@@ -213,3 +214,4 @@ TEST_P(Series, lit_n_importe_quoi) {
 INSTANTIATE_TEST_SUITE_P(, Series, testing::ValuesIn(lecteurs), fuzz::nommer);
 
 }  // namespace
+}  // namespace test_series

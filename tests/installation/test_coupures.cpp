@@ -11,6 +11,7 @@
 #include "preparation.h"
 #include "rafraichissement.h"
 
+namespace test_coupures {
 namespace {
 
 using essais::Panne;
@@ -194,3 +195,4 @@ TEST(Tue, pour_de_bon_il_se_reprend_au_demarrage_suivant) {
 }
 
 }  // namespace
+}  // namespace test_coupures

@@ -5,6 +5,7 @@
 #include "faute.h"
 #include "inventaire.h"
 
+namespace test_inventaire {
 namespace {
 
 const std::string sommeabc = "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad";
@@ -83,3 +84,4 @@ TEST(Inventaires, un_dossier_sans_inventaire_est_une_faute) {
 }
 
 }  // namespace
+}  // namespace test_inventaire

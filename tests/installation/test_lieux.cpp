@@ -5,6 +5,7 @@
 #include "faute.h"
 #include "lieux.h"
 
+namespace test_lieux {
 namespace {
 
 namespace fs = std::filesystem;
@@ -105,3 +106,4 @@ TEST(Environs, disent_ou_sont_les_donnees_du_joueur) {
 }
 
 }  // namespace
+}  // namespace test_lieux

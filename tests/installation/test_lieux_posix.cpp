@@ -2,6 +2,7 @@
 
 #include "lieux.h"
 
+namespace test_lieux_posix {
 namespace {
 
 struct Maison {
@@ -27,3 +28,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& rangee) { return rangee.param.nom; });
 
 }  // namespace
+}  // namespace test_lieux_posix

@@ -4,6 +4,7 @@
 
 #include "lieux.h"
 
+namespace test_lieux_windows {
 namespace {
 
 TEST(Environs, mettent_les_donnees_dans_celles_du_poste) {
@@ -12,3 +13,4 @@ TEST(Environs, mettent_les_donnees_dans_celles_du_poste) {
 }
 
 }  // namespace
+}  // namespace test_lieux_windows

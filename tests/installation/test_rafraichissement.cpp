@@ -10,6 +10,7 @@
 #include "preparation.h"
 #include "rafraichissement.h"
 
+namespace test_rafraichissement {
 namespace {
 
 using Contenu = essais::Installe::Contenu;
@@ -283,3 +284,4 @@ TEST_F(Rafraichir, des_listes_sur_un_autre_disque_sont_apportees) {
 }
 
 }  // namespace
+}  // namespace test_rafraichissement

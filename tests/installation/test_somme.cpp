@@ -4,6 +4,7 @@
 #include "dossiertemporaire.h"
 #include "somme.h"
 
+namespace test_somme {
 namespace {
 
 struct Exemple {
@@ -57,3 +58,4 @@ TEST(Somme, d_un_fichier) {
 }
 
 }  // namespace
+}  // namespace test_somme

@@ -4,6 +4,7 @@
 #include "attendu.h"
 #include "lignes.h"
 
+namespace test_aides {
 namespace {
 
 class Aides : public testing::TestWithParam<essai::Rangee> {};
@@ -49,3 +50,4 @@ TEST(Bienvenue, nomme_l_utilisateur) {
 }
 
 }  // namespace
+}  // namespace test_aides

@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "voisinage.h"
 
+namespace test_compteur {
 namespace {
 
 struct Ligne {
@@ -66,3 +67,4 @@ TEST(Compteur, rend_l_erreur_du_systeme) {
 }
 
 }  // namespace
+}  // namespace test_compteur

@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "menudessai.h"
 
+namespace test_form3_aides {
 namespace {
 
 constexpr const char* avant = "(ce qui était là)";
@@ -161,3 +162,4 @@ TEST_F(Survols, avant_le_premier_panneau_n_ont_pas_de_texte) {
 }
 
 }  // namespace
+}  // namespace test_form3_aides

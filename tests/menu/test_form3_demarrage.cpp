@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "menudessai.h"
 
+namespace test_form3_demarrage {
 namespace {
 
 using testing::ElementsAre;
@@ -257,3 +258,4 @@ TEST_F(Demarrage, tab_parcourt_le_menu_nu) {
 }
 
 }  // namespace
+}  // namespace test_form3_demarrage

@@ -3,6 +3,7 @@
 
 #include "menudessai.h"
 
+namespace test_form3_lancement {
 namespace {
 
 using testing::ElementsAre;
@@ -244,3 +245,4 @@ TEST_F(Lancement, les_mots_ne_sont_pas_recomptes_au_retour) {
 }
 
 }  // namespace
+}  // namespace test_form3_lancement

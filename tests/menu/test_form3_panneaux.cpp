@@ -6,6 +6,7 @@
 #include "contours.h"
 #include "menudessai.h"
 
+namespace test_form3_panneaux {
 namespace {
 
 constexpr const char* secondaires =
@@ -313,3 +314,4 @@ TEST_F(Groupes, les_parties_tiennent_sous_tout) {
 }
 
 }  // namespace
+}  // namespace test_form3_panneaux

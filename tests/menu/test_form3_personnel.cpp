@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "menudessai.h"
 
+namespace test_form3_personnel {
 namespace {
 
 using essai::record;
@@ -191,3 +192,4 @@ TEST_F(Personnel, entree_dans_la_boite_vaut_ok) {
 }
 
 }  // namespace
+}  // namespace test_form3_personnel

@@ -5,6 +5,7 @@
 
 #include "menudessai.h"
 
+namespace test_form3_resultats {
 namespace {
 
 using essai::record;
@@ -198,3 +199,4 @@ TEST_F(Resultatsdumenu, l_historique_sans_hist_dat_finit_le_programme) {
 }
 
 }  // namespace
+}  // namespace test_form3_resultats

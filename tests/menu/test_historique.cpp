@@ -4,6 +4,7 @@
 #include "lignes.h"
 #include "texte.h"
 
+namespace test_historique {
 namespace {
 
 struct Ligne {
@@ -63,3 +64,4 @@ const Ligne lignes[] = {
 INSTANTIATE_TEST_SUITE_P(Table, Lignehistorique, testing::ValuesIn(lignes), essai::nommer<Ligne>);
 
 }  // namespace
+}  // namespace test_historique

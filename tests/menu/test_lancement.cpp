@@ -6,6 +6,7 @@
 #include "listes.h"
 #include "tableau.h"
 
+namespace test_lancement {
 namespace {
 
 constexpr auto form1 = menu::Ecran::form1;
@@ -165,3 +166,4 @@ TEST(Typ, n_est_plein_que_pour_les_rallonges) {
 }
 
 }  // namespace
+}  // namespace test_lancement

@@ -4,6 +4,7 @@
 #include "menudessai.h"
 #include "resultats.h"
 
+namespace test_resultats {
 namespace {
 
 using menu::Resultats;
@@ -261,3 +262,4 @@ const Teinte teintes[] = {
 INSTANTIATE_TEST_SUITE_P(Table, Teintes, testing::ValuesIn(teintes), essai::nommer<Teinte>);
 
 }  // namespace
+}  // namespace test_resultats

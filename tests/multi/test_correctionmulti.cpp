@@ -9,6 +9,7 @@
 #include "rangeesmulti.h"
 #include "serieessai.h"
 
+namespace test_correctionmulti {
 namespace {
 
 using essai::tiree;
@@ -208,3 +209,4 @@ TEST(Jugerboite, une_table_pleine_ne_retient_rien) {
 }
 
 }  // namespace
+}  // namespace test_correctionmulti

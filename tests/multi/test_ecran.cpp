@@ -15,6 +15,7 @@
 #include "formulaire.h"
 #include "plateformesimulee.h"
 
+namespace test_ecran {
 namespace {
 
 std::string nombre(const testing::TestParamInfo<int>& cas) {
@@ -212,3 +213,4 @@ TEST_P(Ecran, les_notes_couvrent_le_pied_puis_laissent_les_tuiles) {
 }
 
 }  // namespace
+}  // namespace test_ecran

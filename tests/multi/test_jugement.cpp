@@ -6,6 +6,7 @@
 
 #include "jugement.h"
 
+namespace test_jugement {
 namespace {
 
 const auto regle = [](const auto& cas) { return cas.param.regle; };
@@ -267,3 +268,4 @@ INSTANTIATE_TEST_SUITE_P(Jugement, Nombre,
                          regle);
 
 }  // namespace
+}  // namespace test_jugement

@@ -5,6 +5,7 @@
 #include "parcours.h"
 #include "valeurs.h"
 
+namespace test_parcours {
 namespace {
 
 std::string nombre(const testing::TestParamInfo<int>& cas) {
@@ -113,3 +114,4 @@ INSTANTIATE_TEST_SUITE_P(
     regle);
 
 }  // namespace
+}  // namespace test_parcours

@@ -8,6 +8,7 @@
 #include "faute.h"
 #include "rangeesmulti.h"
 
+namespace test_rangeesmulti {
 namespace {
 
 const auto regle = [](const auto& cas) { return cas.param.regle; };
@@ -137,3 +138,4 @@ INSTANTIATE_TEST_SUITE_P(
     regle);
 
 }  // namespace
+}  // namespace test_rangeesmulti

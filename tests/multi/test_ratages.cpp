@@ -4,6 +4,7 @@
 
 #include "jugement.h"
 
+namespace test_ratages {
 namespace {
 
 using multi::Debordement;
@@ -58,3 +59,4 @@ TEST(Ratages, le_1502e_tirage_manque_deborde) {
 }
 
 }  // namespace
+}  // namespace test_ratages

@@ -3,6 +3,7 @@
 #include "couleurs.h"
 #include "lignes.h"
 
+namespace test_couleurs {
 namespace {
 
 struct Ligne {
@@ -43,3 +44,4 @@ TEST(Couleurs, sont_offertes_dans_l_ordre) {
 }
 
 }  // namespace
+}  // namespace test_couleurs

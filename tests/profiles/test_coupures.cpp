@@ -17,6 +17,7 @@
 #include "utilisateurs.h"
 #include "voisinage.h"
 
+namespace test_coupures {
 namespace {
 
 enum class Moment { Avant, Pendant, Apres };
@@ -324,3 +325,4 @@ TEST(Revisions, une_rangee_ajoutee_pendant_qu_un_autre_programme_en_ote_reste) {
 }
 
 }  // namespace
+}  // namespace test_coupures

@@ -9,6 +9,7 @@
 #include "noms.h"
 #include "voisinage.h"
 
+namespace test_form2 {
 namespace {
 
 using essai::Journal;
@@ -472,3 +473,4 @@ TEST_F(Form2, tab_suit_les_champs_montres) {
 }
 
 }  // namespace
+}  // namespace test_form2

@@ -7,6 +7,7 @@
 #include "lignes.h"
 #include "voisinage.h"
 
+namespace test_hist {
 namespace {
 
 using namespace profiles;
@@ -182,3 +183,4 @@ TEST_F(Hist, un_disque_plein_laisse_le_journal_tel_quel) {
 }
 
 }  // namespace
+}  // namespace test_hist

@@ -16,6 +16,7 @@
 #include "dossiertemporaire.h"
 #include "journal.h"
 
+namespace test_journal {
 namespace {
 
 using namespace profiles;
@@ -352,3 +353,4 @@ TEST_F(Fichierjournal, une_lecture_qui_se_rompt_est_une_erreur) {
 }
 
 }  // namespace
+}  // namespace test_journal

@@ -7,6 +7,7 @@
 #include "dossiertemporaire.h"
 #include "journal.h"
 
+namespace test_journal_posix {
 namespace {
 
 using namespace profiles;
@@ -24,3 +25,4 @@ TEST(Fichierjournalposix, un_tube_ne_fait_pas_attendre_le_jeu) {
 }
 
 }  // namespace
+}  // namespace test_journal_posix

@@ -15,6 +15,7 @@
 #include "journal.h"
 #include "processus.h"
 
+namespace test_journal_taille {
 namespace {
 
 using namespace profiles;
@@ -110,3 +111,4 @@ INSTANTIATE_TEST_SUITE_P(Journal, Centmegaoctets, testing::ValuesIn(cents),
                          [](const auto& cas) { return cas.param.nom; });
 
 }  // namespace
+}  // namespace test_journal_taille

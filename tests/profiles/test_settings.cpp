@@ -6,6 +6,7 @@
 #include "settings.h"
 #include "voisinage.h"
 
+namespace test_settings {
 namespace {
 
 using namespace profiles;
@@ -154,3 +155,4 @@ TEST_F(Settings, un_disque_plein_les_laisse_tels_quels) {
 }
 
 }  // namespace
+}  // namespace test_settings

@@ -6,6 +6,7 @@
 #include "utilisateurs.h"
 #include "voisinage.h"
 
+namespace test_utilisateurs {
 namespace {
 
 using namespace profiles;
@@ -158,3 +159,4 @@ TEST_F(Creation, un_disque_plein_la_refuse) {
 }
 
 }  // namespace
+}  // namespace test_utilisateurs

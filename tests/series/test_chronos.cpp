@@ -8,6 +8,7 @@
 #include "faute.h"
 #include "plateformesimulee.h"
 
+namespace test_chronos {
 namespace {
 
 using testing::HasSubstr;
@@ -202,3 +203,4 @@ TEST_F(Chronos, decocher_cache_les_horloges_qui_courent_toujours) {
 }
 
 }  // namespace
+}  // namespace test_chronos

@@ -6,6 +6,7 @@
 
 #include "form1dessai.h"
 
+namespace test_form1_coller {
 namespace {
 
 class Form1coller : public essai::Form1dessai {
@@ -74,3 +75,4 @@ TEST_F(Form1coller, deux_cents_milliers_de_lettres_dans_chaque_boite) {
 }
 
 }  // namespace
+}  // namespace test_form1_coller

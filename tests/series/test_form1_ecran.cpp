@@ -11,6 +11,7 @@
 #include "form1dessai.h"
 #include "lignes.h"
 
+namespace test_form1_ecran {
 namespace {
 
 using Form1ecran = essai::Form1dessai;
@@ -166,3 +167,4 @@ TEST_F(Form1ecran, tab_suit_les_boites_comme_entree_puis_le_pied) {
 }
 
 }  // namespace
+}  // namespace test_form1_ecran

@@ -8,6 +8,7 @@
 
 #include "form1dessai.h"
 
+namespace test_form1_fautes {
 namespace {
 
 using testing::HasSubstr;
@@ -119,3 +120,4 @@ TEST_F(Form1fautes, la_5002e_rangee_fausse) {
 }
 
 }  // namespace
+}  // namespace test_form1_fautes

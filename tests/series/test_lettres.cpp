@@ -5,6 +5,7 @@
 
 #include "lettres.h"
 
+namespace test_lettres {
 namespace {
 
 using series::Lettres;
@@ -135,3 +136,4 @@ TEST(Lettres, un_tirage_plus_court_efface_le_precedent) {
 }
 
 }  // namespace
+}  // namespace test_lettres

@@ -5,6 +5,7 @@
 
 #include "form1.h"
 
+namespace test_motsdesnotes {
 namespace {
 
 using testing::ElementsAreArray;
@@ -66,3 +67,4 @@ TEST(Limitedesnotes, un_mot_de_plus_que_la_limite_dit_qu_il_y_en_a_trop) {
 }
 
 }  // namespace
+}  // namespace test_motsdesnotes

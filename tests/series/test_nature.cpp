@@ -3,6 +3,7 @@
 #include "catalogue.h"
 #include "nature.h"
 
+namespace test_nature {
 namespace {
 
 using series::Nature;
@@ -92,3 +93,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& cas) { return cas.param.regle; });
 
 }  // namespace
+}  // namespace test_nature

@@ -6,6 +6,7 @@
 #include "pioche.h"
 #include "serieessai.h"
 
+namespace test_pioche {
 namespace {
 
 using series::Comblement;
@@ -70,3 +71,4 @@ INSTANTIATE_TEST_SUITE_P(Tirage, Uniforme,
                          testing::Values(Comblement::Dernier, Comblement::Suivants));
 
 }  // namespace
+}  // namespace test_pioche

@@ -11,6 +11,7 @@
 #include "form1.h"
 #include "rangees.h"
 
+namespace test_rangees {
 namespace {
 
 using testing::AllOf;
@@ -167,3 +168,4 @@ TEST_F(Liste, une_nouvelle_lecture_remplace_tout) {
 }
 
 }  // namespace
+}  // namespace test_rangees

@@ -9,6 +9,7 @@
 #include "faute.h"
 #include "reference.h"
 
+namespace test_reference {
 namespace {
 
 using series::Lignesdemots;
@@ -185,3 +186,4 @@ TEST_F(Fichier, de_notes_se_lit_jusqu_au_bout_meme_sans_mot_a_chercher) {
 }
 
 }  // namespace
+}  // namespace test_reference

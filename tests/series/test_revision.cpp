@@ -10,6 +10,7 @@
 #include "listes.h"
 #include "revision.h"
 
+namespace test_revision {
 namespace {
 
 using testing::AllOf;
@@ -172,3 +173,4 @@ TEST_F(Revision, de_5002_rangees_est_une_faute_qui_le_laisse_intact) {
 }
 
 }  // namespace
+}  // namespace test_revision

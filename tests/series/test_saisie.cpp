@@ -8,6 +8,7 @@
 #include "serieessai.h"
 #include "valeurs.h"
 
+namespace test_saisie {
 namespace {
 
 using essai::tiree;
@@ -228,3 +229,4 @@ INSTANTIATE_TEST_SUITE_P(
     regle);
 
 }  // namespace
+}  // namespace test_saisie

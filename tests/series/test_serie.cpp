@@ -8,6 +8,7 @@
 #include "serie.h"
 #include "serieessai.h"
 
+namespace test_serie {
 namespace {
 
 using essai::tiree;
@@ -243,3 +244,4 @@ INSTANTIATE_TEST_SUITE_P(
     regle);
 
 }  // namespace
+}  // namespace test_serie

@@ -8,10 +8,10 @@
 #include "correction.h"
 #include "serieessai.h"
 
+namespace test_serie_correction {
 namespace {
 
 using essai::tiree;
-using series::Correction;
 using series::Etatreponse;
 using series::Etattirage;
 using series::Motsfaux;
@@ -261,3 +261,4 @@ TEST(Montrelemot, la_boite_juste_ou_le_tirage_qui_montre_la_solution) {
 }
 
 }  // namespace
+}  // namespace test_serie_correction

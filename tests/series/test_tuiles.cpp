@@ -7,6 +7,7 @@
 #include "plateformesimulee.h"
 #include "tuiles.h"
 
+namespace test_tuiles {
 namespace {
 
 /// Nine tiles of 100 twips, from 40 on.
@@ -107,3 +108,4 @@ TEST_F(Tuiles, un_caractere_accentue_tient_sur_une_tuile) {
 }
 
 }  // namespace
+}  // namespace test_tuiles

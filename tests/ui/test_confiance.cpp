@@ -7,6 +7,7 @@
 
 #include "confiance.h"
 
+namespace test_confiance {
 namespace {
 
 struct Adresse {
@@ -74,3 +75,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& cas) { return std::string(cas.param.nom); });
 
 }  // namespace
+}  // namespace test_confiance

@@ -5,6 +5,7 @@
 
 #include "formulairetemoin.h"
 
+namespace test_controle {
 namespace {
 
 using testing::ElementsAre;
@@ -220,3 +221,4 @@ TEST_F(Controle, une_minuterie_ne_dit_que_ses_departs_et_ses_arrets) {
 }
 
 }  // namespace
+}  // namespace test_controle

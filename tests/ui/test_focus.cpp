@@ -2,6 +2,7 @@
 
 #include "formulairetemoin.h"
 
+namespace test_focus {
 namespace {
 
 using testing::ElementsAre;
@@ -220,3 +221,4 @@ TEST_F(Focus, le_blanc_coche_la_case_et_Entree_va_au_bouton_par_defaut) {
 }
 
 }  // namespace
+}  // namespace test_focus

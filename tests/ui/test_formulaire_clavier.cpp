@@ -4,6 +4,7 @@
 
 #include "formulairetemoin.h"
 
+namespace test_formulaire_clavier {
 namespace {
 
 using testing::ElementsAre;
@@ -306,3 +307,4 @@ TEST_F(Clavier, ni_couper_ni_coller_dans_une_boite_verrouillee_ou_sans_presse_pa
 }
 
 }  // namespace
+}  // namespace test_formulaire_clavier

@@ -6,6 +6,7 @@
 #include "formulaire.h"
 #include "plateformesimulee.h"
 
+namespace test_plateforme {
 namespace {
 
 using testing::ElementsAre;
@@ -161,3 +162,4 @@ TEST_F(Executer, les_boites_de_message_et_leurs_reponses) {
 }
 
 }  // namespace
+}  // namespace test_plateforme

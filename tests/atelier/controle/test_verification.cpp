@@ -6,6 +6,7 @@
 #include "dossiertemporaire.h"
 #include "verification.h"
 
+namespace test_verification {
 namespace {
 
 using atelier::Constat;
@@ -180,3 +181,4 @@ TEST(Verification, un_dossier_vide_manque_de_tout) {
 }
 
 }  // namespace
+}  // namespace test_verification

@@ -7,6 +7,7 @@
 #include "faute.h"
 #include "regles.h"
 
+namespace test_catalogue {
 namespace {
 
 using menu::Ecran;
@@ -219,3 +220,4 @@ TEST(Catalogue, une_recette_se_trouve_par_le_fichier_de_sa_liste) {
 }
 
 }  // namespace
+}  // namespace test_catalogue

@@ -5,6 +5,7 @@
 
 #include "images.h"
 
+namespace test_images {
 namespace {
 
 using atelier::dessinertable;
@@ -57,3 +58,4 @@ TEST(Images, d_autres_lettres_font_une_autre_image) {
 }
 
 }  // namespace
+}  // namespace test_images

@@ -13,6 +13,7 @@
 #include "catalogue.h"
 #include "verification.h"
 
+namespace test_listes {
 namespace {
 
 std::string lire(const std::string& nom) {
@@ -270,3 +271,4 @@ TEST(Listes, les_notes_sont_au_plus_10000_et_en_ordre) {
 }
 
 }  // namespace
+}  // namespace test_listes

@@ -10,6 +10,7 @@
 #include "programme.h"
 #include "sortie.h"
 
+namespace test_sortie {
 namespace {
 
 using namespace atelier;
@@ -192,3 +193,4 @@ TEST_F(Sortie, un_fichier_a_la_place_du_dossier_est_une_faute) {
 }
 
 }  // namespace
+}  // namespace test_sortie

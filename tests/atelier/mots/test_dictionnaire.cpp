@@ -6,6 +6,7 @@
 #include "dictionnaire.h"
 #include "faute.h"
 
+namespace test_dictionnaire {
 namespace {
 
 using atelier::liredictionnaire;
@@ -80,3 +81,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& rangee) { return rangee.param.nom; });
 
 }  // namespace
+}  // namespace test_dictionnaire

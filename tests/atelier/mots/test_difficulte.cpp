@@ -3,6 +3,7 @@
 #include "difficulte.h"
 #include "petitlexique.h"
 
+namespace test_difficulte {
 namespace {
 
 using namespace atelier;
@@ -35,3 +36,4 @@ TEST(Difficulte, les_conjugaisons_et_les_mots_courts_ou_longs_n_apprennent_rien)
 }
 
 }  // namespace
+}  // namespace test_difficulte

@@ -8,6 +8,7 @@
 #include "references.h"
 #include "regles.h"
 
+namespace test_nouveautes {
 namespace {
 
 using namespace atelier;
@@ -82,3 +83,4 @@ TEST(Nouveautes, leurs_listes_de_reference_sont_vides_tant_que_rien_n_est_compar
 }
 
 }  // namespace
+}  // namespace test_nouveautes

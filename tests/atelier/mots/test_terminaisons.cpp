@@ -4,6 +4,7 @@
 
 #include "terminaisons.h"
 
+namespace test_terminaisons {
 namespace {
 
 struct Cas {
@@ -48,3 +49,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& cas) { return std::string(cas.param.nom); });
 
 }  // namespace
+}  // namespace test_terminaisons

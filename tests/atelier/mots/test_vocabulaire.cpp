@@ -4,6 +4,7 @@
 
 #include "petitlexique.h"
 
+namespace test_vocabulaire {
 namespace {
 
 using namespace atelier;
@@ -148,3 +149,4 @@ TEST(Vocabulaire, les_points_sont_ceux_des_jetons_francais) {
 }
 
 }  // namespace
+}  // namespace test_vocabulaire

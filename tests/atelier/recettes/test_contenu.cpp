@@ -7,6 +7,7 @@
 #include "fabrication.h"
 #include "petitlexique.h"
 
+namespace test_contenu {
 namespace {
 
 using namespace atelier;
@@ -169,3 +170,4 @@ TEST(Fabrication, une_liste_trop_longue_est_coupee_et_le_dit) {
 }
 
 }  // namespace
+}  // namespace test_contenu

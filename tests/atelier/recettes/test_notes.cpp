@@ -6,6 +6,7 @@
 #include "notes.h"
 #include "petitlexique.h"
 
+namespace test_notes {
 namespace {
 
 using namespace atelier;
@@ -124,3 +125,4 @@ TEST(Notes, elles_sont_par_alphabet_et_jamais_vides_ni_un_mot) {
 }
 
 }  // namespace
+}  // namespace test_notes

@@ -10,6 +10,7 @@
 #include "references.h"
 #include "tables.h"
 
+namespace test_recettes {
 namespace {
 
 using namespace atelier;
@@ -311,3 +312,4 @@ TEST(Tables, six_mots_non_conjugues_et_plus) {
 }
 
 }  // namespace
+}  // namespace test_recettes

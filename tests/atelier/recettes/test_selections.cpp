@@ -7,6 +7,7 @@
 
 #include "petiteliste.h"
 
+namespace test_selections {
 namespace {
 
 using namespace atelier;
@@ -145,3 +146,4 @@ TEST(Verbes45, sans_ceux_que_le_thesaurus_dit_courants) {
 }
 
 }  // namespace
+}  // namespace test_selections

@@ -2,6 +2,7 @@
 
 #include "petitglossaire.h"
 
+namespace test_criteres {
 namespace {
 
 using namespace recherche;
@@ -189,3 +190,4 @@ TEST(Criteres, une_liste_vide_est_dite) {
 }
 
 }  // namespace
+}  // namespace test_criteres

@@ -2,6 +2,7 @@
 
 #include "envigueur.h"
 
+namespace test_envigueur {
 namespace {
 
 using namespace recherche;
@@ -33,3 +34,4 @@ INSTANTIATE_TEST_SUITE_P(Envigueur, Abime,
                                          "libre\r\n1\r\nnom\r\n", "perso\r\n1\r\n\r\n"));
 
 }  // namespace
+}  // namespace test_envigueur

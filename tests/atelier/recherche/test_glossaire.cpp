@@ -2,6 +2,7 @@
 
 #include "petitglossaire.h"
 
+namespace test_glossaire {
 namespace {
 
 using namespace recherche;
@@ -90,3 +91,4 @@ TEST(Glossaire, connait_les_mots_d_un_tirage) {
 }
 
 }  // namespace
+}  // namespace test_glossaire

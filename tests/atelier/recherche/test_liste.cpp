@@ -9,6 +9,7 @@
 #include "petitglossaire.h"
 #include "verification.h"
 
+namespace test_liste {
 namespace {
 
 using namespace recherche;
@@ -149,3 +150,4 @@ TEST_F(Listeslues, ce_qui_ne_se_lit_pas_est_dit) {
 }
 
 }  // namespace
+}  // namespace test_liste

@@ -11,6 +11,7 @@
 #include "invariables.h"
 #include "petitglossaire.h"
 
+namespace test_seconde {
 namespace {
 
 using namespace recherche;
@@ -488,3 +489,4 @@ TEST(Seconde, des_criteres_ensemble_un_ordre_et_un_maximum_donnent_les_memes_mot
 }
 
 }  // namespace
+}  // namespace test_seconde

@@ -6,6 +6,7 @@
 #include "faute.h"
 #include "petitlexique.h"
 
+namespace test_affixes {
 namespace {
 
 using atelier::Affixes;
@@ -130,3 +131,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& rangee) { return rangee.param.nom; });
 
 }  // namespace
+}  // namespace test_affixes

@@ -5,6 +5,7 @@
 #include "grammaire.h"
 #include "lexique.h"
 
+namespace test_grammaire {
 namespace {
 
 using namespace atelier;
@@ -72,3 +73,4 @@ TEST(Grammaire, le_code_d_un_verbe_se_lit_place_par_place) {
 }
 
 }  // namespace
+}  // namespace test_grammaire

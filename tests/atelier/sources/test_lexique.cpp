@@ -9,6 +9,7 @@
 #include "faute.h"
 #include "petitlexique.h"
 
+namespace test_lexique {
 namespace {
 
 using testing::AllOf;
@@ -205,3 +206,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& rangee) { return rangee.param.nom; });
 
 }  // namespace
+}  // namespace test_lexique

@@ -10,6 +10,7 @@
 
 #include "vocabulaire.h"
 
+namespace test_mots {
 namespace {
 
 using namespace atelier;
@@ -118,3 +119,4 @@ TEST(Mots, du_jeu_sont_la_et_les_autres_non) {
 }
 
 }  // namespace
+}  // namespace test_mots

@@ -8,6 +8,7 @@
 #include "petitlexique.h"
 #include "retouches.h"
 
+namespace test_retouches {
 namespace {
 
 using namespace atelier;
@@ -201,3 +202,4 @@ TEST(Retouches, un_mot_n_est_ajoute_qu_une_fois_et_n_est_pas_refuse) {
 }
 
 }  // namespace
+}  // namespace test_retouches

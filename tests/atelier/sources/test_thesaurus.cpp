@@ -3,6 +3,7 @@
 #include "faute.h"
 #include "thesaurus.h"
 
+namespace test_thesaurus {
 namespace {
 
 using atelier::Thesaurus;
@@ -58,3 +59,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& rangee) { return rangee.param.nom; });
 
 }  // namespace
+}  // namespace test_thesaurus

@@ -29,6 +29,7 @@
 #include "petitchantier.h"
 #include "petitglossaire.h"
 
+namespace test_pages {
 namespace {
 
 using namespace carnet;
@@ -391,6 +392,7 @@ TEST(Fenetresansmots, dit_pourquoi_et_reste_ouverte) {
 }
 
 }  // namespace
+}  // namespace test_pages
 
 int main(int nombre, char** arguments) {
     testing::InitGoogleMock(&nombre, arguments);

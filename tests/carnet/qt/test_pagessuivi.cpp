@@ -25,6 +25,7 @@
 #include "sauvegarde.h"
 #include "seance.h"
 
+namespace test_pagessuivi {
 namespace {
 
 using namespace carnet;
@@ -289,3 +290,4 @@ TEST(Formes, disent_le_mode_sans_la_couleur) {
 }
 
 }  // namespace
+}  // namespace test_pagessuivi

@@ -12,6 +12,7 @@
 
 #include "traduction.h"
 
+namespace test_traduction {
 namespace {
 
 TEST(Traduction, les_mots_de_qt_sont_francais) {
@@ -25,3 +26,4 @@ TEST(Traduction, les_mots_de_qt_sont_francais) {
 }
 
 }  // namespace
+}  // namespace test_traduction

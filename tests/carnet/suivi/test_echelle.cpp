@@ -13,6 +13,7 @@
 
 #include "echelle.h"
 
+namespace test_echelle {
 namespace {
 
 using carnet::Echelle;
@@ -305,3 +306,4 @@ TEST(Echelle, un_manque_est_toujours_du_le_lendemain) {
 }
 
 }  // namespace
+}  // namespace test_echelle

@@ -9,6 +9,7 @@
 #include "faute.h"
 #include "progres.h"
 
+namespace test_progres {
 namespace {
 
 std::string texte(const carnet::Bilans& bilans) {
@@ -75,3 +76,4 @@ TEST(Progres, un_fichier_illisible_est_une_faute) {
 }
 
 }  // namespace
+}  // namespace test_progres

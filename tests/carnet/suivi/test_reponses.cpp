@@ -11,6 +11,7 @@
 #include "dossiertemporaire.h"
 #include "reponses.h"
 
+namespace test_reponses {
 namespace {
 
 using testing::HasSubstr;
@@ -113,3 +114,4 @@ TEST(Jours, s_ecrivent) {
 }
 
 }  // namespace
+}  // namespace test_reponses

@@ -10,6 +10,7 @@
 #include "suivi.h"
 #include "tableaux.h"
 
+namespace test_travail {
 namespace {
 
 using carnet::Jour;
@@ -174,3 +175,4 @@ TEST(Calendrier, nomme_les_jours) {
 }
 
 }  // namespace
+}  // namespace test_travail

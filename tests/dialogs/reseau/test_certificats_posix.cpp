@@ -8,6 +8,7 @@
 
 #include "verification.h"
 
+namespace test_certificats_posix {
 namespace {
 
 using namespace essai;
@@ -73,3 +74,4 @@ TEST_F(Certifie, un_certificat_reconnu_est_servi) {
 }
 
 }  // namespace
+}  // namespace test_certificats_posix

@@ -8,6 +8,7 @@
 
 #include "verification.h"
 
+namespace test_reseau {
 namespace {
 
 using namespace essai;
@@ -204,3 +205,4 @@ TEST_F(Reseau, une_adresse_https_sur_un_serveur_qui_ne_l_est_pas) {
 }
 
 }  // namespace
+}  // namespace test_reseau

@@ -7,6 +7,7 @@
 #include "navigateur.h"
 #include "plateformeqt.h"
 
+namespace test_ouvertures_posix {
 namespace {
 
 TEST(Ouvertures, un_fichier_s_ouvre_par_son_chemin_entier) {
@@ -22,3 +23,4 @@ TEST(Ouvertures, un_fichier_s_ouvre_par_son_chemin_entier) {
 }
 
 }  // namespace
+}  // namespace test_ouvertures_posix

@@ -11,6 +11,7 @@
 #include "images.h"
 #include "minuteur.h"
 
+namespace test_tubes_posix {
 namespace {
 
 class Tubes : public testing::Test {
@@ -35,3 +36,4 @@ TEST_F(Tubes, a_la_place_d_une_image) {
 }
 
 }  // namespace
+}  // namespace test_tubes_posix

@@ -13,6 +13,7 @@
 #include "accordqt.h"
 #include "bureauqt.h"
 
+namespace test_accord {
 namespace {
 
 using essais::BureauQt;
@@ -120,3 +121,4 @@ TEST_F(Accord, un_focus_qui_n_est_pas_celui_du_modele_se_voit) {
 }
 
 }  // namespace
+}  // namespace test_accord

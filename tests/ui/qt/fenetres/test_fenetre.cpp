@@ -12,6 +12,7 @@
 
 #include "bureauqt.h"
 
+namespace test_fenetre {
 namespace {
 
 using essais::BureauQt;
@@ -345,3 +346,4 @@ TEST_F(Devant, suit_la_sienne_sans_prendre_le_clavier_d_un_autre_programme) {
 }
 
 }  // namespace
+}  // namespace test_fenetre

@@ -5,6 +5,7 @@
 
 #include "bureauqt.h"
 
+namespace test_focusqt {
 namespace {
 
 using essais::BureauQt;
@@ -168,3 +169,4 @@ TEST_F(Focus, l_anneau_dit_ou_est_le_clavier) {
 }
 
 }  // namespace
+}  // namespace test_focusqt

@@ -7,6 +7,7 @@
 
 #include "bureauqt.h"
 
+namespace test_menu {
 namespace {
 
 using essais::BureauQt;
@@ -89,3 +90,4 @@ TEST_F(Menus, il_se_rouvre_apres_un_choix) {
 }
 
 }  // namespace
+}  // namespace test_menu

@@ -9,6 +9,7 @@
 #include "attente.h"
 #include "minuteur.h"
 
+namespace test_attente {
 namespace {
 
 class Attentes : public testing::Test {
@@ -58,3 +59,4 @@ TEST_P(FinDuProgramme, n_est_pas_un_succes) {
 INSTANTIATE_TEST_SUITE_P(Attentes, FinDuProgramme, testing::Values(0, 1));
 
 }  // namespace
+}  // namespace test_attente

@@ -7,6 +7,7 @@
 #include "bureauqt.h"
 #include "clavierqt.h"
 
+namespace test_clavierqt {
 namespace {
 
 using essais::BureauQt;
@@ -182,3 +183,4 @@ TEST_F(Clavier, une_touche_envoyee_a_la_fenetre_vaut_comme_au_controle) {
 }
 
 }  // namespace
+}  // namespace test_clavierqt

@@ -10,6 +10,7 @@
 #include "hautparleur.h"
 #include "minuteur.h"
 
+namespace test_hautparleur {
 namespace {
 
 QByteArray mot(quint16 valeur) {
@@ -104,3 +105,4 @@ TEST_F(HautParleur, ne_retient_jamais_plus_que_la_duree_du_son_et_sa_marge) {
 }
 
 }  // namespace
+}  // namespace test_hautparleur

@@ -8,6 +8,7 @@
 #include "minuteur.h"
 #include "plateformesimulee.h"
 
+namespace test_minuteur {
 namespace {
 
 class Minuteries : public testing::Test {
@@ -144,3 +145,4 @@ TEST_F(Minuteries, une_forme_qui_s_en_va_emporte_ses_minuteries) {
 }
 
 }  // namespace
+}  // namespace test_minuteur

@@ -6,6 +6,7 @@
 #include "reseau.h"
 #include "son.h"
 
+namespace test_modules {
 namespace {
 
 TEST(Modules, le_son_et_le_reseau_se_trouvent) {
@@ -18,3 +19,4 @@ TEST(Modules, un_module_qui_manque_n_est_pas_une_faute) {
 }
 
 }  // namespace
+}  // namespace test_modules

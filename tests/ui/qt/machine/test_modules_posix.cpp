@@ -8,6 +8,7 @@
 
 #include "modules.h"
 
+namespace test_modules_posix {
 namespace {
 
 TEST(Modules, un_fichier_qui_n_est_pas_un_module_n_est_pas_une_faute) {
@@ -22,3 +23,4 @@ TEST(Modules, un_fichier_qui_n_est_pas_un_module_n_est_pas_une_faute) {
 }
 
 }  // namespace
+}  // namespace test_modules_posix

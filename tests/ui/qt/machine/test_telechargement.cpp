@@ -4,6 +4,7 @@
 #include "provisoire.h"
 #include "telechargements.h"
 
+namespace test_telechargement {
 namespace {
 
 using essais::Telechargements;
@@ -209,3 +210,4 @@ TEST_F(Telechargements, les_minuteries_attendent_sa_fin) {
 }
 
 }  // namespace
+}  // namespace test_telechargement

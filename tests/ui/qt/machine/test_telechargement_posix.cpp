@@ -2,6 +2,7 @@
 
 #include "telechargements.h"
 
+namespace test_telechargement_posix {
 namespace {
 
 using essais::Telechargements;
@@ -18,3 +19,4 @@ TEST_F(Telechargements, un_lien_symbolique_et_les_droits_restent) {
 }
 
 }  // namespace
+}  // namespace test_telechargement_posix

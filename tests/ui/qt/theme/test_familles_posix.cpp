@@ -6,6 +6,7 @@
 
 #include "fonte.h"
 
+namespace test_familles_posix {
 namespace {
 
 TEST(Fontes, les_familles_nommees_ont_des_remplacantes_differentes) {
@@ -28,3 +29,4 @@ TEST(Fontes, une_famille_absente_cede_a_celle_que_qt_prendrait) {
 }
 
 }  // namespace
+}  // namespace test_familles_posix

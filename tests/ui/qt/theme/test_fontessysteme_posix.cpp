@@ -9,6 +9,7 @@
 
 #include "fontessysteme.h"
 
+namespace test_fontessysteme_posix {
 namespace {
 
 template <class Operation>
@@ -52,3 +53,4 @@ TEST(FontesSysteme, les_reglages_lus_a_part_sont_ceux_que_qt_lit) {
 }
 
 }  // namespace
+}  // namespace test_fontessysteme_posix

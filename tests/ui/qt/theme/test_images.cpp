@@ -9,6 +9,7 @@
 
 #include "images.h"
 
+namespace test_images {
 namespace {
 
 class Images : public testing::Test {
@@ -105,3 +106,4 @@ TEST_F(Images, l_icone_prend_les_tailles_presentes) {
 }
 
 }  // namespace
+}  // namespace test_images

@@ -9,6 +9,7 @@
 #include "fonte.h"
 #include "theme.h"
 
+namespace test_theme {
 namespace {
 
 using ui::Couleur;
@@ -130,3 +131,4 @@ TEST(Fontes, un_texte_qui_tient_garde_sa_taille) {
 }
 
 }  // namespace
+}  // namespace test_theme

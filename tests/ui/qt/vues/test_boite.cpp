@@ -12,6 +12,7 @@
 
 #include "bureauqt.h"
 
+namespace test_boite {
 namespace {
 
 using essais::BureauQt;
@@ -425,3 +426,4 @@ TEST_F(Boites, un_clic_dans_le_texte_d_une_liste_n_est_pas_un_choix) {
 }
 
 }  // namespace
+}  // namespace test_boite

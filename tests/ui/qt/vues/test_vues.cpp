@@ -16,6 +16,7 @@
 #include "bureauqt.h"
 #include "theme.h"
 
+namespace test_vues {
 namespace {
 
 using essais::BureauQt;
@@ -383,3 +384,4 @@ TEST_F(Vues, une_image_que_la_reserve_de_qt_refuse_n_est_lue_qu_une_fois) {
 }
 
 }  // namespace
+}  // namespace test_vues
