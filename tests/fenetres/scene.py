@@ -16,8 +16,9 @@ import time
 
 # What libraries write of the machine: it has no sound server and no graphics card.
 DEHORS = ("PulseAudioService", "qt.multimedia.ffmpeg: ", "Failed to open VDPAU backend",
-          # The cell of a table that went away while the scene was reading it.
-          "QAccessibleTable::child: Invalid index")
+          # What went away while the scene was reading it, such as the cell of a table.
+          "QAccessibleTable::child: Invalid index",
+          "qt.accessibility.atspi: Could not find accessible on path: ")
 
 ATTENTE = 40  # seconds after which a condition that has not come is a failure
 
