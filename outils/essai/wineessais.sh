@@ -10,7 +10,7 @@ construireessais() {
 s = socket.socket()
 s.bind(("127.0.0.1", 0))
 print(s.getsockname()[1])')
-    cmake --preset windows -B "$essais" -DCMAKE_PREFIX_PATH="$(outils/qt-windows)" \
+    cmake --preset windows --fresh -B "$essais" -DCMAKE_PREFIX_PATH="$(outils/qt-windows)" \
         -DORVANE_NATIF="$racine/build/natif" -DORVANE_ADRESSE_MISEAJOUR="http://127.0.0.1:$port"
     cmake --build "$essais"
 }
