@@ -33,8 +33,10 @@ namespace test_pages {
 namespace {
 
 using namespace carnet;
+using testing::AllOf;
+using testing::EndsWith;
 using testing::HasSubstr;
-using testing::MatchesRegex;
+using testing::StartsWith;
 
 std::vector<std::string> rangees(std::size_t nombre) {
     std::vector<std::string> toutes;
@@ -88,10 +90,10 @@ TEST_F(Formulaire, dit_ses_criteres_en_texte) {
     choix("par")->setCurrentIndex(1);
     choix("ordre")->setCurrentIndex(4);
     ligne("max")->setText(QStringLiteral("500"));
-    EXPECT_THAT(
-        criteres.texte().toStdString(),
-        MatchesRegex("longueur=7-8 contient=qu,k nature=nom,!pluriel dans=\"la mienne.txt\" "
-                     "par=1 ordre=hasard graine=[0-9]+ max=500"));
+    EXPECT_THAT(criteres.texte().toStdString(),
+                AllOf(StartsWith("longueur=7-8 contient=qu,k nature=nom,!pluriel "
+                                 "dans=\"la mienne.txt\" par=1 ordre=hasard graine="),
+                      EndsWith(" max=500")));
 }
 
 TEST_F(Formulaire, au_hasard_choisi_de_nouveau_en_tire_d_autres) {
