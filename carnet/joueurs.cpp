@@ -4,6 +4,7 @@
 
 #include "fichier.h"
 #include "reponses.h"
+#include "texte.h"
 #include "utilisateurs.h"
 
 namespace carnet {
@@ -41,7 +42,8 @@ int lireplafonddejoueur(common::Disque& disque, std::string_view util) {
 }
 
 std::error_code ecrireplafonddejoueur(common::Disque& disque, std::string_view util, int plafond) {
-    return disque.remplacer(cheminplafond(util), std::to_string(plafond) + "\r\n");
+    return disque.remplacer(cheminplafond(util),
+                            std::to_string(plafond).append(common::findeligne));
 }
 
 }  // namespace carnet

@@ -75,7 +75,7 @@ std::error_code enregistrer(common::Disque& disque, std::string_view fichier,
                             const std::vector<std::string>& rangees) {
     std::string octets;
     for (const auto& rangee : rangees)
-        octets.append(common::vers1252(rangee)).append("\r\n");
+        octets.append(common::vers1252(rangee)).append(common::findeligne);
     return disque.remplacer(common::cheminliste(fichier), octets);
 }
 

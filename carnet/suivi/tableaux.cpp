@@ -29,7 +29,7 @@ std::string cellule(std::string texte) {
 void ligne(std::string& octets, const std::vector<std::string>& cellules) {
     for (std::size_t i = 0; i < cellules.size(); ++i)
         octets.append(i == 0 ? "" : ";").append(cellule(cellules[i]));
-    octets.append("\r\n");
+    octets.append(common::findeligne);
 }
 
 std::string jours(std::size_t nombre) {

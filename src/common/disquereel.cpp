@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "provisoire.h"
+#include "texte.h"
 
 namespace common {
 namespace {
@@ -51,10 +52,9 @@ std::error_code liretout(Appels& appels, Poignee poignee, std::string& octets) {
 
 /// What has to come between the end of a file and a new line.
 std::string_view soudure(std::string_view octets) {
-    constexpr std::string_view fin = "\r\n";
     if (octets.empty() || octets.back() == '\n')
         return {};
-    return octets.back() == '\r' ? fin.substr(1) : fin;
+    return octets.back() == '\r' ? findeligne.substr(1) : findeligne;
 }
 
 /// What has to come between the end of a file of that size and a new line.

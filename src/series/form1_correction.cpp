@@ -6,12 +6,11 @@
 #include "faute.h"
 #include "fichier.h"
 #include "form1.h"
+#include "reference.h"
 #include "texte.h"
 
 namespace series {
 namespace {
-
-constexpr std::string_view actioncorrection = "Correction de la série";
 
 /// One word for each letter: with a joker the letters are so many answers. One word past the limit
 /// tells that there are too many.

@@ -7,6 +7,7 @@
 #include "fichier.h"
 #include "formserie.h"
 #include "nombre.h"
+#include "reference.h"
 #include "revision.h"
 
 namespace series {
@@ -70,7 +71,7 @@ void Formserie::appliquer(const Correction& correction, std::string_view atemps)
         garderenrevision(correction.ratees);
     if (const auto& pleine = correction.pleine) {
         throw common::Faute(common::rapportligne(
-            "Correction de la série", serie_.fich, serie_.place(pleine->place).ligne,
+            actioncorrection, serie_.fich, serie_.place(pleine->place).ligne,
             "trop de " + std::string(pleine->quoi) + " dans cette liste ; la limite est de " +
                 std::to_string(pleine->limite)));
     }

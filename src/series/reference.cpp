@@ -9,12 +9,10 @@
 namespace series {
 namespace {
 
-constexpr std::string_view actionreference = "Correction de la série";
-
 [[noreturn]] void trop(std::string_view chemin, std::size_t ligne, std::size_t limite,
                        std::string_view quoi) {
     throw common::Faute(common::rapportligne(
-        actionreference, chemin, ligne,
+        actioncorrection, chemin, ligne,
         "trop de " + std::string(quoi) + " ; la limite est de " + std::to_string(limite)));
 }
 
@@ -46,7 +44,7 @@ std::vector<bool> chercherliste(common::Disque& disque, std::string_view chemin,
     std::vector<bool> trouves(nombredemots, false);
     std::size_t nombre = 0;
     bool ouverte = true;
-    common::Items(disque, chemin, actionreference)
+    common::Items(disque, chemin, actioncorrection)
         .chaque([&](std::string_view item, std::size_t ligne) {
             if (++nombre > limite)
                 trop(chemin, ligne, limite, "mots");
@@ -64,7 +62,7 @@ std::vector<Note> cherchernotes(common::Disque& disque, std::string_view chemin,
     std::vector<Note> notes;
     std::vector<std::size_t> attente;  // words whose note is the next line
     bool ouverte = true;
-    common::Lignes(disque, chemin, actionreference)
+    common::Lignes(disque, chemin, actioncorrection)
         .chaque([&](std::string_view ligne, std::size_t numero) {
             if (numero > limite)
                 trop(chemin, numero, limite, "lignes");

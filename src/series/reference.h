@@ -14,6 +14,9 @@
 
 namespace series {
 
+/// What is being done, in the reports of a correction.
+inline constexpr std::string_view actioncorrection = "Correction de la série";
+
 /// A set of words to look for, fast to ask for each word of a large file.
 class Recherche {
   public:
